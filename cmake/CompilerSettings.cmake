@@ -1,0 +1,28 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Warnings, sanitizers and the Qt definitions that every target of this project is built with.
+# They stay inside the project: an installed library passes none of them on.
+
+add_library(voltbok_compiler_settings INTERFACE)
+target_compile_definitions(voltbok_compiler_settings INTERFACE
+    QT_NO_CAST_TO_ASCII
+    QT_RESTRICTED_CAST_FROM_ASCII
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_KEYWORDS
+    QT_NO_FOREACH)
+
+if(MSVC)
+    target_compile_options(voltbok_compiler_settings INTERFACE /W4 /utf-8)
+else()
+    target_compile_options(voltbok_compiler_settings INTERFACE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+endif()
+
+if(VOLTBOK_WARNINGS_AS_ERRORS)
+    target_compile_options(voltbok_compiler_settings INTERFACE $<IF:$<BOOL:${MSVC}>,/WX,-Werror>)
+endif()
+
+if(VOLTBOK_SANITIZE)
+    target_compile_options(voltbok_compiler_settings INTERFACE
+        -fsanitize=${VOLTBOK_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+    target_link_options(voltbok_compiler_settings INTERFACE -fsanitize=${VOLTBOK_SANITIZE})
+endif()

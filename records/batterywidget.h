@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "voltbok_export.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QList>
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+
+class BatteryWidgetPrivate;
+
+/**
+ * One battery: the record of its figures and discharge history, and at the same time its card on the overview.
+ *
+ * Every setter stores its value and refreshes the label of the card that shows it; none checks a range or emits
+ * a signal. The name is the battery's identity.
+ */
+class VOLTBOK_EXPORT BatteryWidget : public QWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(BatteryWidget)
+
+public:
+    /** How much the card shows, and which capture mode a click on it follows. */
+    enum ViewMode {
+        Simple = 0, ///< without the figures of the last discharge; a discharge is recorded at once
+        Complex = 1 ///< with them; a discharge is recorded on the discharge page
+    };
+    Q_ENUM(ViewMode)
+
+    explicit BatteryWidget(QWidget *parent = nullptr);
+    ~BatteryWidget() override;
+
+    void setBatteryName(QString &name);
+    QString getBatteryName() const;
+    /** Nominal capacity in mAh. */
+    void setBatteryCapacity(unsigned int capacity);
+    unsigned int getBatteryCapacity() const;
+    /** Permitted discharge rate in whole C. */
+    void setBatteryRating(unsigned int rating);
+    unsigned int getBatteryRating() const;
+    /** Number of discharge cycles. */
+    void setBatteryCycles(unsigned int cycles);
+    unsigned int getBatteryCycles() const;
+    /** Capacity taken out in the last discharge, in mAh. */
+    void setBatteryLastDischarged(unsigned int discharged);
+    unsigned int getBatteryLastDischarged() const;
+    /** Highest current of the last discharge, in hundredths of an ampere. */
+    void setBatteryLastMaxCurrent(unsigned int maxCurrent);
+    unsigned int getBatteryLastMaxCurrent() const;
+    /** Permitted charge rate in tenths of C; 0 is ignored, so a rate once set cannot be cleared. */
+    void setBatteryChargeRate(unsigned int rate);
+    unsigned int getBatteryChargeRate() const;
+    void setDateOfPurchase(QDate &date);
+    QDate getdateOfPurchase() const;
+    void setLastUpdated(QDateTime when);
+    QDateTime getBatteryLastUpdated() const;
+
+    /**
+     * Sets the charge state and the look of the card's button.
+     *
+     * @param byUser also stamps the time and emits dataChanged(); a discharge then counts a cycle and leaves a
+     *        history entry without measurements.
+     */
+    void setBatteryCharged(bool charged, bool byUser);
+    bool getBatteryCharged() const;
+
+    /** Stores any value; only Simple and Complex change what the card shows. */
+    void setViewMode(ViewMode mode);
+    ViewMode getViewMode() const;
+
+    /** The history: three lists of equal length in the order of recording, one entry for each discharge. */
+    QList<QDateTime> &getDates();
+    /** Discharged capacities in mAh, parallel to getDates(). */
+    QList<unsigned int> &getDischarges();
+    /** Maximum currents in hundredths of an ampere, parallel to getDates(). */
+    QList<unsigned int> &getCurrents();
+
+    /** Records a discharge without measurements; @p notify emits dataChanged(). */
+    void addSimpleEntry(QDateTime &when, bool notify);
+    /** Records a discharge of @p discharged mAh at @p maxCurrent hundredths of an ampere. */
+    void addFullEntry(QDateTime &when, unsigned int discharged, unsigned int maxCurrent, bool notify);
+    /**
+     * Looks a discharge up by its exact time; with equal times the earlier entry wins.
+     *
+     * @return false, with both numbers unchanged, when there is none.
+     */
+    bool getEvent(QDateTime &when, unsigned int &discharged, unsigned int &maxCurrent);
+
+Q_SIGNALS:
+    /** The record has changed in a way that must be saved. */
+    void dataChanged();
+    /** The button of a charged battery was clicked. */
+    void chargeBatteryClicked();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private Q_SLOTS:
+    void on_pushButton_clicked();
+
+private:
+    std::unique_ptr<BatteryWidgetPrivate> d;
+};

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "voltbok_export.h"
+
+#include <QList>
+#include <QObject>
+#include <QString>
+#include <QXmlStreamReader>
+#include <QXmlStreamWriter>
+
+#include <optional>
+
+class BatteryWidget;
+class ModelWidget;
+
+/**
+ * Moves the catalogue between the caller's lists and the data file "voltbok.xml" in the base directory.
+ *
+ * It keeps no copy of the catalogue. Saving rewrites the whole file in place; every loader parses the whole file
+ * by itself, appends to the list it is given and leaves the new records to the caller. Failures are silent: a
+ * missing or unreadable file loads nothing, a malformed one keeps what stands before the error, an unwritable one
+ * is left as it was.
+ */
+class VOLTBOK_EXPORT DataProcessor : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(DataProcessor)
+
+public:
+    explicit DataProcessor(QObject *parent = nullptr);
+    ~DataProcessor() override;
+
+    /** Stores the directory of the data file; reads and writes nothing. */
+    void setBasePath(const QString &path);
+
+    /** Writes the complete file, creating the directory if need be; does nothing while the base path is empty. */
+    void addData(QList<BatteryWidget *> &batteries, QList<ModelWidget *> &models, QList<QString> &locations);
+
+    /** Appends the file's locations; returns whether the list holds any afterwards. */
+    bool getLocationsFromData(QList<QString> &locations);
+    /** Appends one new, parentless record for each model; the caller owns them. */
+    void getModelWidgetsFromData(QList<ModelWidget *> &models);
+    /** Appends one new, parentless record for each battery; the caller owns them. */
+    void getBatteryWidgetsFromData(QList<BatteryWidget *> &batteries);
+
+private:
+    void writeLocations(QList<QString> &locations);
+    void writeBattery(BatteryWidget *battery);
+    void writeBatteryData(BatteryWidget *battery);
+    void writeModel(ModelWidget *model);
+    void writeFlightData(ModelWidget *model);
+
+    void readLocations(QList<QString> &locations);
+    void readBatteries(QList<BatteryWidget *> &batteries);
+    void readBatteryData(BatteryWidget *battery);
+    void readModels(QList<ModelWidget *> &models);
+    void readFlightData(ModelWidget *model);
+
+    std::optional<QXmlStreamWriter> writer; // a writer keeps its error over setDevice(): each save has a fresh one
+    QXmlStreamReader reader;
+    QString basePath = QStringLiteral("");
+};
