@@ -6,21 +6,28 @@
 
 #include <QList>
 #include <QMainWindow>
+#include <QPointF>
 #include <QString>
+#include <QStringList>
 
 class BatteryWidget;
+class LogData;
 class ModelWidget;
 class QAbstractButton;
+class QChart;
 class QChartView;
+class QDateTime;
 class QKeyEvent;
+class QLabel;
+class QPushButton;
 class Ui_VoltbokGui;
 
 /**
  * The logbook's main window: fifteen pages over one data file.
  *
  * A host constructs it, connects closeVoltbokGui(), names the directory of the data file with
- * changeStoragePath(), and shows it. Nothing is read before that. Every change rewrites the data file at once, so
- * the host may close or delete the window at any time. User-interface thread only.
+ * changeStoragePath(), and shows it. Nothing is read before that. Every change rewrites the data file at
+ * once, so the host may close or delete the window at any time. User-interface thread only.
  */
 class VOLTBOK_EXPORT VoltbokGui : public QMainWindow
 {
@@ -38,8 +45,8 @@ Q_SIGNALS:
     /** The user pressed the home button; the host closes, hides or deletes the window. */
     void closeVoltbokGui();
 
-    // The slots are public and in one block because their order is part of the interface: a host may call them
-    // through their indices in the meta-object. Slots named after a widget are connected by name.
+    // The slots are public and in one block because their order is part of the interface: a host may call
+    // them through their indices in the meta-object. Slots named after a widget are connected by name.
 public Q_SLOTS:
     void on_pb_update_battery_clicked();
     void on_pb_update_model_clicked();
@@ -90,6 +97,48 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    enum class OtherBatteries { Clear, Keep };
+
+    void retranslate();
+
+    // navigation
+    void showPage(QWidget *page, int id);
+    void showOverview();
+
+    // overview
+    QStringList locations() const;
+    void saveAndReload();
+    void reloadLocations();
+    void reloadModels();
+    void reloadBatteries();
+    void rebuildOverview();
+    ModelWidget *selectedModel() const;
+    QWidget *renewContent();
+    void placeCards();
+    void placeHint(int row);
+    void placeSpacer(int row);
+
+    // capture
+    void recordFlight(const QDateTime &moment);
+    void recordDischarge(QDateTime &moment);
+    void restoreCaptureMode();
+
+    // editing
+    static bool confirmed(QPushButton *button, QLabel *question);
+    static void resetConfirmation(QPushButton *button, QLabel *question);
+    static void showConfirmationText(QPushButton *button);
+    void changeAssignment(void (ModelWidget::*change)(const QString &));
+
+    // log book
+    ModelWidget *loggedModel() const;
+    void stepThroughLog(bool (ModelWidget::*step)(LogData &), QPushButton *onwards, QPushButton *back);
+    void showFlight(const LogData &flight);
+    void showFlownBatteries(LogData &flight, OtherBatteries others);
+
+    // chart
+    QList<QPointF> chartPoints(BatteryWidget &battery) const;
+    void showChart(QChart *chart);
+
     Ui_VoltbokGui *ui;
     DataProcessor dataProcessor;
     int currentPage = 0;       // identifier of the page on show, see gui/pages.h
