@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "gui/voltbokgui.h"
+#include "plugin/rotavexplugin.h"
+#include "records/batterywidget.h"
+#include "records/modelwidget.h"
+#include "ui_voltbokgui.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+/**
+ * A window on show over a data file in a folder of its own, with empty preferences; for tests that use it as
+ * a pilot does. Any Qt warning fails the test that made one.
+ */
+class LogbookWindow
+{
+public:
+    LogbookWindow()
+    {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+        RotavexPlugin::rotavexSettings->clear();
+        restart();
+    }
+
+    /** Another window over the same folder; the one before is deleted. */
+    void restart()
+    {
+        m_gui.reset();
+        m_gui = std::make_unique<VoltbokGui>();
+        m_gui->changeStoragePath(folder());
+        m_gui->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_gui.get()));
+    }
+
+    /** Puts a data file into the folder and loads it. */
+    void load(const QByteArray &xml)
+    {
+        QFile file(filePath());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(xml);
+        file.close();
+        m_gui->changeStoragePath(folder());
+    }
+
+    VoltbokGui *operator->() { return m_gui.get(); }
+    VoltbokGui &gui() { return *m_gui; }
+    Ui_VoltbokGui &ui() { return *m_gui->ui; }
+
+    QString folder() const { return m_folder.path(); }
+    QString filePath() const { return m_folder.filePath(QStringLiteral("voltbok.xml")); }
+
+    /** The data file's bytes; empty when there is none. */
+    QByteArray fileBytes() const
+    {
+        QFile file(filePath());
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    /** The battery with this name; null when there is none. */
+    BatteryWidget *battery(const QString &name)
+    {
+        for (BatteryWidget *battery : m_gui->batteryList) {
+            if (battery->getBatteryName() == name)
+                return battery;
+        }
+        return nullptr;
+    }
+
+    ModelWidget *model(const QString &name)
+    {
+        for (ModelWidget *model : m_gui->modelList) {
+            if (model->getModelName() == name)
+                return model;
+        }
+        return nullptr;
+    }
+
+    /** The names of the cards on show, from top to bottom. */
+    QStringList cardsOnShow()
+    {
+        QStringList names;
+        for (int row = 0; row < ui().lo_overview->rowCount(); ++row) {
+            QLayoutItem *item = ui().lo_overview->itemAtPosition(row, 0);
+            auto *card = item ? qobject_cast<BatteryWidget *>(item->widget()) : nullptr;
+            if (card && card->isVisible())
+                names.append(card->getBatteryName());
+        }
+        return names;
+    }
+
+    /** Clicks in the middle of a button that must be on show and enabled. */
+    static void click(QAbstractButton *button)
+    {
+        QVERIFY2(button->isVisible() && button->isEnabled(), qPrintable(button->objectName()));
+        // The whole surface of a radio button is not its label: the left edge always is.
+        const bool radio = button->inherits("QRadioButton");
+        QTest::mouseClick(button, Qt::LeftButton, {}, radio ? QPoint(6, button->height() / 2) : QPoint());
+    }
+
+    static void clickCard(BatteryWidget *card)
+    {
+        click(card->findChild<QPushButton *>(QStringLiteral("pushButton")));
+    }
+
+    /** Replaces a field's content by typing. */
+    static void type(QLineEdit *field, const QString &text)
+    {
+        QVERIFY2(field->isVisible(), qPrintable(field->objectName()));
+        field->setFocus();
+        field->selectAll();
+        QTest::keyClick(field, Qt::Key_Delete);
+        field->setCursorPosition(0);
+        QTest::keyClicks(field, text);
+    }
+
+    /** Chooses an item as a user does, with the keyboard. */
+    static void choose(QComboBox *chooser, const QString &text)
+    {
+        const int wanted = chooser->findText(text);
+        QVERIFY2(wanted >= 0, qPrintable(text));
+        while (chooser->currentIndex() != wanted)
+            QTest::keyClick(chooser, chooser->currentIndex() < wanted ? Qt::Key_Down : Qt::Key_Up);
+    }
+
+private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<VoltbokGui> m_gui;
+};
