@@ -123,7 +123,12 @@ void DataProcessor::readBatteries(QList<BatteryWidget *> &batteries)
 
 void DataProcessor::readBatteryData(BatteryWidget *battery)
 {
-    readEntries(reader, Key::Data, Key::Cycle, [battery](const QXmlStreamAttributes &attributes) {
+    // Straight into the history: the card shows the last discharge only and is not refreshed for each.
+    QList<QDateTime> &dates = battery->getDates();
+    QList<unsigned int> &discharges = battery->getDischarges();
+    QList<unsigned int> &currents = battery->getCurrents();
+    const qsizetype before = dates.size();
+    readEntries(reader, Key::Data, Key::Cycle, [&](const QXmlStreamAttributes &attributes) {
         QStringView date;
         unsigned int discharged = 0;
         unsigned int current = 0;
@@ -135,9 +140,14 @@ void DataProcessor::readBatteryData(BatteryWidget *battery)
             if (attribute.name().contains(Key::Discharged))
                 discharged = toUnsigned(attribute.value());
         }
-        QDateTime when = toDateTime(date);
-        battery->addFullEntry(when, discharged, current, false);
+        dates.append(toDateTime(date));
+        discharges.append(discharged);
+        currents.append(current);
     });
+    if (dates.size() == before)
+        return;
+    battery->setBatteryLastDischarged(discharges.constLast());
+    battery->setBatteryLastMaxCurrent(currents.constLast());
 }
 
 void DataProcessor::readModels(QList<ModelWidget *> &models)
