@@ -14,10 +14,11 @@
 class BatteryWidgetPrivate;
 
 /**
- * One battery: the record of its figures and discharge history, and at the same time its card on the overview.
+ * One battery: the record of its figures and discharge history, and at the same time its card on the
+ * overview.
  *
- * Every setter stores its value and refreshes the label of the card that shows it; none checks a range or emits
- * a signal. The name is the battery's identity.
+ * Every setter stores its value and refreshes the label of the card that shows it; none checks a range or
+ * emits a signal. The name is the battery's identity.
  */
 class VOLTBOK_EXPORT BatteryWidget : public QWidget
 {
@@ -26,10 +27,10 @@ class VOLTBOK_EXPORT BatteryWidget : public QWidget
 
 public:
     /** How much the card shows, and which capture mode a click on it follows. */
-    enum ViewMode {
+    enum ViewMode : int {
         Simple = 0, ///< without the figures of the last discharge; a discharge is recorded at once
         Complex = 1 ///< with them; a discharge is recorded on the discharge page
-    };
+    };              // with an underlying type, since any other value can be stored, too
     Q_ENUM(ViewMode)
 
     explicit BatteryWidget(QWidget *parent = nullptr);
@@ -63,8 +64,8 @@ public:
     /**
      * Sets the charge state and the look of the card's button.
      *
-     * @param byUser also stamps the time and emits dataChanged(); a discharge then counts a cycle and leaves a
-     *        history entry without measurements.
+     * @param byUser also stamps the time and emits dataChanged(); a discharge then counts a cycle and leaves
+     * a history entry without measurements.
      */
     void setBatteryCharged(bool charged, bool byUser);
     bool getBatteryCharged() const;

@@ -10,7 +10,8 @@
 /**
  * One flight of a model, copied by value.
  *
- * Which battery was flown is not stored: the battery's history holds a discharge with exactly the same date-time.
+ * Which battery was flown is not stored: the battery's history holds a discharge with exactly the same
+ * date-time.
  */
 class VOLTBOK_EXPORT LogData
 {

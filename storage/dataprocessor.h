@@ -17,10 +17,10 @@ class ModelWidget;
 /**
  * Moves the catalogue between the caller's lists and the data file "voltbok.xml" in the base directory.
  *
- * It keeps no copy of the catalogue. Saving rewrites the whole file in place; every loader parses the whole file
- * by itself, appends to the list it is given and leaves the new records to the caller. Failures are silent: a
- * missing or unreadable file loads nothing, a malformed one keeps what stands before the error, an unwritable one
- * is left as it was.
+ * It keeps no copy of the catalogue. Saving rewrites the whole file in place; every loader parses the whole
+ * file by itself, appends to the list it is given and leaves the new records to the caller. Failures are
+ * silent: a missing or unreadable file loads nothing, a malformed one keeps what stands before the error, an
+ * unwritable one is left as it was.
  */
 class VOLTBOK_EXPORT DataProcessor : public QObject
 {
@@ -34,7 +34,7 @@ public:
     /** Stores the directory of the data file; reads and writes nothing. */
     void setBasePath(const QString &path);
 
-    /** Writes the complete file, creating the directory if need be; does nothing while the base path is empty. */
+    /** Writes the complete file, creating its directory if need be; without a base path it does nothing. */
     void addData(QList<BatteryWidget *> &batteries, QList<ModelWidget *> &models, QList<QString> &locations);
 
     /** Appends the file's locations; returns whether the list holds any afterwards. */
@@ -57,7 +57,8 @@ private:
     void readModels(QList<ModelWidget *> &models);
     void readFlightData(ModelWidget *model);
 
-    std::optional<QXmlStreamWriter> writer; // a writer keeps its error over setDevice(): each save has a fresh one
+    // Only while a file is written, and a fresh one each time: a writer keeps its error even on a new device.
+    std::optional<QXmlStreamWriter> writer;
     QXmlStreamReader reader;
     QString basePath = QStringLiteral("");
 };

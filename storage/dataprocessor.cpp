@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storage/dataprocessor.h"
+
+DataProcessor::DataProcessor(QObject *parent)
+    : QObject(parent)
+{
+}
+
+DataProcessor::~DataProcessor() = default;
+
+void DataProcessor::setBasePath(const QString &path)
+{
+    basePath = path;
+}

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDate>
+#include <QDateTime>
+#include <QString>
+#include <QStringView>
+#include <QTime>
+
+/**
+ * How the data file writes a value as text and reads it back.
+ *
+ * Text that does not hold a value reads as 0, false or an invalid date, time or date-time; an invalid one of
+ * those writes an empty text.
+ */
+namespace TextEncoding {
+
+QString fromUnsigned(unsigned int value);
+unsigned int toUnsigned(QStringView text);
+
+/** The temperature, written as the unsigned number with the same 32 bits: -5 is "4294967291". */
+QString fromSigned(int value);
+int toSigned(QStringView text);
+
+/** "1" or "0". */
+QString fromBoolean(bool value);
+/** True for the number 1 only: neither "true" nor "2" will do. */
+bool toBoolean(QStringView text);
+
+/** "2026/11/15" */
+QString fromDate(QDate date);
+QDate toDate(const QString &text);
+
+/** "Sun Nov 15 12:04:22 2026", in whole seconds. */
+QString fromDateTime(const QDateTime &when);
+QDateTime toDateTime(QStringView text);
+
+/** "00:07:30", in whole seconds. */
+QString fromTime(QTime time);
+QTime toTime(QStringView text);
+
+/** The text without the characters that no XML 1.0 document can hold, not even escaped. */
+QString xmlText(const QString &text);
+
+} // namespace TextEncoding
