@@ -148,6 +148,7 @@ QWidget *VoltbokGui::renewContent()
     ui->lo_overview->setObjectName(QString());
     QWidget *old = ui->scrollArea->takeWidget();
     old->setObjectName(QString());
+    old->hide();
     old->setParent(this);
 
     auto *content = new QWidget;

@@ -11,6 +11,8 @@
 #include <QDir>
 #include <QFile>
 
+#include <utility>
+
 namespace Key = DataFile::Key;
 using namespace TextEncoding;
 
@@ -60,9 +62,9 @@ void DataProcessor::addData(QList<BatteryWidget *> &batteries, QList<ModelWidget
     writer->writeStartElement(name(Key::Voltbok));
     if (!locations.isEmpty())
         writeLocations(locations);
-    for (BatteryWidget *battery : qAsConst(batteries))
+    for (BatteryWidget *battery : std::as_const(batteries))
         writeBattery(battery);
-    for (ModelWidget *model : qAsConst(models))
+    for (ModelWidget *model : std::as_const(models))
         writeModel(model);
     writer->writeEndElement();
     writer->writeEndDocument();
@@ -76,7 +78,7 @@ void DataProcessor::addData(QList<BatteryWidget *> &batteries, QList<ModelWidget
 void DataProcessor::writeLocations(QList<QString> &locations)
 {
     writer->writeStartElement(name(Key::Locations));
-    for (const QString &location : qAsConst(locations)) {
+    for (const QString &location : std::as_const(locations)) {
         writer->writeEmptyElement(name(Key::Location));
         writer->writeAttribute(name(Key::Name), xmlText(location));
     }
@@ -127,7 +129,7 @@ void DataProcessor::writeModel(ModelWidget *model)
     writeValue(*writer, Key::Flights, fromUnsigned(model->getModelFlights()));
     writeText(*writer, Key::Notes, model->getAdditionalNotes());
     writeValue(*writer, Key::LastUpdate, fromDateTime(model->getLastUpdated()));
-    for (const QString &battery : qAsConst(model->getBatteries()))
+    for (const QString &battery : std::as_const(model->getBatteries()))
         writeText(*writer, Key::Battery, battery);
     writeFlightData(model);
     writer->writeEndElement();
