@@ -25,7 +25,8 @@ class LogbookWindow
 public:
     LogbookWindow()
     {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+        // The offscreen platform itself remarks on every window that is shown.
+        QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
         RotavexPlugin::rotavexSettings->clear();
         restart();
     }
