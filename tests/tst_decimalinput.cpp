@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gui/decimalinput.h"
 
+#include <QLineEdit>
 #include <QTest>
 
 class DecimalInputTest : public QObject
@@ -13,8 +14,23 @@ private Q_SLOTS:
     void aValueIsScaledAndTruncated_data();
     void aValueIsScaledAndTruncated();
     void everyChargeRateThatTheMaskAdmitsIsItsTenths();
-    void everyWeightThatTheMaskAdmitsIsNeverRoundedUp();
+    void everyWeightThatTheMaskAdmitsIsTruncated();
+    void everyCurrentThatCanBeRecordedIsTruncated();
+
+private:
+    static unsigned int digit(QChar typed) { return typed == u' ' ? 0 : typed.unicode() - u'0'; }
 };
+
+namespace {
+const QString Digits = QStringLiteral(" 0123456789"); // a blank leaves its place in the mask empty
+
+/** Those hundredths below ten whose hundredfold falls short of the whole number in double arithmetic. */
+const QList<unsigned int> FallingShort{29,  57,  58,  113, 114, 115, 116, 201, 203, 205, 207, 226, 228, 230,
+                                       232, 251, 253, 255, 402, 406, 410, 414, 427, 431, 435, 439, 452, 456,
+                                       460, 464, 477, 481, 485, 489, 502, 506, 510, 803, 804, 812, 820, 828,
+                                       829, 837, 845, 853, 854, 862, 870, 878, 879, 887, 895, 903, 904, 912,
+                                       920, 928, 929, 937, 945, 953, 954, 962, 970, 978, 979, 987, 995};
+} // namespace
 
 void DecimalInputTest::textIsScaledAndTruncated_data()
 {
@@ -67,29 +83,59 @@ void DecimalInputTest::aValueIsScaledAndTruncated()
 
 void DecimalInputTest::everyChargeRateThatTheMaskAdmitsIsItsTenths()
 {
-    for (unsigned int tenths = 0; tenths <= 99; ++tenths) {
-        const QString text = QStringLiteral("%1.%2").arg(tenths / 10).arg(tenths % 10);
-        QCOMPARE(scaledTruncated(text, 10.0), tenths);
-    }
-}
-
-void DecimalInputTest::everyWeightThatTheMaskAdmitsIsNeverRoundedUp()
-{
-    QList<unsigned int> truncated;
-    for (unsigned int hundredths = 0; hundredths <= 999; ++hundredths) {
-        const QString text =
-            QStringLiteral("%1.%2").arg(hundredths / 100).arg(hundredths % 100, 2, 10, QChar(u'0'));
-        const unsigned int stored = scaledTruncated(text, 100.0);
-        if (stored != hundredths) {
-            QCOMPARE(stored, hundredths - 1);
-            truncated.append(hundredths);
+    QLineEdit field;
+    field.setInputMask(QStringLiteral("0.0"));
+    for (const QChar whole : Digits) {
+        for (const QChar tenth : Digits) {
+            field.setText({});
+            field.setCursorPosition(0);
+            QTest::keyClicks(&field, QString(whole) + tenth);
+            QCOMPARE(field.displayText(), QString(whole) + u'.' + tenth);
+            QCOMPARE(scaledTruncated(field.text(), 10.0), digit(whole) * 10 + digit(tenth));
         }
     }
-    QVERIFY(truncated.contains(29U));
-    QVERIFY(truncated.contains(115U));
-    QVERIFY(!truncated.contains(100U));
-    QVERIFY(!truncated.contains(150U));
 }
 
-QTEST_APPLESS_MAIN(DecimalInputTest)
+void DecimalInputTest::everyWeightThatTheMaskAdmitsIsTruncated()
+{
+    QLineEdit field;
+    field.setInputMask(QStringLiteral("0.00"));
+    for (const QChar whole : Digits) {
+        for (const QChar tenth : Digits) {
+            for (const QChar hundredth : Digits) {
+                field.setText({});
+                field.setCursorPosition(0);
+                QTest::keyClicks(&field, QString(whole) + tenth + hundredth);
+                // A blank among the decimals is left out, and what follows moves up.
+                const bool movesUp = tenth == u' ';
+                unsigned int expected = digit(whole) * 100 + (movesUp ? digit(hundredth) * 10
+                                                                      : digit(tenth) * 10 + digit(hundredth));
+                if (FallingShort.contains(expected))
+                    --expected;
+                QCOMPARE(scaledTruncated(field.text(), 100.0), expected);
+            }
+        }
+    }
+}
+
+void DecimalInputTest::everyCurrentThatCanBeRecordedIsTruncated()
+{
+    int fallingShort = 0;
+    for (unsigned int hundredths = 0; hundredths <= 30000; ++hundredths) {
+        const double amperes = QStringLiteral("%1.%2")
+                                   .arg(hundredths / 100)
+                                   .arg(hundredths % 100, 2, 10, QChar(u'0'))
+                                   .toDouble();
+        const unsigned int stored = scaledTruncated(amperes, 100.0);
+        if (stored == hundredths)
+            continue;
+        ++fallingShort;
+        QCOMPARE(stored, hundredths - 1);
+        if (hundredths < 1000)
+            QVERIFY(FallingShort.contains(hundredths));
+    }
+    QCOMPARE(fallingShort, 1849);
+}
+
+QTEST_MAIN(DecimalInputTest)
 #include "tst_decimalinput.moc"

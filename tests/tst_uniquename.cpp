@@ -11,7 +11,44 @@ private Q_SLOTS:
     void aNameThatIsTakenGetsACounter_data();
     void aNameThatIsTakenGetsACounter();
     void theFirstNameIsNotComparedAgainAfterARenameOnPurpose();
+    void everySmallListIsSearchedByTheRule();
+    void noNameBehindTheFirstIsEverMetTwice();
 };
+
+namespace {
+/** The rule step by step, as it is told. */
+QString byTheRule(const QString &base, const QStringList &existing)
+{
+    QString candidate = base;
+    int counter = 0;
+    qsizetype index = 0;
+    while (index < existing.size()) {
+        if (QString::compare(existing[index], candidate, Qt::CaseSensitive) == 0) {
+            counter = counter + 1;
+            candidate = base + QStringLiteral("_") + QString::number(counter, 10);
+            index = 1;
+        } else {
+            index = index + 1;
+        }
+    }
+    return candidate;
+}
+
+/** Every list of up to five of these names, repetitions included. */
+QList<QStringList> smallLists()
+{
+    const QStringList names{"P", "P_1", "P_2", "P_3", "P_1_1", "p", ""};
+    QList<QStringList> lists{QStringList()};
+    for (qsizetype begin = 0, length = 1; length <= 5; ++length) {
+        const qsizetype end = lists.size();
+        for (; begin < end; ++begin) {
+            for (const QString &name : names)
+                lists.append(lists.at(begin) + QStringList(name));
+        }
+    }
+    return lists;
+}
+} // namespace
 
 void UniqueNameTest::aNameThatIsTakenGetsACounter_data()
 {
@@ -52,6 +89,27 @@ void UniqueNameTest::theFirstNameIsNotComparedAgainAfterARenameOnPurpose()
     QCOMPARE(
         uniqueName(QStringLiteral("P"), {QStringLiteral("P_2"), QStringLiteral("P"), QStringLiteral("P_1")}),
         QStringLiteral("P_2"));
+}
+
+void UniqueNameTest::everySmallListIsSearchedByTheRule()
+{
+    const QList<QStringList> lists = smallLists();
+    QCOMPARE(lists.size(), 1 + 7 + 49 + 343 + 2401 + 16807);
+    for (const QStringList &existing : lists) {
+        for (const QString &base : QStringList{"P", "P_1", "p", ""}) {
+            if (uniqueName(base, existing) != byTheRule(base, existing))
+                QFAIL(qPrintable(base + QStringLiteral(" in ") + existing.join(u',')));
+        }
+    }
+}
+
+void UniqueNameTest::noNameBehindTheFirstIsEverMetTwice()
+{
+    for (const QStringList &existing : smallLists()) {
+        const QString name = uniqueName(QStringLiteral("P"), existing);
+        if (existing.mid(1).contains(name))
+            QFAIL(qPrintable(name + QStringLiteral(" in ") + existing.join(u',')));
+    }
 }
 
 QTEST_APPLESS_MAIN(UniqueNameTest)
