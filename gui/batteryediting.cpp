@@ -45,8 +45,7 @@ void VoltbokGui::on_pb_choose_modify_battery_clicked()
         return;
     ui->ledt_modifyBattery_name->setText(battery->getBatteryName());
     ui->ledt_modifyBattery_capacity->setText(QString::number(battery->getBatteryCapacity()));
-    // Meant as it is: the tenths are shown unscaled, for the field's mask sets the point, and read back times
-    // ten.
+    // Meant as it is: shown unscaled, for the field's mask sets the point, and read back times ten.
     ui->ledt_modifyBattery_chargeRate->setText(QString::number(battery->getBatteryChargeRate()));
     ui->ledt_modifyBattery_cyclesused->setText(QString::number(battery->getBatteryCycles()));
     ui->ledt_modifyBattery_dischargeRate->setText(QString::number(battery->getBatteryRating()));

@@ -18,9 +18,8 @@ void VoltbokGui::on_pb_del_location_clicked()
 {
     if (!confirmed(ui->pb_del_location, ui->lbl_reallydelete_location))
         return;
+    // Meant as it is: a name that is gone already removes nothing, and still the file is written and read.
     ui->cb_log_location->removeItem(ui->cb_log_location->findText(ui->cb_location_delete->currentText()));
-    // Meant as it is: a name that is gone already removes nothing, and is still followed by a save and a
-    // reload.
     saveAndReload();
     showOverview();
     resetConfirmation(ui->pb_del_location, ui->lbl_reallydelete_location);

@@ -47,15 +47,13 @@ void VoltbokGui::on_pb_update_model_clicked()
     if (!model)
         return;
     model->setModelType(ui->ledt_modifyheli_type->text());
-    // Meant as it is: a new model's weight is scaled by 100, here it is read as an integer, so 1.50 becomes
-    // 0.
+    // Meant as it is: a new model's weight is scaled, here it is read as an integer, so 1.50 becomes 0.
     model->setModelWeight(ui->ledt_modifyheli_weight->text().toUInt());
     model->setModelSize(ui->ledt_modifyheli_size->text().toUInt());
     model->setModelFlights(ui->ledt_modifyheli_flightsused->text().toUInt());
     model->setDateOfPurchase(QDate::fromString(ui->ledt_modifyheli_purchase->text(), Qt::ISODate));
     model->setAdditionalNotes(ui->ledt_modifyheli_notes->toPlainText());
-    // Meant as it is: unlike a battery's, the time of the last update stays.
-    saveAndReload();
+    saveAndReload(); // meant as it is: unlike a battery's, the time of the last update stays
     showOverview();
 }
 

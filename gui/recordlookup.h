@@ -42,8 +42,7 @@ Record *last(const QList<Record *> &records, const QString &name)
     return found == records.crend() ? nullptr : *found;
 }
 
-/** Takes the first record of this name out of the list and hands it to the caller; null when there is none.
- */
+/** Takes the first record of this name out of the list, which then is the caller's; null without one. */
 template <typename Record>
 std::unique_ptr<Record> takeFirst(QList<Record *> &records, const QString &name)
 {
