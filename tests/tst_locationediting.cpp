@@ -21,6 +21,7 @@ private Q_SLOTS:
     void anotherChoiceDoesNotTakeTheFirstClickBack();
     void theFirstOfTwoEqualLocationsIsDeleted();
     void namesAreComparedExactly();
+    void theLocationIsFoundByItsNameAndNotByItsPlace();
     void theFlightsKeepTheLocationTheyRecorded();
     void theNameOfTheLastLocationStaysOnThePageOnPurpose();
     void deletingALocationThatIsGoneStillWritesAndReloadsOnPurpose();
@@ -196,6 +197,16 @@ void LocationEditingTest::namesAreComparedExactly()
     window.ui().cb_location_delete->setCurrentIndex(3);
     window.click(window.ui().pb_del_location);
     expectLocations(window, {u"field"_qs, u"FIELD"_qs, u"Field hill"_qs});
+}
+
+void LocationEditingTest::theLocationIsFoundByItsNameAndNotByItsPlace()
+{
+    EditingWindow window;
+    window.load(threeLocations());
+    window.ui().cb_log_location->insertItem(0, u"Lake"_qs);
+    openFor(window, u"Meadow"_qs);
+    window.click(window.ui().pb_del_location);
+    expectLocations(window, {u"Lake"_qs, u"Field"_qs, u"Hill"_qs});
 }
 
 void LocationEditingTest::theFlightsKeepTheLocationTheyRecorded()
