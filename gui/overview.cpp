@@ -124,7 +124,7 @@ void VoltbokGui::rebuildOverview()
 void VoltbokGui::on_cb_select_model_currentIndexChanged(int index)
 {
     Q_UNUSED(index)
-    const bool hadFocus = ui->cb_select_model->hasFocus(); // moving to the new grid takes the focus away
+    const bool hadFocus = focusWidget() == ui->cb_select_model; // moving to the new grid takes it away
     QWidget *content = renewContent();
     ui->lo_overview->addWidget(ui->cb_select_model, 0, 0);
     overviewCardCount = 0;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gui/voltbokgui.h"
 
-#include "gui/pages.h"
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
 #include "ui_voltbokgui.h"
@@ -61,7 +60,7 @@ void VoltbokGui::retranslate()
     const auto fields =
         ui->stackedWidget->findChildren<QLineEdit *>(QRegularExpression(QStringLiteral("^ledt_")));
     for (QLineEdit *field : fields)
-        inputs.append({field, field->displayText(), field->cursorPosition()});
+        inputs.append({field, field->text(), field->cursorPosition()});
     const QString title = windowTitle();
 
     ui->retranslateUi(this); // puts every field back to its first text and mask

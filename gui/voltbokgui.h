@@ -32,6 +32,9 @@ class Ui_VoltbokGui;
 class VOLTBOK_EXPORT VoltbokGui : public QMainWindow
 {
     Q_OBJECT
+    // With complete types the meta-object knows the slots' parameters by type, not by name alone.
+    Q_MOC_INCLUDE(<QAbstractButton>)
+    Q_MOC_INCLUDE(<QKeyEvent>)
     Q_DISABLE_COPY_MOVE(VoltbokGui)
 
 public:

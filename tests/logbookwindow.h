@@ -25,7 +25,7 @@ class LogbookWindow
 public:
     LogbookWindow()
     {
-        // The offscreen platform itself remarks on every window that is shown.
+        // The offscreen platform complains of what it cannot do; whatever else is said is ours.
         QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
         RotavexPlugin::rotavexSettings->clear();
         restart();
