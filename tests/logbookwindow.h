@@ -25,7 +25,8 @@ class LogbookWindow
 public:
     LogbookWindow()
     {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+        // The offscreen platform complains of what it cannot do; whatever else is said is ours.
+        QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
         RotavexPlugin::rotavexSettings->clear();
         restart();
     }
