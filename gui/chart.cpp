@@ -24,6 +24,16 @@ QBrush chartBackground()
     return gradient;
 }
 
+/** The points, those that no axis can reach put to 0. */
+QList<QPointF> reachable(QList<QPointF> points)
+{
+    for (QPointF &point : points) {
+        if (!qIsFinite(point.y()))
+            point.setY(0.0);
+    }
+    return points;
+}
+
 void brightenLabels(const QList<QAbstractAxis *> &axes)
 {
     if (!axes.isEmpty())
@@ -42,13 +52,16 @@ void VoltbokGui::on_cb_batteryData_currentIndexChanged(int index)
     if (index < 0 || index >= batteryList.size())
         return;
     BatteryWidget &battery = *batteryList.at(index);
+    const QList<QPointF> points = chartPoints(battery);
     auto *series = new QLineSeries;
-    series->replace(chartPoints(battery));
+    series->setPointsVisible(points.size() == 1); // a line through a single point would not be seen
+    series->replace(reachable(points));           // the axes take their ranges from these
 
     auto *chart = new QChart;
     chart->legend()->hide();
     chart->addSeries(series);
     chart->createDefaultAxes();
+    series->replace(points);
     chart->setTitle(tr("Battery age: %1 years")
                         .arg(Formats::ageInYears(battery.getdateOfPurchase(), QDate::currentDate())));
     chart->setBackgroundBrush(chartBackground());
