@@ -1,0 +1,503 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "records/batterywidget.h"
+
+#include <QLabel>
+#include <QMetaEnum>
+#include <QMetaType>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <climits>
+#include <memory>
+
+class BatteryWidgetTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void aNewBatteryHasNoFiguresAndIsDischarged();
+    void settersStoreWhatTheyAreGiven();
+    void settersTakeAnyNumberUnchanged();
+    void settersEmitNothing();
+    void theChargeRateCannotBeClearedOnPurpose();
+    void theMetaTypeSystemCreatesAndDestroysABattery();
+    void theSignalsStandInOrderAndTheSlotBehindThem();
+    void theViewModesAreNumbered();
+    void loadingAChargeStateTouchesOnlyTheFlagAndTheButton_data();
+    void loadingAChargeStateTouchesOnlyTheFlagAndTheButton();
+    void aUsersDischargeCountsACycleAndLeavesAnEmptyEntry();
+    void aUsersChargeStampsTheTimeAndCountsNothing();
+    void theTimeIsStampedBeforeTheChangeIsAnnounced();
+    void aClickOnADischargedBatteryChargesIt();
+    void aClickOnAChargedBatteryOnlyAsks();
+    void theChargeStateAlternates();
+    void aFullEntryIsAppendedToTheThreeLists();
+    void aSimpleEntryHasNoMeasurements();
+    void notifyingEntriesAnnounceOneChange_data();
+    void notifyingEntriesAnnounceOneChange();
+    void theListsAreCompleteWhenTheChangeIsAnnounced();
+    void theHistoryKeepsTheOrderOfRecording();
+    void theHistoryListsAreTheRecordsOwn();
+    void anEventIsFoundByItsExactTime_data();
+    void anEventIsFoundByItsExactTime();
+    void anEmptyHistoryHoldsNoEvent();
+    void theEarlierOfTwoEqualTimesWins();
+    void theStampIsLocalTime();
+};
+
+namespace {
+
+const QDateTime noon(QDate(2026, 7, 1), QTime(12, 0, 0, 500));
+
+QString labelText(const QWidget &card, const char *name)
+{
+    return card.findChild<QLabel *>(QLatin1String(name))->text();
+}
+
+void addEntry(BatteryWidget &battery, QDateTime when, unsigned int discharged, unsigned int current)
+{
+    battery.addFullEntry(when, discharged, current, false);
+}
+
+} // namespace
+
+void BatteryWidgetTest::init()
+{
+    QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
+}
+
+void BatteryWidgetTest::aNewBatteryHasNoFiguresAndIsDischarged()
+{
+    BatteryWidget battery;
+    QVERIFY(battery.getBatteryName().isEmpty());
+    QCOMPARE(battery.getBatteryCapacity(), 0U);
+    QCOMPARE(battery.getBatteryRating(), 0U);
+    QCOMPARE(battery.getBatteryCycles(), 0U);
+    QCOMPARE(battery.getBatteryLastDischarged(), 0U);
+    QCOMPARE(battery.getBatteryLastMaxCurrent(), 0U);
+    QCOMPARE(battery.getBatteryChargeRate(), 0U);
+    QVERIFY(!battery.getdateOfPurchase().isValid());
+    QVERIFY(battery.getBatteryLastUpdated().isNull());
+    QVERIFY(battery.getDates().isEmpty());
+    QVERIFY(battery.getDischarges().isEmpty());
+    QVERIFY(battery.getCurrents().isEmpty());
+    QCOMPARE(battery.getViewMode(), BatteryWidget::Simple);
+    QVERIFY(!battery.getBatteryCharged());
+    QCOMPARE(battery.parentWidget(), nullptr);
+    QCOMPARE(battery.windowFlags(), QWidget().windowFlags());
+}
+
+void BatteryWidgetTest::settersStoreWhatTheyAreGiven()
+{
+    BatteryWidget battery;
+    QString name = QStringLiteral("Pack A");
+    QDate purchase(2025, 3, 9);
+    battery.setBatteryName(name);
+    battery.setBatteryCapacity(2200);
+    battery.setBatteryRating(25);
+    battery.setBatteryCycles(12);
+    battery.setBatteryLastDischarged(1760);
+    battery.setBatteryLastMaxCurrent(5500);
+    battery.setBatteryChargeRate(15);
+    battery.setDateOfPurchase(purchase);
+    battery.setLastUpdated(noon);
+
+    QCOMPARE(battery.getBatteryName(), QStringLiteral("Pack A"));
+    QCOMPARE(battery.getBatteryCapacity(), 2200U);
+    QCOMPARE(battery.getBatteryRating(), 25U);
+    QCOMPARE(battery.getBatteryCycles(), 12U);
+    QCOMPARE(battery.getBatteryLastDischarged(), 1760U);
+    QCOMPARE(battery.getBatteryLastMaxCurrent(), 5500U);
+    QCOMPARE(battery.getBatteryChargeRate(), 15U);
+    QCOMPARE(battery.getdateOfPurchase(), QDate(2025, 3, 9));
+    QCOMPARE(battery.getBatteryLastUpdated(), noon); // to the millisecond
+    QCOMPARE(name, QStringLiteral("Pack A"));
+}
+
+void BatteryWidgetTest::settersTakeAnyNumberUnchanged()
+{
+    BatteryWidget battery;
+    battery.setBatteryCapacity(UINT_MAX);
+    battery.setBatteryRating(UINT_MAX);
+    battery.setBatteryCycles(UINT_MAX);
+    battery.setBatteryLastDischarged(UINT_MAX);
+    battery.setBatteryLastMaxCurrent(UINT_MAX);
+    battery.setBatteryChargeRate(UINT_MAX);
+    QCOMPARE(battery.getBatteryCapacity(), UINT_MAX);
+    QCOMPARE(battery.getBatteryRating(), UINT_MAX);
+    QCOMPARE(battery.getBatteryCycles(), UINT_MAX);
+    QCOMPARE(battery.getBatteryLastDischarged(), UINT_MAX);
+    QCOMPARE(battery.getBatteryLastMaxCurrent(), UINT_MAX);
+    QCOMPARE(battery.getBatteryChargeRate(), UINT_MAX);
+    battery.setBatteryCapacity(0);
+    QCOMPARE(battery.getBatteryCapacity(), 0U);
+}
+
+void BatteryWidgetTest::settersEmitNothing()
+{
+    BatteryWidget battery;
+    QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
+    QSignalSpy asked(&battery, &BatteryWidget::chargeBatteryClicked);
+    QString name = QStringLiteral("Pack A");
+    QDate purchase(2025, 3, 9);
+    battery.setBatteryName(name);
+    battery.setBatteryCapacity(1);
+    battery.setBatteryRating(2);
+    battery.setBatteryCycles(3);
+    battery.setBatteryLastDischarged(4);
+    battery.setBatteryLastMaxCurrent(5);
+    battery.setBatteryChargeRate(6);
+    battery.setDateOfPurchase(purchase);
+    battery.setLastUpdated(noon);
+    battery.setViewMode(BatteryWidget::Complex);
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(asked.count(), 0);
+}
+
+void BatteryWidgetTest::theChargeRateCannotBeClearedOnPurpose()
+{
+    BatteryWidget battery;
+    battery.setBatteryRating(30);
+    battery.setBatteryChargeRate(15);
+    battery.setBatteryChargeRate(0);
+    QCOMPARE(battery.getBatteryChargeRate(), 15U);
+    QCOMPARE(labelText(battery, "lbl_rate"), QStringLiteral("30C/1.5C"));
+}
+
+void BatteryWidgetTest::theMetaTypeSystemCreatesAndDestroysABattery()
+{
+    const QMetaType type = QMetaType::fromName("BatteryWidget");
+    QVERIFY(type.isValid());
+    QVERIFY(type.isRegistered());
+    auto *battery = static_cast<BatteryWidget *>(type.create());
+    QVERIFY(battery != nullptr);
+    QVERIFY(!battery->getBatteryCharged());
+    bool destroyed = false;
+    connect(battery, &QObject::destroyed, this, [&destroyed] { destroyed = true; });
+    type.destroy(battery);
+    QVERIFY(destroyed);
+}
+
+void BatteryWidgetTest::theSignalsStandInOrderAndTheSlotBehindThem()
+{
+    const QMetaObject &meta = BatteryWidget::staticMetaObject;
+    const int offset = meta.methodOffset();
+    QCOMPARE(meta.methodCount() - offset, 3);
+    QCOMPARE(meta.method(offset).methodSignature(), QByteArray("dataChanged()"));
+    QCOMPARE(meta.method(offset + 1).methodSignature(), QByteArray("chargeBatteryClicked()"));
+    QCOMPARE(meta.method(offset + 2).methodSignature(), QByteArray("on_pushButton_clicked()"));
+    QCOMPARE(meta.method(offset + 1).methodType(), QMetaMethod::Signal);
+    QCOMPARE(meta.method(offset + 2).methodType(), QMetaMethod::Slot);
+    QCOMPARE(meta.method(offset + 2).access(), QMetaMethod::Private);
+}
+
+void BatteryWidgetTest::theViewModesAreNumbered()
+{
+    QCOMPARE(static_cast<int>(BatteryWidget::Simple), 0);
+    QCOMPARE(static_cast<int>(BatteryWidget::Complex), 1);
+    QCOMPARE(QMetaEnum::fromType<BatteryWidget::ViewMode>().keyCount(), 2);
+}
+
+void BatteryWidgetTest::loadingAChargeStateTouchesOnlyTheFlagAndTheButton_data()
+{
+    QTest::addColumn<bool>("charged");
+    QTest::newRow("charged") << true;
+    QTest::newRow("discharged") << false;
+}
+
+void BatteryWidgetTest::loadingAChargeStateTouchesOnlyTheFlagAndTheButton()
+{
+    QFETCH(bool, charged);
+    BatteryWidget battery;
+    battery.setBatteryCycles(4);
+    battery.setLastUpdated(noon);
+    addEntry(battery, noon, 1200, 4550);
+    battery.setBatteryCharged(!charged, false);
+    QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
+
+    battery.setBatteryCharged(charged, false);
+
+    QCOMPARE(battery.getBatteryCharged(), charged);
+    const auto *button = battery.findChild<QPushButton *>(QStringLiteral("pushButton"));
+    QCOMPARE(button->text(), charged ? QStringLiteral("Charged") : QStringLiteral("Discharged"));
+    QCOMPARE(battery.getBatteryCycles(), 4U);
+    QCOMPARE(battery.getBatteryLastUpdated(), noon);
+    QCOMPARE(battery.getDates().size(), 1);
+    QCOMPARE(battery.getBatteryLastDischarged(), 1200U);
+    QCOMPARE(battery.getBatteryLastMaxCurrent(), 4550U);
+    QCOMPARE(changed.count(), 0);
+}
+
+void BatteryWidgetTest::aUsersDischargeCountsACycleAndLeavesAnEmptyEntry()
+{
+    BatteryWidget battery;
+    battery.setBatteryCycles(4);
+    battery.setLastUpdated(noon);
+    addEntry(battery, noon, 1200, 4550);
+    battery.setBatteryCharged(true, false);
+    QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
+    QSignalSpy asked(&battery, &BatteryWidget::chargeBatteryClicked);
+    const QDateTime before = QDateTime::currentDateTime();
+
+    battery.setBatteryCharged(false, true);
+
+    const QDateTime after = QDateTime::currentDateTime();
+    QVERIFY(!battery.getBatteryCharged());
+    QCOMPARE(battery.getBatteryCycles(), 5U);
+    QCOMPARE(labelText(battery, "lbl_cycles"), QStringLiteral("5"));
+    QCOMPARE(battery.getDates().size(), 2);
+    QVERIFY(battery.getDates().at(1) >= before && battery.getDates().at(1) <= after);
+    QCOMPARE(battery.getDischarges(), (QList<unsigned int>{1200, 0}));
+    QCOMPARE(battery.getCurrents(), (QList<unsigned int>{4550, 0}));
+    QCOMPARE(battery.getBatteryLastDischarged(), 0U);
+    QCOMPARE(battery.getBatteryLastMaxCurrent(), 0U);
+    QVERIFY(battery.getBatteryLastUpdated() >= before && battery.getBatteryLastUpdated() <= after);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(asked.count(), 0);
+}
+
+void BatteryWidgetTest::aUsersChargeStampsTheTimeAndCountsNothing()
+{
+    BatteryWidget battery;
+    battery.setBatteryCycles(4);
+    QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
+    const QDateTime before = QDateTime::currentDateTime();
+
+    battery.setBatteryCharged(true, true);
+
+    QVERIFY(battery.getBatteryCharged());
+    QVERIFY(battery.getBatteryLastUpdated() >= before);
+    QVERIFY(battery.getBatteryLastUpdated() <= QDateTime::currentDateTime());
+    QCOMPARE(labelText(battery, "lbl_dateTime"), battery.getBatteryLastUpdated().toString(Qt::TextDate));
+    QCOMPARE(battery.getBatteryCycles(), 4U);
+    QVERIFY(battery.getDates().isEmpty());
+    QCOMPARE(changed.count(), 1);
+}
+
+void BatteryWidgetTest::theTimeIsStampedBeforeTheChangeIsAnnounced()
+{
+    BatteryWidget battery;
+    int announced = 0;
+    connect(&battery, &BatteryWidget::dataChanged, this, [&] {
+        ++announced;
+        QVERIFY(battery.getBatteryCharged());
+        QVERIFY(battery.getBatteryLastUpdated().isValid());
+        QCOMPARE(battery.findChild<QPushButton *>()->text(), QStringLiteral("Charged"));
+    });
+    battery.setBatteryCharged(true, true);
+    QCOMPARE(announced, 1);
+}
+
+void BatteryWidgetTest::aClickOnADischargedBatteryChargesIt()
+{
+    BatteryWidget battery;
+    QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
+    QSignalSpy asked(&battery, &BatteryWidget::chargeBatteryClicked);
+    QTest::mouseClick(battery.findChild<QPushButton *>(), Qt::LeftButton);
+    QVERIFY(battery.getBatteryCharged());
+    QVERIFY(battery.getBatteryLastUpdated().isValid());
+    QCOMPARE(battery.getBatteryCycles(), 0U);
+    QVERIFY(battery.getDates().isEmpty());
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(asked.count(), 0);
+}
+
+void BatteryWidgetTest::aClickOnAChargedBatteryOnlyAsks()
+{
+    BatteryWidget battery;
+    battery.setBatteryCharged(true, false);
+    QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
+    QSignalSpy asked(&battery, &BatteryWidget::chargeBatteryClicked);
+    QTest::mouseClick(battery.findChild<QPushButton *>(), Qt::LeftButton);
+    QVERIFY(battery.getBatteryCharged());
+    QVERIFY(battery.getBatteryLastUpdated().isNull());
+    QCOMPARE(battery.getBatteryCycles(), 0U);
+    QVERIFY(battery.getDates().isEmpty());
+    QCOMPARE(changed.count(), 0);
+    QCOMPARE(asked.count(), 1);
+}
+
+void BatteryWidgetTest::theChargeStateAlternates()
+{
+    BatteryWidget battery;
+    connect(&battery, &BatteryWidget::chargeBatteryClicked, &battery,
+            [&battery] { battery.setBatteryCharged(false, false); });
+    auto *button = battery.findChild<QPushButton *>();
+    for (int i = 0; i < 3; ++i) {
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(button->text(), QStringLiteral("Charged"));
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(button->text(), QStringLiteral("Discharged"));
+    }
+}
+
+void BatteryWidgetTest::aFullEntryIsAppendedToTheThreeLists()
+{
+    BatteryWidget battery;
+    QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
+    QDateTime when = noon;
+    battery.addFullEntry(when, 1200, 4550, false);
+    QCOMPARE(battery.getDates(), QList<QDateTime>{noon});
+    QCOMPARE(battery.getDischarges(), QList<unsigned int>{1200});
+    QCOMPARE(battery.getCurrents(), QList<unsigned int>{4550});
+    QCOMPARE(battery.getBatteryLastDischarged(), 1200U);
+    QCOMPARE(battery.getBatteryLastMaxCurrent(), 4550U);
+    QCOMPARE(labelText(battery, "lbl_discharged"), QStringLiteral("1200mAh"));
+    QCOMPARE(labelText(battery, "lbl_maxCurrent"), QStringLiteral("45.50A"));
+    QCOMPARE(battery.getBatteryCycles(), 0U);
+    QVERIFY(battery.getBatteryLastUpdated().isNull());
+    QCOMPARE(changed.count(), 0);
+}
+
+void BatteryWidgetTest::aSimpleEntryHasNoMeasurements()
+{
+    BatteryWidget battery;
+    addEntry(battery, noon, 1200, 4550);
+    QDateTime when = noon.addDays(1);
+    battery.addSimpleEntry(when, false);
+    QCOMPARE(battery.getDates(), (QList<QDateTime>{noon, when}));
+    QCOMPARE(battery.getDischarges(), (QList<unsigned int>{1200, 0}));
+    QCOMPARE(battery.getCurrents(), (QList<unsigned int>{4550, 0}));
+    QCOMPARE(battery.getBatteryLastDischarged(), 0U);
+    QCOMPARE(battery.getBatteryLastMaxCurrent(), 0U);
+    QCOMPARE(labelText(battery, "lbl_discharged"), QStringLiteral("0mAh"));
+    QCOMPARE(labelText(battery, "lbl_maxCurrent"), QStringLiteral("0.0A"));
+}
+
+void BatteryWidgetTest::notifyingEntriesAnnounceOneChange_data()
+{
+    QTest::addColumn<bool>("full");
+    QTest::addColumn<bool>("notify");
+    QTest::newRow("full, silent") << true << false;
+    QTest::newRow("full, notifying") << true << true;
+    QTest::newRow("simple, silent") << false << false;
+    QTest::newRow("simple, notifying") << false << true;
+}
+
+void BatteryWidgetTest::notifyingEntriesAnnounceOneChange()
+{
+    QFETCH(bool, full);
+    QFETCH(bool, notify);
+    BatteryWidget battery;
+    QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
+    QDateTime when = noon;
+    if (full)
+        battery.addFullEntry(when, 1, 2, notify);
+    else
+        battery.addSimpleEntry(when, notify);
+    QCOMPARE(changed.count(), notify ? 1 : 0);
+}
+
+void BatteryWidgetTest::theListsAreCompleteWhenTheChangeIsAnnounced()
+{
+    BatteryWidget battery;
+    int announced = 0;
+    connect(&battery, &BatteryWidget::dataChanged, this, [&] {
+        ++announced;
+        QCOMPARE(battery.getDates().size(), 1);
+        QCOMPARE(battery.getDischarges().size(), 1);
+        QCOMPARE(battery.getCurrents().size(), 1);
+        QCOMPARE(battery.getBatteryLastMaxCurrent(), 7U);
+        QCOMPARE(labelText(battery, "lbl_maxCurrent"), QStringLiteral("0.7A"));
+    });
+    QDateTime when = noon;
+    battery.addFullEntry(when, 1, 7, true);
+    QCOMPARE(announced, 1);
+}
+
+void BatteryWidgetTest::theHistoryKeepsTheOrderOfRecording()
+{
+    BatteryWidget battery;
+    addEntry(battery, noon, 1, 10);
+    addEntry(battery, noon.addDays(-1), 2, 20);
+    addEntry(battery, noon, 1, 10);
+    addEntry(battery, QDateTime(), 3, 30);
+    QCOMPARE(battery.getDates(), (QList<QDateTime>{noon, noon.addDays(-1), noon, QDateTime()}));
+    QCOMPARE(battery.getDischarges(), (QList<unsigned int>{1, 2, 1, 3}));
+    QCOMPARE(battery.getCurrents(), (QList<unsigned int>{10, 20, 10, 30}));
+}
+
+void BatteryWidgetTest::theHistoryListsAreTheRecordsOwn()
+{
+    BatteryWidget battery;
+    QCOMPARE(&battery.getDates(), &battery.getDates());
+    battery.getDates().append(noon);
+    battery.getDischarges().append(5);
+    battery.getCurrents().append(6);
+    unsigned int discharged = 0;
+    unsigned int current = 0;
+    QDateTime when = noon;
+    QVERIFY(battery.getEvent(when, discharged, current));
+    QCOMPARE(discharged, 5U);
+    QCOMPARE(current, 6U);
+}
+
+void BatteryWidgetTest::anEventIsFoundByItsExactTime_data()
+{
+    QTest::addColumn<QDateTime>("when");
+    QTest::addColumn<bool>("found");
+    QTest::addColumn<unsigned int>("discharged");
+    QTest::addColumn<unsigned int>("current");
+
+    QTest::newRow("oldest") << noon << true << 10U << 100U;
+    QTest::newRow("newest") << noon.addDays(2) << true << 30U << 300U;
+    QTest::newRow("the same moment in UTC") << noon.addDays(1).toUTC() << true << 20U << 200U;
+    QTest::newRow("a millisecond early") << noon.addMSecs(-1) << false << 7U << 8U;
+    QTest::newRow("a millisecond late") << noon.addMSecs(1) << false << 7U << 8U;
+    QTest::newRow("invalid") << QDateTime() << false << 7U << 8U;
+}
+
+void BatteryWidgetTest::anEventIsFoundByItsExactTime()
+{
+    QFETCH(QDateTime, when);
+    BatteryWidget battery;
+    addEntry(battery, noon, 10, 100);
+    addEntry(battery, noon.addDays(1), 20, 200);
+    addEntry(battery, noon.addDays(2), 30, 300);
+
+    unsigned int discharged = 7;
+    unsigned int current = 8;
+    QTEST(battery.getEvent(when, discharged, current), "found");
+    QTEST(discharged, "discharged");
+    QTEST(current, "current");
+}
+
+void BatteryWidgetTest::anEmptyHistoryHoldsNoEvent()
+{
+    BatteryWidget battery;
+    QDateTime when = noon;
+    unsigned int discharged = 7;
+    unsigned int current = 8;
+    QVERIFY(!battery.getEvent(when, discharged, current));
+    QCOMPARE(discharged, 7U);
+    QCOMPARE(current, 8U);
+}
+
+void BatteryWidgetTest::theEarlierOfTwoEqualTimesWins()
+{
+    BatteryWidget battery;
+    addEntry(battery, noon.addDays(-1), 1, 10);
+    addEntry(battery, noon, 2, 20);
+    addEntry(battery, noon, 3, 30);
+    QDateTime when = noon;
+    unsigned int discharged = 0;
+    unsigned int current = 0;
+    QVERIFY(battery.getEvent(when, discharged, current));
+    QCOMPARE(discharged, 2U);
+    QCOMPARE(current, 20U);
+}
+
+void BatteryWidgetTest::theStampIsLocalTime()
+{
+    BatteryWidget battery;
+    battery.setBatteryCharged(true, true);
+    QCOMPARE(battery.getBatteryLastUpdated().timeSpec(), Qt::LocalTime);
+    battery.setBatteryCharged(false, true);
+    QCOMPARE(battery.getDates().constLast().timeSpec(), Qt::LocalTime);
+}
+
+QTEST_MAIN(BatteryWidgetTest)
+#include "tst_batterywidget.moc"
