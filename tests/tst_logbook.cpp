@@ -64,6 +64,7 @@ private Q_SLOTS:
     void aFlightIsShownFieldByField();
     void datesStayEnglishWhateverTheLocale();
     void textsOfThePilotAreShownAsStored();
+    void longTextsLeaveTheWindowItsWidth();
     void aNegativeTemperatureIsShownUnsignedOnPurpose();
     void aFlightWithoutDateOrDurationLeavesThemEmpty();
     void aLogIsWalkedToItsEndsAndBack_data();
@@ -129,7 +130,24 @@ void LogbookTest::textsOfThePilotAreShownAsStored()
     showLogBookOf(window, {{u"Heli"_s, {{moment(0), markup, QTime(0, 5), 20, markup}}}});
 
     QCOMPARE(window.ui().lbl_logview_location->text(), markup);
+    QCOMPARE(window.ui().lbl_logview_location->textFormat(), Qt::PlainText);
+    QCOMPARE(window.ui().lbl_logview_battname->textFormat(), Qt::PlainText);
     QCOMPARE(notes(window), markup);
+}
+
+void LogbookTest::longTextsLeaveTheWindowItsWidth()
+{
+    LogbookWindow window;
+    const int width = window->width();
+    const QString words = u"long "_s.repeated(40);
+    const QString word = u"x"_s.repeated(200);
+    showLogBookOf(window, {{words, {{moment(0), words, QTime(0, 5), 20, words}}},
+                           {word, {{moment(0), word, QTime(0, 5), 20, word}}}});
+    LogbookWindow::choose(window.ui().cb_logview_model, word);
+    QCoreApplication::processEvents();
+
+    QCOMPARE(window->width(), width);
+    QVERIFY(window->minimumSizeHint().width() <= width);
 }
 
 void LogbookTest::aNegativeTemperatureIsShownUnsignedOnPurpose()

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/** What the user asks for on the command line. */
+struct CommandLine
+{
+    QString error;       ///< one line that says what is wrong; everything else is then meaningless
+    QString answer;      ///< a text to print instead of opening the window: the help or the version
+    QString storagePath; ///< absolute path of the storage folder
+    QString screenshot;  ///< name of the picture to draw instead of opening the window
+    bool demo = false;
+    bool resetDemo = false;
+};
+
+/** Reads the arguments, the program's name first. Needs an application object, which may be one without
+ * windows. */
+CommandLine readCommandLine(const QStringList &arguments);

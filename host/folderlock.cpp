@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "folderlock.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int PatienceMs = 2000; // enough for an instance that only draws a picture
+
+QString lockBesideAll(const QString &storagePath)
+{
+    const QString canonical = QDir(storagePath).exists() ? QDir(storagePath).canonicalPath() : storagePath;
+    const QByteArray hash = QCryptographicHash::hash(canonical.toUtf8(), QCryptographicHash::Sha1).toHex();
+    return QDir::temp().absoluteFilePath(u"voltbok-%1.lock"_s.arg(QLatin1StringView(hash)));
+}
+
+QString holder(const QLockFile &lock, const QString &storagePath)
+{
+    qint64 pid = 0;
+    QString machine;
+    QString program;
+    if (lock.error() != QLockFile::LockFailedError || !lock.getLockInfo(&pid, &machine, &program))
+        return u"cannot lock %1 (%2)"_s.arg(storagePath, lock.fileName());
+    return u"%1 is open already: process %2 (%3) on %4 has it"_s.arg(storagePath, QString::number(pid),
+                                                                     program, machine);
+}
+
+} // namespace
+
+QString FolderLock::take(const QString &storagePath)
+{
+    QStringList names{lockBesideAll(storagePath)};
+    if (QDir(storagePath).exists())
+        names.append(QDir(storagePath).absoluteFilePath(u"voltbok.lock"_s));
+    for (const QString &name : std::as_const(names)) {
+        auto lock = std::make_unique<QLockFile>(name);
+        lock->setStaleLockTime(0); // only a dead holder makes a lock stale, never its age
+        if (!lock->tryLock(PatienceMs))
+            return holder(*lock, storagePath);
+        m_locks.push_back(std::move(lock));
+    }
+    return QString();
+}

@@ -1,0 +1,67 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# shellcheck shell=bash
+# Shared by ./run and ./test: installs what is missing, configures and builds. Read with "source" from the top of the
+# source tree. Everything is said on standard error, so that standard output belongs to the program.
+
+build_packages=(g++ cmake ninja-build qt6-base-dev libqt6opengl6-dev qt6-charts-dev)
+test_packages=(qt6-tools-dev qt6-l10n-tools)
+
+say() { printf '%s\n' "$*" >&2; }
+
+is_debian_like() { command -v apt-get >/dev/null && command -v dpkg-query >/dev/null; }
+
+is_installed() { [[ $(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]; }
+
+as_root() {
+    if [[ $(id -u) -eq 0 ]]; then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        say "This needs root. Please run as root:  $*"
+        return 1
+    fi
+}
+
+# install_packages NAME...: installs with apt-get what is not there yet, and says what.
+install_packages() {
+    local missing=() package
+    for package in "$@"; do
+        is_installed "$package" || missing+=("$package")
+    done
+    [[ ${#missing[@]} -eq 0 ]] && return
+    say "Installing with apt-get: ${missing[*]}"
+    as_root apt-get update >&2
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" >&2
+}
+
+name_packages() {
+    say "Voltbok needs a C++17 compiler, CMake 3.21 and Qt 6.4 with Charts (for the tests: Linguist tools too). Try:"
+    say "  Fedora:        dnf install gcc-c++ cmake ninja-build qt6-qtbase-devel qt6-qtcharts-devel qt6-qttools-devel"
+    say "  Arch:          pacman -S --needed base-devel cmake ninja qt6-base qt6-charts qt6-tools"
+    say "  openSUSE:      zypper install gcc-c++ cmake ninja qt6-base-devel qt6-charts-devel qt6-tools-devel"
+    say "  macOS (brew):  brew install cmake ninja qt"
+}
+
+# prepare NAME...: sees to it that the tools are there; on Debian-like systems these packages are installed.
+prepare() {
+    if is_debian_like; then
+        install_packages "$@"
+    elif ! command -v cmake >/dev/null || ! command -v c++ >/dev/null; then
+        name_packages
+        return 1
+    fi
+}
+
+# build PRESET: configures once and builds. A build directory keeps the generator that it was configured with.
+build() {
+    local dir="build/$1" generator=()
+    if [[ ! -f $dir/build.ninja && ! -f $dir/Makefile ]]; then
+        [[ ! -f $dir/CMakeCache.txt ]] && command -v ninja >/dev/null && generator=(-G Ninja)
+        if ! cmake --preset "$1" ${generator[@]+"${generator[@]}"} >&2; then
+            is_debian_like || name_packages
+            return 1
+        fi
+    fi
+    cmake --build --preset "$1" --parallel "$(getconf _NPROCESSORS_ONLN)" >&2
+}
