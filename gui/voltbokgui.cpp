@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gui/voltbokgui.h"
 
+#include "gui/selectonentry.h"
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
 #include "ui_voltbokgui.h"
@@ -9,6 +10,14 @@
 #include <QRegularExpression>
 
 #include <utility>
+
+namespace {
+/** The fields that the user types into; the edits inside spin boxes are not among them. */
+QList<QLineEdit *> typedFields(const QWidget *pages)
+{
+    return pages->findChildren<QLineEdit *>(QRegularExpression(QStringLiteral("^ledt_")));
+}
+} // namespace
 
 VoltbokGui::VoltbokGui(QWidget *parent)
     : QMainWindow(parent)
@@ -20,6 +29,11 @@ VoltbokGui::VoltbokGui(QWidget *parent)
     // lbl_reallydelete_location stays visible on purpose: the first deletion of a location takes one click.
     ui->lbl_really->hide();
     ui->lbl_reallydelete_model->hide();
+
+    auto *selectOnEntry = new SelectOnEntry(this);
+    const auto fields = typedFields(ui->stackedWidget);
+    for (QLineEdit *field : fields)
+        field->installEventFilter(selectOnEntry);
 }
 
 VoltbokGui::~VoltbokGui()
@@ -57,8 +71,7 @@ void VoltbokGui::retranslate()
         int cursor;
     };
     QList<Input> inputs;
-    const auto fields =
-        ui->stackedWidget->findChildren<QLineEdit *>(QRegularExpression(QStringLiteral("^ledt_")));
+    const auto fields = typedFields(ui->stackedWidget);
     for (QLineEdit *field : fields)
         inputs.append({field, field->text(), field->cursorPosition()});
     const QString title = windowTitle();
