@@ -28,6 +28,17 @@ QString holder(const QLockFile &lock, const QString &storagePath)
                                                                      program, machine);
 }
 
+/** Locks, also when an instance was killed after it had made the file and before it had put its name into it.
+ */
+bool tryLock(QLockFile &lock)
+{
+    qint64 pid = 0;
+    QString machine;
+    QString program;
+    return lock.tryLock(PatienceMs) ||
+           (!lock.getLockInfo(&pid, &machine, &program) && lock.removeStaleLockFile() && lock.tryLock(0));
+}
+
 } // namespace
 
 QString FolderLock::take(const QString &storagePath)
@@ -38,7 +49,7 @@ QString FolderLock::take(const QString &storagePath)
     for (const QString &name : std::as_const(names)) {
         auto lock = std::make_unique<QLockFile>(name);
         lock->setStaleLockTime(0); // only a dead holder makes a lock stale, never its age
-        if (!lock->tryLock(PatienceMs))
+        if (!tryLock(*lock))
             return holder(*lock, storagePath);
         m_locks.push_back(std::move(lock));
     }

@@ -46,6 +46,7 @@ private Q_SLOTS:
     void withoutACopyTheBrokenFileIsStillKept();
     void aFolderIsLockedAgainstASecondInstance();
     void aFolderThatDoesNotExistYetIsLockedWithoutMakingIt();
+    void aLockWithoutANameInItIsTakenOver();
 
 private:
     void save(const QByteArray &bytes) const;
@@ -235,6 +236,14 @@ void BackupsTest::aFolderThatDoesNotExistYetIsLockedWithoutMakingIt()
     QCOMPARE(first.take(missing), QString());
     QVERIFY(!FolderLock().take(missing).isEmpty());
     QVERIFY(!QDir(missing).exists());
+}
+
+void BackupsTest::aLockWithoutANameInItIsTakenOver()
+{
+    QFile lock(m_folder->filePath(QStringLiteral("voltbok.lock")));
+    QVERIFY(lock.open(QFile::WriteOnly));
+    lock.close();
+    QCOMPARE(FolderLock().take(path()), QString());
 }
 
 QTEST_GUILESS_MAIN(BackupsTest)
