@@ -99,6 +99,8 @@ void KilledHostTest::nothingThatWasSavedASecondBeforeAKillIsLost()
     for (int round = 0; round < Kills / Lineages; ++round) {
         for (auto &lineage : lineages)
             lineage->start();
+        if (round % 10 == 0)
+            QTest::qWait(1500); // long enough for a copy to be owed by this very run
         for (auto &lineage : lineages) {
             QTest::qWait(random.bounded(20, 260));
             lineage->process.kill();
