@@ -32,7 +32,6 @@ bool canAsk(const CommandLine &commandLine)
 
 int drawWindow(VoltbokGui &window, const QString &fileName)
 {
-    QCoreApplication::processEvents(); // lays out what was shown
     if (!window.grab().save(fileName, "PNG"))
         return fail(u"cannot write the picture %1"_s.arg(fileName));
     return EXIT_SUCCESS;
@@ -44,7 +43,7 @@ bool offerRecovery(const QString &storagePath)
     const QString copy = Backups::newestWhole(storagePath);
     QMessageBox question(QMessageBox::Warning, QApplication::applicationName(),
                          u"The logbook file is damaged:\n%1"_s.arg(dataFileName(storagePath)));
-    question.setInformativeText(u"It is kept beside the new one under another name, whatever you choose."_s);
+    question.setInformativeText(u"The damaged file is kept, whatever you choose."_s);
     const QString goOn =
         copy.isEmpty() ? u"Start with an empty logbook"_s
                        : u"Restore the copy of %1"_s.arg(
@@ -91,9 +90,9 @@ int runHost(const CommandLine &commandLine)
     VoltbokGui window;
     QObject::connect(&window, &VoltbokGui::closeVoltbokGui, qApp, &QApplication::quit);
     window.changeStoragePath(path);
-    window.show();
     if (!commandLine.screenshot.isEmpty())
         return drawWindow(window, commandLine.screenshot);
+    window.show();
     const BackupKeeper backups(path);
     return QApplication::exec();
 }

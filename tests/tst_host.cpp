@@ -81,10 +81,8 @@ HostTest::Result HostTest::run(const QStringList &arguments, bool display) const
     const auto process = start(arguments, display);
     if (!process->waitForFinished() || process->exitStatus() != QProcess::NormalExit)
         return {-1, {}, process->errorString()};
-    QStringList errors = QString::fromUtf8(process->readAllStandardError()).split(u'\n', Qt::SkipEmptyParts);
-    errors.removeIf(
-        [](const QString &line) { return line.startsWith(QStringLiteral("This plugin does not")); });
-    return {process->exitCode(), QString::fromUtf8(process->readAllStandardOutput()), errors.join(u'\n')};
+    return {process->exitCode(), QString::fromUtf8(process->readAllStandardOutput()),
+            QString::fromUtf8(process->readAllStandardError())};
 }
 
 void HostTest::helpAndVersionNeedNoDisplay_data()
@@ -137,7 +135,7 @@ void HostTest::aMistakeIsOneLineOnStandardErrorAndStatus1()
     QCOMPARE(result.output, QString());
     QVERIFY2(result.errors.startsWith(QStringLiteral("voltbok: ")), qPrintable(result.errors));
     QVERIFY2(result.errors.contains(expected), qPrintable(result.errors));
-    QCOMPARE(result.errors.count(u'\n'), 0);
+    QCOMPARE(result.errors.indexOf(u'\n'), result.errors.size() - 1);
 }
 
 void HostTest::withoutADisplayItSaysWhatToDo()
@@ -148,7 +146,7 @@ void HostTest::withoutADisplayItSaysWhatToDo()
     const Result result = run({}, false);
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.contains(QStringLiteral("--screenshot")), qPrintable(result.errors));
-    QCOMPARE(result.errors.count(u'\n'), 0);
+    QCOMPARE(result.errors.indexOf(u'\n'), result.errors.size() - 1);
 #endif
 }
 
@@ -157,6 +155,7 @@ void HostTest::aScreenshotShowsTheWindow()
     const QString picture = file(QStringLiteral("window.png"));
     const Result result = run({QStringLiteral("--demo"), QStringLiteral("--screenshot"), picture}, false);
     QCOMPARE(result.status, 0);
+    QCOMPARE(result.errors, QString());
     const QImage image(picture);
     QCOMPARE(image.size(), QSize(350, 531));
     int green = 0; // the buttons of charged batteries
@@ -233,7 +232,7 @@ void HostTest::aSecondInstanceIsRefusedAndTheHolderNamed()
     const Result second = run(arguments);
     QCOMPARE(second.status, 1);
     QVERIFY2(second.errors.contains(QString::number(first->processId())), qPrintable(second.errors));
-    QCOMPARE(second.errors.count(u'\n'), 0);
+    QCOMPARE(second.errors.indexOf(u'\n'), second.errors.size() - 1);
     first->kill();
     QVERIFY(first->waitForFinished());
 }
@@ -260,7 +259,7 @@ void HostTest::aBrokenFileIsNeitherLoadedNorOverwritten()
     const Result result = run({QStringLiteral("--data"), m_folder->path()});
     QCOMPARE(result.status, 1);
     QVERIFY2(result.errors.contains(QStringLiteral("damaged")), qPrintable(result.errors));
-    QCOMPARE(result.errors.count(u'\n'), 0);
+    QCOMPARE(result.errors.indexOf(u'\n'), result.errors.size() - 1);
     QCOMPARE(read(file(QStringLiteral("voltbok.xml"))), broken);
 }
 
