@@ -18,6 +18,13 @@ using namespace TextEncoding;
 
 namespace {
 
+/** Whether a name contains a key. Most names are too short to, which spares the search for nearly half of
+ * them. */
+bool contains(QStringView name, QStringView key)
+{
+    return name.size() >= key.size() && name.contains(key);
+}
+
 /** Calls @p readBlock on the start tag of each child of the root whose name contains @p key. */
 template <typename ReadBlock>
 void readBlocks(QXmlStreamReader &reader, const QString &path, QStringView key, ReadBlock readBlock)
@@ -26,10 +33,10 @@ void readBlocks(QXmlStreamReader &reader, const QString &path, QStringView key, 
     if (!file.open(QIODevice::ReadOnly))
         return;
     reader.setDevice(&file);
-    while (reader.readNextStartElement() && !reader.name().contains(Key::Voltbok)) {
+    while (reader.readNextStartElement() && !contains(reader.name(), Key::Voltbok)) {
     }
     while (reader.readNextStartElement()) {
-        if (reader.name().contains(key))
+        if (contains(reader.name(), key))
             readBlock();
         else
             reader.skipCurrentElement();
@@ -48,10 +55,10 @@ void readEntries(QXmlStreamReader &reader, QStringView container, QStringView en
 {
     const auto ended = [&] {
         return reader.hasError() || reader.tokenType() == QXmlStreamReader::EndDocument ||
-               reader.name().contains(container);
+               contains(reader.name(), container);
     };
     for (reader.readNext(); !ended(); reader.readNext()) {
-        if (!reader.isEndElement() && reader.name().contains(entry))
+        if (!reader.isEndElement() && contains(reader.name(), entry))
             readEntry(reader.attributes());
     }
 }
@@ -78,7 +85,7 @@ void DataProcessor::readLocations(QList<QString> &locations)
 {
     readEntries(reader, Key::Locations, Key::Location, [&](const QXmlStreamAttributes &attributes) {
         for (const QXmlStreamAttribute &attribute : attributes) {
-            if (attribute.name().contains(Key::Name))
+            if (contains(attribute.name(), Key::Name))
                 locations.append(attribute.value().toString());
         }
     });
@@ -87,7 +94,7 @@ void DataProcessor::readLocations(QList<QString> &locations)
 void DataProcessor::readBatteries(QList<BatteryWidget *> &batteries)
 {
     auto battery = std::make_unique<BatteryWidget>();
-    const auto at = [this](QStringView key) { return reader.name().contains(key); };
+    const auto at = [this](QStringView key) { return contains(reader.name(), key); };
 
     // A child that no key matches is not skipped: the next child is then looked for inside it, and a text
     // there ends the record. This is how the format is read.
@@ -133,11 +140,11 @@ void DataProcessor::readBatteryData(BatteryWidget *battery)
         unsigned int discharged = 0;
         unsigned int current = 0;
         for (const QXmlStreamAttribute &attribute : attributes) {
-            if (attribute.name().contains(Key::Date))
+            if (contains(attribute.name(), Key::Date))
                 date = attribute.value();
-            if (attribute.name().contains(Key::Current))
+            if (contains(attribute.name(), Key::Current))
                 current = toUnsigned(attribute.value());
-            if (attribute.name().contains(Key::Discharged))
+            if (contains(attribute.name(), Key::Discharged))
                 discharged = toUnsigned(attribute.value());
         }
         dates.append(toDateTime(date));
@@ -146,6 +153,9 @@ void DataProcessor::readBatteryData(BatteryWidget *battery)
     });
     if (dates.size() == before)
         return;
+    dates.squeeze(); // lists that grow have up to as much to spare again
+    discharges.squeeze();
+    currents.squeeze();
     battery->setBatteryLastDischarged(discharges.constLast());
     battery->setBatteryLastMaxCurrent(currents.constLast());
 }
@@ -153,7 +163,7 @@ void DataProcessor::readBatteryData(BatteryWidget *battery)
 void DataProcessor::readModels(QList<ModelWidget *> &models)
 {
     auto model = std::make_unique<ModelWidget>();
-    const auto at = [this](QStringView key) { return reader.name().contains(key); };
+    const auto at = [this](QStringView key) { return contains(reader.name(), key); };
 
     while (reader.readNextStartElement()) { // a child that no key matches is entered, as in a battery
         if (at(Key::Name))
@@ -185,17 +195,18 @@ void DataProcessor::readFlightData(ModelWidget *model)
     readEntries(reader, Key::FlightLog, Key::LogData, [model](const QXmlStreamAttributes &attributes) {
         LogData flight;
         for (const QXmlStreamAttribute &attribute : attributes) {
-            if (attribute.name().contains(Key::Date))
+            if (contains(attribute.name(), Key::Date))
                 flight.date = toDateTime(attribute.value());
-            if (attribute.name().contains(Key::Location))
+            if (contains(attribute.name(), Key::Location))
                 flight.location = attribute.value().toString();
-            if (attribute.name().contains(Key::Duration))
+            if (contains(attribute.name(), Key::Duration))
                 flight.duration = toTime(attribute.value());
-            if (attribute.name().contains(Key::Temperature))
+            if (contains(attribute.name(), Key::Temperature))
                 flight.temperature = toSigned(attribute.value());
-            if (attribute.name().contains(Key::Notes))
+            if (contains(attribute.name(), Key::Notes))
                 flight.notes = attribute.value().toString();
         }
         model->addLogData(flight);
     });
+    model->getLogData().squeeze();
 }

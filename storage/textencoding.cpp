@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/textencoding.h"
 
+#include "storage/plaindate.h"
+
 namespace {
 
 constexpr QStringView datePattern = u"yyyy/MM/dd";
@@ -67,22 +69,26 @@ QDate TextEncoding::toDate(const QString &text)
 
 QString TextEncoding::fromDateTime(const QDateTime &when)
 {
-    return when.toString(Qt::TextDate);
+    const auto plain = PlainDate::fromDateTime(when);
+    return plain ? *plain : when.toString(Qt::TextDate);
 }
 
 QDateTime TextEncoding::toDateTime(QStringView text)
 {
-    return QDateTime::fromString(text, Qt::TextDate);
+    const auto plain = PlainDate::toDateTime(text);
+    return plain ? *plain : QDateTime::fromString(text, Qt::TextDate);
 }
 
 QString TextEncoding::fromTime(QTime time)
 {
-    return time.toString(Qt::TextDate);
+    const auto plain = PlainDate::fromTime(time);
+    return plain ? *plain : time.toString(Qt::TextDate);
 }
 
 QTime TextEncoding::toTime(QStringView text)
 {
-    return QTime::fromString(text, Qt::TextDate);
+    const auto plain = PlainDate::toTime(text);
+    return plain ? *plain : QTime::fromString(text, Qt::TextDate);
 }
 
 QString TextEncoding::xmlText(const QString &text)

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <utility>
+
+/** The least that the same job takes with Qt alone; what the library's work is compared with. */
+namespace Bare {
+
+/** One pass of a stream reader over a file that does nothing with what it meets. */
+void read(const QString &path);
+
+/** The texts of a data file that stand for numbers, dates and times. */
+struct Texts
+{
+    QList<QString> numbers;
+    QList<QString> dates;
+    QList<QString> dateTimes;
+    QList<QString> times;
+
+    /** Converts each of them once, with Qt's own conversions. */
+    void convert() const;
+};
+
+Texts textsOf(const QString &path);
+
+/** An element of a document, as the stream writer takes it. */
+struct Element
+{
+    enum Kind { Start, End, Empty, Text };
+    Kind kind;
+    QString name;
+    QString text;
+    QList<std::pair<QString, QString>> attributes;
+};
+
+/** The elements of a data file, to be written again. */
+QList<Element> elementsOf(const QString &path);
+
+/** A stream writer straight into the file at @p path. */
+void write(const QString &path, const QList<Element> &elements);
+
+} // namespace Bare

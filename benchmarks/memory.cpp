@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "benchmarks.h"
+#include "catalogue.h"
+#include "measure.h"
+#include "openwindow.h"
+#include "report.h"
+
+#include "records/batterywidget.h"
+#include "records/modelwidget.h"
+#include "storage/dataprocessor.h"
+
+#include <QPixmapCache>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <optional>
+#include <utility>
+
+namespace {
+
+constexpr double KiB = 1024.0;
+
+/** Heap that the records of a catalogue take after loading. */
+qint64 heapOfRecords(const Catalogue &catalogue)
+{
+    const QTemporaryDir folder;
+    catalogue.writeTo(folder.path());
+    QList<BatteryWidget *> batteries;
+    QList<ModelWidget *> models;
+    const qint64 before = Measure::heapInUse();
+    {
+        DataProcessor processor;
+        processor.setBasePath(folder.path());
+        processor.getBatteryWidgetsFromData(batteries);
+        processor.getModelWidgetsFromData(models);
+    }
+    const qint64 heap = Measure::heapInUse() - before;
+    qDeleteAll(std::exchange(batteries, {}));
+    qDeleteAll(std::exchange(models, {}));
+    return heap;
+}
+
+Catalogue oneRecordOfEach(int history, int flights)
+{
+    Catalogue catalogue;
+    catalogue.batteries = 1;
+    catalogue.models = 1;
+    catalogue.batteriesOfAModel = 1;
+    catalogue.history = history;
+    catalogue.flights = flights;
+    catalogue.texts = false;
+    return catalogue;
+}
+
+void measureRecords(Report &report)
+{
+    constexpr int Count = 70'000; // far from a power of two, where lists that grow have the most to spare
+    heapOfRecords(oneRecordOfEach(1, 1)); // whatever is allocated once
+    const auto none = static_cast<double>(heapOfRecords(oneRecordOfEach(0, 0)));
+    const auto ofEach = [&](int history, int flights) {
+        return (static_cast<double>(heapOfRecords(oneRecordOfEach(history, flights))) - none) / Count;
+    };
+    report.addValue(QStringLiteral("memory of a history entry"), QStringLiteral("heap after loading"),
+                    ofEach(Count, 0), QStringLiteral("bytes"), 24.0);
+    report.addValue(QStringLiteral("memory of a flight without its texts"),
+                    QStringLiteral("heap after loading"), ofEach(0, Count), QStringLiteral("bytes"), 80.0);
+}
+
+qint64 heapWithoutPixmaps()
+{
+    QPixmapCache::clear(); // Qt fills it up to a limit of its own
+    return Measure::heapInUse();
+}
+
+/** Heap that each repetition keeps, once everything that is made once has been made. */
+double growth(int repetitions, const std::function<void()> &work)
+{
+    for (int i = 0; i < 20; ++i)
+        work();
+    const qint64 before = heapWithoutPixmaps();
+    for (int i = 0; i < repetitions; ++i)
+        work();
+    return static_cast<double>(heapWithoutPixmaps() - before) / repetitions / KiB;
+}
+
+void addGrowth(Report &report, const QString &work, int repetitions, double kept,
+               std::optional<double> target)
+{
+    report.addValue(QStringLiteral("heap kept by ") + work, QStringLiteral("mean of %1").arg(repetitions),
+                    kept, QStringLiteral("KiB"), target);
+}
+
+Catalogue fiftyBatteries(int batteriesOfAModel)
+{
+    Catalogue catalogue;
+    catalogue.batteries = 50;
+    catalogue.models = 10;
+    catalogue.batteriesOfAModel = batteriesOfAModel;
+    catalogue.history = 10;
+    catalogue.flights = 10;
+    return catalogue;
+}
+
+void measureGrowth(Report &report, int repetitions)
+{
+    for (const int cards : {5, 10}) {
+        OpenWindow window(fiftyBatteries(cards));
+        const QString onShow = QStringLiteral(", %1 on show").arg(cards);
+        addGrowth(report, QStringLiteral("a reload of 50 batteries") + onShow, repetitions,
+                  growth(repetitions,
+                         [&] {
+                             window->updateBatteryGui();
+                             settle();
+                         }),
+                  6.0);
+        addGrowth(report, QStringLiteral("a model switch") + onShow, repetitions,
+                  growth(repetitions,
+                         [&] {
+                             window.chooseNextModel();
+                             settle();
+                         }),
+                  6.0);
+    }
+    OpenWindow window(fiftyBatteries(5));
+    addGrowth(report, QStringLiteral("a chart of 10 discharges"), repetitions,
+              growth(repetitions,
+                     [&] {
+                         window->on_pb_chart_clicked();
+                         settle();
+                     }),
+              {});
+}
+
+} // namespace
+
+void Benchmarks::memory(Report &report, const Plan &plan)
+{
+    measureRecords(report);
+    measureGrowth(report, plan.repetitions());
+}

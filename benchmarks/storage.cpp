@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bare.h"
+#include "benchmarks.h"
+#include "catalogue.h"
+#include "measure.h"
+#include "report.h"
+
+#include "records/batterywidget.h"
+#include "records/modelwidget.h"
+#include "storage/dataprocessor.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <optional>
+#include <utility>
+
+namespace {
+
+/** A catalogue read from a data file, with its locations. */
+class Loaded
+{
+public:
+    explicit Loaded(const QString &folder) { processor.setBasePath(folder); }
+    ~Loaded() { clear(); }
+    Q_DISABLE_COPY_MOVE(Loaded)
+
+    void readLocations() { processor.getLocationsFromData(locations); }
+    void readModels() { processor.getModelWidgetsFromData(models); }
+    void readBatteries() { processor.getBatteryWidgetsFromData(batteries); }
+    void readAll()
+    {
+        readLocations();
+        readModels();
+        readBatteries();
+    }
+    void save() { processor.addData(batteries, models, locations); }
+    void clear()
+    {
+        qDeleteAll(std::exchange(batteries, {}));
+        qDeleteAll(std::exchange(models, {}));
+        locations.clear();
+    }
+
+    /** The time of a loader, without that of deleting what it made. */
+    double time(void (Loaded::*load)())
+    {
+        const double seconds = Measure::seconds([&] { (this->*load)(); });
+        clear();
+        return seconds;
+    }
+
+private:
+    DataProcessor processor;
+    QList<BatteryWidget *> batteries;
+    QList<ModelWidget *> models;
+    QStringList locations;
+};
+
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void measureLoading(Report &report, int entries, int rounds)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("voltbok.xml"));
+    Catalogue::withEntries(entries).writeTo(folder.path());
+    const Bare::Texts texts = Bare::textsOf(path);
+    Loaded loaded(folder.path());
+
+    const Measure::Run barePass = [&] { return Measure::seconds([&] { Bare::read(path); }); };
+    const Measure::Run bareLoad = [&] {
+        return Measure::seconds([&] {
+            for (int pass = 0; pass < 3; ++pass)
+                Bare::read(path);
+            texts.convert();
+        });
+    };
+    const auto run = [&loaded](void (Loaded::*load)()) {
+        return [&loaded, load] { return loaded.time(load); };
+    };
+
+    const Measure::Pair all = Measure::compare(rounds, run(&Loaded::readAll), bareLoad);
+    report.addPoint(QStringLiteral("load"), entries, all.seconds);
+    report.addPoint(QStringLiteral("three bare passes, one conversion"), entries, all.against);
+    const QString size = QStringLiteral(", %1 entries").arg(entries);
+    const bool judged = entries == 100'000;
+    report.addRatio(QStringLiteral("three loaders together") + size,
+                    QStringLiteral("three bare passes + one conversion"), all,
+                    judged ? std::optional(1.05) : std::nullopt);
+    if (!judged)
+        return;
+    const QString onePass = QStringLiteral("one bare pass");
+    report.addRatio(QStringLiteral("locations") + size, onePass,
+                    Measure::compare(rounds, run(&Loaded::readLocations), barePass));
+    report.addRatio(QStringLiteral("models") + size, onePass,
+                    Measure::compare(rounds, run(&Loaded::readModels), barePass));
+    report.addRatio(QStringLiteral("batteries") + size, onePass,
+                    Measure::compare(rounds, run(&Loaded::readBatteries), barePass));
+}
+
+void measureSaving(Report &report, int entries, int rounds)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("voltbok.xml"));
+    const QString barePath = folder.filePath(QStringLiteral("bare.xml"));
+    Catalogue::withEntries(entries).writeTo(folder.path());
+    const QList<Bare::Element> elements = Bare::elementsOf(path);
+    Loaded loaded(folder.path());
+    loaded.readAll();
+
+    const Measure::Pair save = Measure::compare(
+        rounds, [&] { return Measure::seconds([&] { loaded.save(); }); },
+        [&] { return Measure::seconds([&] { Bare::write(barePath, elements); }); });
+    if (contents(path) != contents(barePath))
+        qFatal("The bare writer wrote other bytes.");
+    report.addPoint(QStringLiteral("save"), entries, save.seconds);
+    report.addPoint(QStringLiteral("bare writer"), entries, save.against);
+    report.addRatio(QStringLiteral("save, %1 entries").arg(entries),
+                    QStringLiteral("bare writer, same bytes"), save,
+                    entries == 100'000 ? std::optional(1.00) : std::nullopt);
+}
+
+} // namespace
+
+void Benchmarks::storage(Report &report, const Plan &plan)
+{
+    for (const int entries : plan.sizes()) {
+        measureLoading(report, entries, plan.rounds(entries));
+        measureSaving(report, entries, plan.rounds(entries));
+    }
+    report.addSlope(QStringLiteral("load"), 1.05);
+    report.addSlope(QStringLiteral("save"), 1.05);
+}

@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "bare.h"
+#include "benchmarks.h"
+#include "catalogue.h"
+#include "measure.h"
+#include "openwindow.h"
+#include "report.h"
+
+#include "records/batterywidget.h"
+#include "records/modelwidget.h"
+
+#include <QLabel>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace {
+
+using Measure::keep;
+
+constexpr int LabelsOfACard = 12;
+
+using Widgets = std::vector<std::unique_ptr<QWidget>>;
+
+std::unique_ptr<QWidget> makeCard()
+{
+    auto card = std::make_unique<BatteryWidget>();
+    QString name = QStringLiteral("LiPo 6S 3300");
+    card->setBatteryName(name);
+    card->setBatteryCapacity(3300);
+    card->setBatteryChargeRate(20);
+    card->setBatteryRating(45);
+    card->setBatteryCycles(12);
+    card->setBatteryCharged(true, false);
+    card->setLastUpdated(QDateTime(QDate(2026, 11, 15), QTime(12, 4, 22)));
+    card->setBatteryLastDischarged(2640);
+    card->setBatteryLastMaxCurrent(8150);
+    return card;
+}
+
+std::unique_ptr<QWidget> makePlainCard()
+{
+    auto card = std::make_unique<QWidget>();
+    auto *layout = new QVBoxLayout(card.get());
+    for (int i = 0; i < LabelsOfACard; ++i) {
+        auto *label = new QLabel(card.get());
+        label->setText(QStringLiteral("3300mAh"));
+        layout->addWidget(label);
+    }
+    return card;
+}
+
+Measure::Run building(int count, std::unique_ptr<QWidget> (*make)())
+{
+    return [count, make] {
+        Widgets cards;
+        cards.reserve(static_cast<size_t>(count));
+        return Measure::seconds([&] {
+            for (int i = 0; i < count; ++i)
+                cards.push_back(make());
+        });
+    };
+}
+
+void measureCards(Report &report, int rounds)
+{
+    for (const int count : {10, 100, 1000})
+        report.addRatio(QStringLiteral("%1 cards built and filled").arg(count),
+                        QStringLiteral("%1 plain widgets with %2 labels").arg(count).arg(LabelsOfACard),
+                        Measure::compare(rounds, building(count, makeCard), building(count, makePlainCard)),
+                        count == 100 ? std::optional(2.5) : std::nullopt);
+}
+
+template <typename Window>
+Measure::Run showing()
+{
+    return [] {
+        std::unique_ptr<QMainWindow> window;
+        return Measure::seconds([&] {
+            window = std::make_unique<Window>();
+            window->show();
+            settle();
+        });
+    };
+}
+
+void measureReload(Report &report, int entries, int rounds)
+{
+    OpenWindow window(Catalogue::withEntries(entries));
+    const Bare::Texts texts = Bare::textsOf(window.path());
+    const Measure::Pair reload = Measure::compare(
+        rounds,
+        [&] {
+            return Measure::seconds([&] {
+                window->updateBatteryGui();
+                settle();
+            });
+        },
+        [&] {
+            return Measure::seconds([&] {
+                for (int pass = 0; pass < 3; ++pass)
+                    Bare::read(window.path());
+                texts.convert();
+            });
+        });
+    report.addPoint(QStringLiteral("reload with redraw"), entries, reload.seconds);
+    report.addRatio(QStringLiteral("whole reload with redraw, 100 batteries, %1 entries").arg(entries),
+                    QStringLiteral("three bare passes + one conversion"), reload,
+                    entries == 100'000 ? std::optional(1.10) : std::nullopt);
+}
+
+/** A scroll area that gets as many plain cards as a model has batteries moved to a new column. */
+class PlainOverview
+{
+public:
+    explicit PlainOverview(int count)
+    {
+        area.setWidgetResizable(true);
+        for (int i = 0; i < count; ++i)
+            cards.push_back(makePlainCard());
+        area.resize(320, 480);
+        rebuild();
+        area.show();
+        settle();
+    }
+
+    void rebuild()
+    {
+        QWidget *old = area.takeWidget();
+        auto *content = new QWidget;
+        auto *layout = new QVBoxLayout(content);
+        for (const auto &card : cards)
+            layout->addWidget(card.get());
+        area.setWidget(content);
+        delete old;
+    }
+
+private:
+    QScrollArea area;
+    Widgets cards; // deleted before the area that they are shown in
+};
+
+void measureModelSwitch(Report &report, int rounds)
+{
+    Catalogue catalogue;
+    catalogue.history = 50;
+    catalogue.flights = 50;
+    OpenWindow window(catalogue);
+    PlainOverview plain(catalogue.batteriesOfAModel);
+    report.addRatio(QStringLiteral("model switched, %1 cards, with redraw").arg(catalogue.batteriesOfAModel),
+                    QStringLiteral("as many plain widgets moved to a new column"),
+                    Measure::compare(
+                        rounds,
+                        [&] {
+                            return Measure::seconds([&] {
+                                window.chooseNextModel();
+                                settle();
+                            });
+                        },
+                        [&] {
+                            return Measure::seconds([&] {
+                                plain.rebuild();
+                                settle();
+                            });
+                        }));
+}
+
+void measureLogBook(Report &report, int entries, int rounds)
+{
+    OpenWindow window(Catalogue::withEntries(entries));
+    const auto searchDates = [&] {
+        return Measure::seconds([&] {
+            const QDateTime moment = window->modelList.constFirst()->getLogData().constLast().date;
+            qsizetype found = 0;
+            for (BatteryWidget *battery : std::as_const(window->batteryList))
+                found += battery->getDates().indexOf(moment);
+            keep(found);
+        });
+    };
+    const QString against = QStringLiteral("a search in the same dates");
+    const QString size = QStringLiteral(", %1 entries").arg(entries);
+    report.addRatio(QStringLiteral("log book opened") + size, against,
+                    Measure::compare(
+                        rounds,
+                        [&] {
+                            return Measure::seconds([&] {
+                                window->on_pb_logbook_clicked();
+                                settle();
+                            });
+                        },
+                        searchDates));
+    const Measure::Pair step = Measure::compare(
+        rounds, [&] { return Measure::seconds([&] { window->on_pb_logview_prev_clicked(); }); }, searchDates);
+    report.addPoint(QStringLiteral("log book step"), entries, step.seconds);
+    report.addRatio(QStringLiteral("log book step") + size, against, step);
+}
+
+} // namespace
+
+void Benchmarks::window(Report &report, const Plan &plan)
+{
+    report.addRatio(QStringLiteral("window constructed and shown"), QStringLiteral("an empty QMainWindow"),
+                    Measure::compare(plan.rounds(1000), showing<VoltbokGui>(), showing<QMainWindow>()), 8.0);
+    measureCards(report, plan.rounds(10'000));
+    measureModelSwitch(report, plan.rounds(1000));
+    for (const int entries : plan.sizes()) {
+        measureReload(report, entries, plan.rounds(entries));
+        measureLogBook(report, entries, plan.rounds(entries));
+    }
+    report.addSlope(QStringLiteral("reload with redraw"), 1.05);
+    report.addSlope(QStringLiteral("log book step"), 1.05);
+}
