@@ -54,8 +54,9 @@ void VoltbokGui::on_cb_batteryData_currentIndexChanged(int index)
     BatteryWidget &battery = *batteryList.at(index);
     const QList<QPointF> points = chartPoints(battery);
     auto *series = new QLineSeries;
-    series->setPointsVisible(points.size() == 1); // a line through a single point would not be seen
-    series->replace(reachable(points));           // the axes take their ranges from these
+    // A line through a single point would not be seen, a dot where no axis reaches cannot be painted.
+    series->setPointsVisible(points.size() == 1 && qIsFinite(points.first().y()));
+    series->replace(reachable(points)); // the axes take their ranges from these
 
     auto *chart = new QChart;
     chart->legend()->hide();

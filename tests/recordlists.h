@@ -88,6 +88,16 @@ public:
         return lines;
     }
 
+    bool historiesAreParallel() const
+    {
+        for (BatteryWidget *battery : batteries) {
+            if (battery->getDates().size() != battery->getDischarges().size() ||
+                battery->getDates().size() != battery->getCurrents().size())
+                return false;
+        }
+        return true;
+    }
+
     QList<BatteryWidget *> batteries;
     QList<ModelWidget *> models;
     QList<QString> locations;

@@ -17,7 +17,6 @@ private Q_SLOTS:
     void whatStandsBeforeTheFaultIsRead();
     void whatWasReadFromABrokenFileIsSavedWhole_data();
     void whatWasReadFromABrokenFileIsSavedWhole();
-    void aFileCutAnywhereKeepsWhatStandsBeforeTheCut();
     void aFileWithAnyByteChangedIsReadToAnEnd();
     void deepAndWideFilesAreReadToAnEnd_data();
     void deepAndWideFilesAreReadToAnEnd();
@@ -130,67 +129,6 @@ void addBrokenFiles()
         {{}, {}, {QStringLiteral("M 0 n")}});
 }
 
-/** A catalogue as large as a diligent pilot's season, in few records: each cut below is loaded on its own. */
-void addSeason(RecordLists &catalogue)
-{
-    catalogue.locations = {QStringLiteral("Long Meadow"), QStringLiteral(u"Hütte & <Hang>"),
-                           QStringLiteral("Field")};
-    for (const char *name : {"Pack A", "Pack \"B\""}) {
-        BatteryWidget *battery = catalogue.addBattery(QLatin1String(name));
-        battery->setBatteryCapacity(2200);
-        battery->setBatteryCharged(true, false);
-        for (unsigned int i = 0; i < 17; ++i) {
-            QDateTime when(QDate(2026, 4, 1).addDays(i), QTime(14, 0));
-            battery->addFullEntry(when, 1000 + i, 4550, false);
-        }
-    }
-    for (const char *name : {"MyHeli", "Other"}) {
-        ModelWidget *model = catalogue.addModel(QLatin1String(name));
-        model->addBattery(QStringLiteral("Pack A"));
-        for (int i = 0; i < 17; ++i) {
-            LogData flight{QDateTime(QDate(2026, 4, 1).addDays(i), QTime(14, 0)), QTime(0, 7, i),
-                           QStringLiteral("Field"), 10 - i, QStringLiteral("flight%1").arg(i)};
-            model->addLogData(flight);
-        }
-    }
-}
-
-/** The number of whole tags that begin with @p start; a cut can only spoil the last one. */
-qsizetype wholeTags(const QByteArray &bytes, const QByteArray &start)
-{
-    const qsizetype last = bytes.lastIndexOf(start);
-    const bool spoiled = last >= 0 && bytes.indexOf("/>", last) < 0;
-    return bytes.count(start) - (spoiled ? 1 : 0);
-}
-
-QList<unsigned int> allDischarges(const RecordLists &catalogue)
-{
-    QList<unsigned int> all;
-    for (BatteryWidget *battery : catalogue.batteries)
-        all.append(battery->getDischarges());
-    return all;
-}
-
-QStringList allFlights(const RecordLists &catalogue)
-{
-    QStringList all;
-    for (ModelWidget *model : catalogue.models) {
-        for (const LogData &flight : qAsConst(model->getLogData()))
-            all.append(flight.notes);
-    }
-    return all;
-}
-
-bool historiesAreParallel(const RecordLists &catalogue)
-{
-    for (BatteryWidget *battery : catalogue.batteries) {
-        if (battery->getDates().size() != battery->getDischarges().size() ||
-            battery->getDates().size() != battery->getCurrents().size())
-            return false;
-    }
-    return true;
-}
-
 } // namespace
 
 void BrokenFileTest::init()
@@ -237,37 +175,6 @@ void BrokenFileTest::whatWasReadFromABrokenFileIsSavedWhole()
     QCOMPARE(contents(dataFile(directory.path())), first);
 }
 
-void BrokenFileTest::aFileCutAnywhereKeepsWhatStandsBeforeTheCut()
-{
-    QTemporaryDir directory;
-    const QString path = dataFile(directory.path());
-    RecordLists whole;
-    addSeason(whole);
-    whole.save(directory.path());
-    const QByteArray bytes = contents(path);
-    const QStringList batteries = whole.batterySummary();
-    const QStringList models = whole.modelSummary();
-    QVERIFY(bytes.size() > 8192); // more than the block that is read at once
-
-    RecordLists cut;
-    for (qsizetype size = bytes.size(); size >= 0; --size) {
-        const QByteArray rest = bytes.left(size);
-        QVERIFY(writeFile(path, rest));
-        cut.load(directory.path());
-
-        QCOMPARE(cut.locations, whole.locations.first(wholeTags(rest, "<Location ")));
-        QCOMPARE(cut.batteries.size(), rest.count("\n    <Battery>"));
-        QCOMPARE(cut.models.size(), rest.count("\n    <Model>"));
-        const qsizetype wholeBatteries = rest.count("\n    </Battery>");
-        const qsizetype wholeModels = rest.count("\n    </Model>");
-        QCOMPARE(cut.batterySummary().first(wholeBatteries), batteries.first(wholeBatteries));
-        QCOMPARE(cut.modelSummary().first(wholeModels), models.first(wholeModels));
-        QCOMPARE(allDischarges(cut), allDischarges(whole).first(wholeTags(rest, "<Cycle ")));
-        QCOMPARE(allFlights(cut), allFlights(whole).first(wholeTags(rest, "<LogData ")));
-        QVERIFY(historiesAreParallel(cut));
-    }
-}
-
 void BrokenFileTest::aFileWithAnyByteChangedIsReadToAnEnd()
 {
     QTemporaryDir directory;
@@ -290,7 +197,7 @@ void BrokenFileTest::aFileWithAnyByteChangedIsReadToAnEnd()
         const qsizetype untouched = decodable ? bytes.left(i).count("\n    </Battery>\n") : 0;
         QVERIFY(read.batteries.size() >= untouched);
         QCOMPARE(read.batterySummary().first(untouched), batteries.first(untouched));
-        QVERIFY(historiesAreParallel(read));
+        QVERIFY(read.historiesAreParallel());
 
         read.save(directory.path());
         const QByteArray saved = contents(path);

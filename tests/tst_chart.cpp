@@ -57,6 +57,7 @@ private Q_SLOTS:
     void aBatteryWithoutHistoryHasAnEmptyTitledChart();
     void asManyPointsAsDischarges();
     void aSingleDischargeIsADot();
+    void aSingleDischargeThatNoAxisReachesIsNotPainted();
     void theTitleTellsTheAgeInYearsOf365Days_data();
     void theTitleTellsTheAgeInYearsOf365Days();
     void theBackgroundDarkensFromTopToBottom();
@@ -198,6 +199,18 @@ void ChartTest::aSingleDischargeIsADot()
     QVERIFY(ChartPage::series(window)->pointsVisible()); // a line through one point would not be seen
     LogbookWindow::choose(window.ui().cb_batteryData, u"Twice"_s);
     QVERIFY(!ChartPage::series(window)->pointsVisible());
+}
+
+void ChartTest::aSingleDischargeThatNoAxisReachesIsNotPainted()
+{
+    LogbookWindow window;
+    window.load(
+        Catalogue::file({}, {{u"Nothing"_s, history({0}, {0}), 0}, {u"Infinite"_s, history({0}, {9}), 0}}));
+    open(window);
+    LogbookWindow::click(window.ui().rb_showC);
+    QVERIFY(!window->grab().isNull());
+    LogbookWindow::choose(window.ui().cb_batteryData, u"Infinite"_s);
+    QVERIFY(!window->grab().isNull());
 }
 
 void ChartTest::theTitleTellsTheAgeInYearsOf365Days_data()
