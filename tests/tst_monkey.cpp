@@ -21,8 +21,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr unsigned int Seeds = 8;
-constexpr int StepsOfASeed = 1250;
+constexpr unsigned int Seeds = 4;
+constexpr int StepsOfASeed = 10'000;
 
 QStringList warnings;
 
