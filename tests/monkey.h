@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <QTest>
 #include <QWheelEvent>
@@ -45,7 +46,7 @@ public:
         if (QWidget *popup = QApplication::activePopupWidget())
             return actOnPopup(*popup);
         const QList<QWidget *> targets = someTargets(window);
-        if (targets.isEmpty() || below(16) == 0)
+        if (below(16) == 0)
             return pressKey(window.focusWidget() ? *window.focusWidget() : window);
         return actOnWidget(*oneOf(targets));
     }
@@ -74,7 +75,7 @@ public:
     }
 
 private:
-    /** Mixed so that the user comes around and often presses what takes effect. */
+    /** Mixed so that the user comes around, fills in forms and often presses what takes effect. */
     QList<QWidget *> someTargets(const QWidget &window)
     {
         QList<QWidget *> targets = targetsIn(window);
@@ -82,15 +83,15 @@ private:
         const bool form = std::any_of(targets.cbegin(), targets.cend(), [](const QWidget *widget) {
             return qobject_cast<const QLineEdit *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget);
         });
-        const bool header = below(form ? 16 : 3) == 0;
+        const bool header = below(form ? 40 : 6) == 0;
         const bool home = below(8) == 0;
-        const bool onlyButtons = below(2) == 0;
+        const bool onlyButtons = below(form ? 8 : 2) == 0;
         targets.removeIf([&](const QWidget *widget) {
-            const bool leadsOn = qobject_cast<const QAbstractButton *>(widget);
+            const bool leadsOn = qobject_cast<const QPushButton *>(widget);
             return pages->isAncestorOf(widget) == header || (onlyButtons && !leadsOn) ||
                    (!home && widget->objectName() == QStringLiteral("pb_home"));
         });
-        return targets;
+        return targets.isEmpty() ? window.findChildren<QWidget *>(QStringLiteral("pb_options")) : targets;
     }
 
     static QList<QWidget *> targetsIn(const QWidget &window)
@@ -99,7 +100,8 @@ private:
         const auto widgets = window.findChildren<QWidget *>();
         for (QWidget *widget : widgets) {
             const bool part = qobject_cast<QAbstractSpinBox *>(widget->parent()) != nullptr;
-            if (widget->isVisible() && widget->isEnabled() && !part && takesInput(widget))
+            const bool toRead = widget->property("readOnly").toBool();
+            if (widget->isVisible() && widget->isEnabled() && !part && !toRead && takesInput(widget))
                 targets.append(widget);
         }
         return targets;
