@@ -18,22 +18,33 @@ namespace Key = DataFile::Key;
 
 namespace {
 
+using Bare::Element;
 using Measure::keep;
 
-void sort(Bare::Texts &texts, QStringView name, const QString &text)
+void writeAll(QXmlStreamWriter &writer, const QList<Bare::Element> &elements)
 {
-    const auto isOneOf = [name](std::initializer_list<QStringView> keys) {
-        return std::find(keys.begin(), keys.end(), name) != keys.end();
-    };
-    if (isOneOf({Key::Capacity, Key::ChargeRate, Key::DischargeRate, Key::Cycles, Key::Charged, Key::Weight,
-                 Key::Size, Key::Flights, Key::Discharged, Key::Current, Key::Temperature}))
-        texts.numbers.append(text);
-    else if (isOneOf({Key::Purchase}))
-        texts.dates.append(text);
-    else if (isOneOf({Key::LastUse, Key::LastUpdate, Key::Date}))
-        texts.dateTimes.append(text);
-    else if (isOneOf({Key::Duration}))
-        texts.times.append(text);
+    writer.setAutoFormatting(true);
+    writer.writeStartDocument();
+    writer.writeDTD(QStringLiteral("<!DOCTYPE Voltbok>"));
+    for (const Element &element : elements) {
+        switch (element.kind) {
+        case Element::Start:
+            writer.writeStartElement(element.name);
+            break;
+        case Element::End:
+            writer.writeEndElement();
+            break;
+        case Element::Empty:
+            writer.writeEmptyElement(element.name);
+            for (const auto &[name, value] : element.attributes)
+                writer.writeAttribute(name, value);
+            break;
+        case Element::Text:
+            writer.writeTextElement(element.name, element.text);
+            break;
+        }
+    }
+    writer.writeEndDocument();
 }
 
 } // namespace
@@ -48,26 +59,55 @@ void Bare::read(const QString &path)
         reader.readNext();
 }
 
+void Bare::Texts::add(QStringView name, QStringView text)
+{
+    const auto isOneOf = [name](std::initializer_list<QStringView> keys) {
+        return std::find(keys.begin(), keys.end(), name) != keys.end();
+    };
+    QList<Span> *kind = nullptr;
+    if (isOneOf({Key::Capacity, Key::ChargeRate, Key::DischargeRate, Key::Cycles, Key::Charged, Key::Weight,
+                 Key::Size, Key::Flights, Key::Discharged, Key::Current, Key::Temperature}))
+        kind = &numbers;
+    else if (isOneOf({Key::Purchase}))
+        kind = &dates;
+    else if (isOneOf({Key::LastUse, Key::LastUpdate, Key::Date}))
+        kind = &dateTimes;
+    else if (isOneOf({Key::Duration}))
+        kind = &times;
+    if (!kind)
+        return;
+    kind->append({characters.size(), text.size()});
+    characters.append(text);
+}
+
 void Bare::Texts::convert() const
 {
-    for (const QString &text : numbers)
-        keep(text.toUInt());
-    for (const QString &text : dates)
-        keep(QDate::fromString(text, u"yyyy/MM/dd"));
-    for (const QString &text : dateTimes)
-        keep(QDateTime::fromString(text, Qt::TextDate));
-    for (const QString &text : times)
-        keep(QTime::fromString(text, Qt::TextDate));
+    for (const Span span : numbers)
+        keep(at(span).toUInt());
+    for (const Span span : dates)
+        keep(QDate::fromString(at(span), u"yyyy/MM/dd"));
+    for (const Span span : dateTimes)
+        keep(QDateTime::fromString(at(span), Qt::TextDate));
+    for (const Span span : times)
+        keep(QTime::fromString(at(span), Qt::TextDate));
 }
 
 Bare::Texts Bare::textsOf(const QString &path)
 {
     Texts texts;
-    for (const Element &element : elementsOf(path)) {
-        if (element.kind == Element::Text)
-            sort(texts, element.name, element.text);
-        for (const auto &[name, value] : element.attributes)
-            sort(texts, name, value);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return texts;
+    QXmlStreamReader reader(&file);
+    QString element;
+    for (reader.readNext(); !reader.atEnd(); reader.readNext()) {
+        if (reader.isStartElement()) {
+            element = reader.name().toString();
+            for (const QXmlStreamAttribute &attribute : reader.attributes())
+                texts.add(attribute.name(), attribute.value());
+        } else if (reader.isCharacters() && !reader.isWhitespace()) {
+            texts.add(element, reader.text());
+        }
     }
     return texts;
 }
@@ -105,26 +145,15 @@ void Bare::write(const QString &path, const QList<Element> &elements)
     if (!file.open(QIODevice::WriteOnly))
         return;
     QXmlStreamWriter writer(&file);
-    writer.setAutoFormatting(true);
-    writer.writeStartDocument();
-    writer.writeDTD(QStringLiteral("<!DOCTYPE Voltbok>"));
-    for (const Element &element : elements) {
-        switch (element.kind) {
-        case Element::Start:
-            writer.writeStartElement(element.name);
-            break;
-        case Element::End:
-            writer.writeEndElement();
-            break;
-        case Element::Empty:
-            writer.writeEmptyElement(element.name);
-            for (const auto &[name, value] : element.attributes)
-                writer.writeAttribute(name, value);
-            break;
-        case Element::Text:
-            writer.writeTextElement(element.name, element.text);
-            break;
-        }
-    }
-    writer.writeEndDocument();
+    writeAll(writer, elements);
+}
+
+void Bare::composeAndWrite(const QString &path, const QList<Element> &elements)
+{
+    QByteArray document;
+    QXmlStreamWriter writer(&document);
+    writeAll(writer, elements);
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(document);
 }

@@ -2,15 +2,10 @@
 // A program with an empty main window, up to its first painted frame.
 #include "firstframe.h"
 
-#include <QApplication>
-#include <QMainWindow>
+#include <memory>
 
 int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
-    QMainWindow window;
-    FirstFrame firstFrame;
-    window.installEventFilter(&firstFrame);
-    window.show();
-    return QApplication::exec();
+    return showFirstFrame([] { return std::make_unique<QMainWindow>(); });
 }

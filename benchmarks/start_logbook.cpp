@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A program with the logbook's window over the folder it is given, up to its first painted frame.
+// A program with the logbook's window, up to its first painted frame. With an argument it loads the catalogue
+// in that folder.
 #include "firstframe.h"
 
 #include "gui/voltbokgui.h"
 
-#include <QApplication>
+#include <memory>
 
 int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
-    VoltbokGui window;
-    window.changeStoragePath(QApplication::arguments().value(1));
-    FirstFrame firstFrame;
-    window.installEventFilter(&firstFrame);
-    window.show();
-    return QApplication::exec();
+    return showFirstFrame([] {
+        auto window = std::make_unique<VoltbokGui>();
+        const QStringList arguments = QApplication::arguments();
+        if (arguments.size() > 1)
+            window->changeStoragePath(arguments.at(1));
+        return window;
+    });
 }

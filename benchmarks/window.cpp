@@ -74,17 +74,48 @@ void measureCards(Report &report, int rounds)
                         count == 100 ? std::optional(2.5) : std::nullopt);
 }
 
-template <typename Window>
-Measure::Run showing()
+template <typename Make>
+Measure::Run showing(Make make)
 {
-    return [] {
+    return [make] {
         std::unique_ptr<QMainWindow> window;
         return Measure::seconds([&] {
-            window = std::make_unique<Window>();
+            window = make();
             window->show();
             settle();
         });
     };
+}
+
+/** A window with many labels on one page. */
+class PlainWindow : public QMainWindow
+{
+public:
+    explicit PlainWindow(int labels)
+    {
+        auto *content = new QWidget;
+        auto *layout = new QVBoxLayout(content);
+        for (int i = 0; i < labels; ++i)
+            layout->addWidget(new QLabel(QStringLiteral("Capacity"), content));
+        auto *area = new QScrollArea; // only a window full of them is painted
+        area->setWidget(content);
+        setCentralWidget(area);
+    }
+};
+
+void measureWindow(Report &report, int rounds)
+{
+    const QString work = QStringLiteral("window constructed and shown");
+    const auto logbook = [] { return std::make_unique<VoltbokGui>(); };
+    const auto widgets = static_cast<int>(logbook()->findChildren<QWidget *>().size());
+    report.addRatio(
+        work, QStringLiteral("an empty QMainWindow"),
+        Measure::compare(rounds, showing(logbook), showing([] { return std::make_unique<QMainWindow>(); })),
+        8.0);
+    report.addRatio(work,
+                    QStringLiteral("a QMainWindow with %1 labels, as many as there are widgets").arg(widgets),
+                    Measure::compare(rounds, showing(logbook),
+                                     showing([widgets] { return std::make_unique<PlainWindow>(widgets); })));
 }
 
 void measureReload(Report &report, int entries, int rounds)
@@ -168,21 +199,19 @@ void measureModelSwitch(Report &report, int rounds)
                         }));
 }
 
+/** The newest flight lies at the end of every history, as a search in all of them finds it. */
 void measureLogBook(Report &report, int entries, int rounds)
 {
     OpenWindow window(Catalogue::withEntries(entries));
     const auto searchDates = [&] {
-        return Measure::seconds([&] {
-            const QDateTime moment = window->modelList.constFirst()->getLogData().constLast().date;
-            qsizetype found = 0;
-            for (BatteryWidget *battery : std::as_const(window->batteryList))
-                found += battery->getDates().indexOf(moment);
-            keep(found);
-        });
+        const QDateTime moment = window->modelList.constFirst()->getLogData().constLast().date;
+        qsizetype found = 0;
+        for (BatteryWidget *battery : std::as_const(window->batteryList))
+            found += battery->getDates().indexOf(moment);
+        keep(found);
     };
-    const QString against = QStringLiteral("a search in the same dates");
     const QString size = QStringLiteral(", %1 entries").arg(entries);
-    report.addRatio(QStringLiteral("log book opened") + size, against,
+    report.addRatio(QStringLiteral("log book opened") + size, QStringLiteral("a search in the same dates"),
                     Measure::compare(
                         rounds,
                         [&] {
@@ -191,19 +220,31 @@ void measureLogBook(Report &report, int entries, int rounds)
                                 settle();
                             });
                         },
-                        searchDates));
-    const Measure::Pair step = Measure::compare(
-        rounds, [&] { return Measure::seconds([&] { window->on_pb_logview_prev_clicked(); }); }, searchDates);
-    report.addPoint(QStringLiteral("log book step"), entries, step.seconds);
-    report.addRatio(QStringLiteral("log book step") + size, against, step);
+                        [&] { return Measure::seconds(searchDates); }));
+    const Measure::Pair steps = Measure::compare(
+        rounds,
+        [&] {
+            return Measure::seconds([&] {
+                window->on_pb_logview_prev_clicked();
+                window->on_pb_logview_next_clicked();
+            });
+        },
+        [&] {
+            return Measure::seconds([&] {
+                searchDates();
+                searchDates();
+            });
+        });
+    report.addPoint(QStringLiteral("log book step"), entries, steps.seconds / 2);
+    report.addRatio(QStringLiteral("log book, a step back and one forth") + size,
+                    QStringLiteral("two searches in the same dates"), steps);
 }
 
 } // namespace
 
 void Benchmarks::window(Report &report, const Plan &plan)
 {
-    report.addRatio(QStringLiteral("window constructed and shown"), QStringLiteral("an empty QMainWindow"),
-                    Measure::compare(plan.rounds(1000), showing<VoltbokGui>(), showing<QMainWindow>()), 8.0);
+    measureWindow(report, plan.rounds(1000));
     measureCards(report, plan.rounds(10'000));
     measureModelSwitch(report, plan.rounds(1000));
     for (const int entries : plan.sizes()) {

@@ -22,3 +22,5 @@ public:
     int temperature = 0; ///< ambient temperature in degrees
     QString notes;       ///< free text
 };
+
+Q_DECLARE_TYPEINFO(LogData, Q_RELOCATABLE_TYPE); // a list of flights grows without copying them one by one
