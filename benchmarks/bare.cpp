@@ -11,6 +11,8 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+#include <benchmark/benchmark.h>
+
 #include <algorithm>
 #include <initializer_list>
 
@@ -19,7 +21,6 @@ namespace Key = DataFile::Key;
 namespace {
 
 using Bare::Element;
-using Measure::keep;
 
 void writeAll(QXmlStreamWriter &writer, const QList<Bare::Element> &elements)
 {
@@ -83,13 +84,13 @@ void Bare::Texts::add(QStringView name, QStringView text)
 void Bare::Texts::convert() const
 {
     for (const Span span : numbers)
-        keep(at(span).toUInt());
+        benchmark::DoNotOptimize(at(span).toUInt());
     for (const Span span : dates)
-        keep(QDate::fromString(at(span), u"yyyy/MM/dd"));
+        benchmark::DoNotOptimize(QDate::fromString(at(span), u"yyyy/MM/dd"));
     for (const Span span : dateTimes)
-        keep(QDateTime::fromString(at(span), Qt::TextDate));
+        benchmark::DoNotOptimize(QDateTime::fromString(at(span), Qt::TextDate));
     for (const Span span : times)
-        keep(QTime::fromString(at(span), Qt::TextDate));
+        benchmark::DoNotOptimize(QTime::fromString(at(span), Qt::TextDate));
 }
 
 Bare::Texts Bare::textsOf(const QString &path)

@@ -49,8 +49,9 @@ void measureDrawing(Report &report, int discharges, int rounds)
     const QList<unsigned int> &points = window->batteryList.constFirst()->getDischarges();
     const QSize size = window->chartView->size();
     std::unique_ptr<QChartView> bare;
-    const Measure::Pair drawing = Measure::compare(
-        rounds,
+    const Measure::Pair drawing = report.compare(
+        QStringLiteral("chart of %1 discharges").arg(discharges),
+        QStringLiteral("a bare chart view with the same points"), rounds,
         [&] {
             return Measure::seconds([&] {
                 window->on_pb_chart_clicked();
@@ -66,8 +67,6 @@ void measureDrawing(Report &report, int discharges, int rounds)
         });
     if (discharges >= 1000)
         report.addPoint(QStringLiteral("chart"), discharges, drawing.seconds);
-    report.addRatio(QStringLiteral("chart of %1 discharges").arg(discharges),
-                    QStringLiteral("a bare chart view with the same points"), drawing);
 }
 
 Measure::Run resizing(OpenWindow &window)
@@ -90,9 +89,8 @@ void measureResizing(Report &report, int rounds)
         many->on_pb_chart_clicked();
     one->on_pb_chart_clicked();
     settle();
-    report.addRatio(QStringLiteral("window resized with %1 kept charts").arg(KeptCharts),
-                    QStringLiteral("with one chart"), Measure::compare(rounds, resizing(many), resizing(one)),
-                    1.5);
+    report.compare(QStringLiteral("window resized with %1 kept charts").arg(KeptCharts),
+                   QStringLiteral("with one chart"), rounds, resizing(many), resizing(one), 1.5);
 }
 
 } // namespace

@@ -1,12 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "measure.h"
 
+#include <benchmark/benchmark.h>
+
 #include <algorithm>
 #include <cmath>
+#include <iostream>
 
 #include <malloc.h>
 #include <sys/resource.h>
 #include <time.h>
+
+namespace {
+
+/** Says on standard error what has been measured; the table is the report. */
+class Progress : public benchmark::ConsoleReporter
+{
+public:
+    Progress()
+        : ConsoleReporter(OO_None)
+    {
+        SetOutputStream(&std::cerr);
+    }
+
+    bool ReportContext(const Context & /*context*/) override
+    {
+        return true; // the same for all of them
+    }
+
+    void PrintHeader(const Run & /*run*/) override {}
+};
+
+} // namespace
 
 double Measure::processorTime()
 {
@@ -38,22 +63,34 @@ double Measure::median(QList<double> values)
     return values.size() % 2 ? values.at(middle) : (values.at(middle - 1) + values.at(middle)) / 2.0;
 }
 
-Measure::Pair Measure::compare(int rounds, const Run &run, const Run &against)
+Measure::Pair Measure::compare(const QString &name, int rounds, const Run &run, const Run &against)
 {
-    run();
-    against();
     QList<double> times;
     QList<double> othersTimes;
     QList<double> ratios;
-    for (int round = 0; round < rounds; ++round) {
-        const bool first = round % 2 == 0; // neither always profits from the caches the other leaves
-        const double before = first ? 0.0 : against();
-        const double time = run();
-        const double other = first ? against() : before;
-        times.append(time);
-        othersTimes.append(other);
-        ratios.append(time / other);
-    }
+    const auto takeTurns = [&](benchmark::State &state) {
+        run();
+        against();
+        bool first = true; // neither always profits from the caches the other leaves
+        for ([[maybe_unused]] const auto round : state) {
+            const double before = first ? 0.0 : against();
+            const double time = run();
+            const double other = first ? against() : before;
+            first = !first;
+            state.SetIterationTime(time);
+            times.append(time);
+            othersTimes.append(other);
+            ratios.append(time / other);
+        }
+        state.counters["ratio"] = median(ratios);
+    };
+    benchmark::ClearRegisteredBenchmarks();
+    benchmark::RegisterBenchmark(qPrintable(name), takeTurns)
+        ->UseManualTime()
+        ->Iterations(rounds)
+        ->Unit(benchmark::kMillisecond);
+    Progress progress;
+    benchmark::RunSpecifiedBenchmarks(&progress);
     return {median(times), median(othersTimes), median(ratios)};
 }
 

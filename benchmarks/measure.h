@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QPointF>
+#include <QString>
 
 #include <functional>
 
@@ -28,13 +29,6 @@ double seconds(Work work)
     return processorTime() - start;
 }
 
-/** Keeps the compiler from leaving out what only makes a value that nobody uses. */
-template <typename Value>
-void keep(const Value &value)
-{
-    asm volatile("" : : "g"(&value) : "memory");
-}
-
 /** Bytes of the heap in use. */
 qint64 heapInUse();
 
@@ -50,8 +44,8 @@ struct Pair
     double ratio = 0.0;   ///< median of the ratios of two neighbouring runs
 };
 
-/** Runs both in turn, after one run of each that does not count. */
-Pair compare(int rounds, const Run &run, const Run &against);
+/** Has Google Benchmark run both in turn under this name, after one run of each that does not count. */
+Pair compare(const QString &name, int rounds, const Run &run, const Run &against);
 
 /** The slope of the straight line through the logarithms of the points: 1 is linear. */
 double logLogSlope(const QList<QPointF> &points);

@@ -62,10 +62,13 @@ QJsonArray toJsonArray(const List &list)
 
 } // namespace
 
-void Report::addRatio(const QString &work, const QString &against, const Measure::Pair &times,
-                      std::optional<double> target)
+Measure::Pair Report::compare(const QString &work, const QString &against, int rounds,
+                              const Measure::Run &run, const Measure::Run &other,
+                              std::optional<double> target)
 {
+    const Measure::Pair times = Measure::compare(work + QStringLiteral(" / ") + against, rounds, run, other);
     rows.append({work, against, times.ratio, QStringLiteral("×"), target, times});
+    return times;
 }
 
 void Report::addValue(const QString &work, const QString &what, double value, const QString &unit,

@@ -30,8 +30,9 @@ public:
         QList<QPointF> points;
     };
 
-    void addRatio(const QString &work, const QString &against, const Measure::Pair &times,
-                  std::optional<double> target = {});
+    /** Measures two pieces of work in turn and adds a row with their ratio. */
+    Measure::Pair compare(const QString &work, const QString &against, int rounds, const Measure::Run &run,
+                          const Measure::Run &other, std::optional<double> target = {});
     void addValue(const QString &work, const QString &what, double value, const QString &unit,
                   std::optional<double> target = {});
     /** Adds a point to the curve with this name. */

@@ -1,10 +1,12 @@
-#!/bin/sh
+#!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Builds the benchmarks in the preset "release", runs them, prints the table and leaves it with the figures as JSON
 # and the plot in build/release/benchmarks. Arguments go to the benchmarks: --quick, or the name of a subject.
-set -e
+set -euo pipefail
 cd "$(dirname "$0")/.."
-cmake --preset release >&2
-cmake --build --preset release --parallel >&2
+source packaging/setup.sh
+
+prepare "${build_packages[@]}" libbenchmark-dev
+build release
 cd build/release/benchmarks
 ./voltbok_benchmarks --json performance.json --plot performance.png "$@" | tee performance.md

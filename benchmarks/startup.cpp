@@ -44,22 +44,21 @@ void Benchmarks::startup(Report &report, const Plan &plan)
     const QString empty = QStringLiteral("start_empty");
     const QString logbook = QStringLiteral("start_logbook");
     const int rounds = plan.rounds(1000);
-    report.addRatio(QStringLiteral("first window of a program constructed and shown"),
-                    QStringLiteral("an empty QMainWindow as the first"),
-                    Measure::compare(rounds, showingFirst(logbook), showingFirst(empty)));
+    report.compare(QStringLiteral("first window of a program constructed and shown"),
+                   QStringLiteral("an empty QMainWindow as the first"), rounds, showingFirst(logbook),
+                   showingFirst(empty));
 
     const QString against = QStringLiteral("a program with an empty QMainWindow");
-    report.addRatio(QStringLiteral("program started to first frame"), against,
-                    Measure::compare(rounds, starting(logbook), starting(empty)), 8.0);
+    report.compare(QStringLiteral("program started to first frame"), against, rounds, starting(logbook),
+                   starting(empty));
     const QTemporaryDir folder;
     Catalogue::withEntries(1000).writeTo(folder.path());
-    report.addRatio(QStringLiteral("program started to first frame, 100 batteries, 1000 entries"), against,
-                    Measure::compare(rounds, starting(logbook, {folder.path()}), starting(empty)));
+    report.compare(QStringLiteral("program started to first frame, 100 batteries, 1000 entries"), against,
+                   rounds, starting(logbook, {folder.path()}), starting(empty));
 
     const QTemporaryDir pictures;
     const QStringList drawing = {QStringLiteral("--data"), folder.path(), QStringLiteral("--screenshot"),
                                  pictures.filePath(QStringLiteral("overview.png"))};
-    report.addRatio(QStringLiteral("host started, folder locked, file checked, window drawn into a file"),
-                    against,
-                    Measure::compare(rounds, starting(QStringLiteral(HOST), drawing), starting(empty)));
+    report.compare(QStringLiteral("host started, folder locked, file checked, window drawn into a file"),
+                   against, rounds, starting(QStringLiteral(HOST), drawing), starting(empty));
 }

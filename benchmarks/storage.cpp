@@ -83,23 +83,21 @@ void measureLoading(Report &report, int entries, int rounds)
         return [&loaded, load] { return loaded.time(load); };
     };
 
-    const Measure::Pair all = Measure::compare(rounds, run(&Loaded::readAll), bareLoad);
-    report.addPoint(QStringLiteral("load"), entries, all.seconds);
-    report.addPoint(QStringLiteral("three bare passes, one conversion"), entries, all.against);
     const QString size = QStringLiteral(", %1 entries").arg(entries);
     const bool judged = entries == 100'000;
-    report.addRatio(QStringLiteral("three loaders together") + size,
-                    QStringLiteral("three bare passes + one conversion"), all,
-                    judged ? std::optional(1.05) : std::nullopt);
+    const Measure::Pair all = report.compare(
+        QStringLiteral("three loaders together") + size, QStringLiteral("three bare passes + one conversion"),
+        rounds, run(&Loaded::readAll), bareLoad, judged ? std::optional(1.05) : std::nullopt);
+    report.addPoint(QStringLiteral("load"), entries, all.seconds);
+    report.addPoint(QStringLiteral("three bare passes, one conversion"), entries, all.against);
     if (!judged)
         return;
     const QString onePass = QStringLiteral("one bare pass");
-    report.addRatio(QStringLiteral("locations") + size, onePass,
-                    Measure::compare(rounds, run(&Loaded::readLocations), barePass));
-    report.addRatio(QStringLiteral("models") + size, onePass,
-                    Measure::compare(rounds, run(&Loaded::readModels), barePass));
-    report.addRatio(QStringLiteral("batteries") + size, onePass,
-                    Measure::compare(rounds, run(&Loaded::readBatteries), barePass));
+    report.compare(QStringLiteral("locations") + size, onePass, rounds, run(&Loaded::readLocations),
+                   barePass);
+    report.compare(QStringLiteral("models") + size, onePass, rounds, run(&Loaded::readModels), barePass);
+    report.compare(QStringLiteral("batteries") + size, onePass, rounds, run(&Loaded::readBatteries),
+                   barePass);
 }
 
 void measureSaving(Report &report, int entries, int rounds)
@@ -112,22 +110,18 @@ void measureSaving(Report &report, int entries, int rounds)
     Loaded loaded(folder.path());
     loaded.readAll();
 
-    const Measure::Pair save = Measure::compare(
-        rounds, [&] { return Measure::seconds([&] { loaded.save(); }); },
-        [&] { return Measure::seconds([&] { Bare::write(barePath, elements); }); });
+    const QString work = QStringLiteral("save, %1 entries").arg(entries);
+    const Measure::Run save = [&] { return Measure::seconds([&] { loaded.save(); }); };
+    const Measure::Pair saving = report.compare(
+        work, QStringLiteral("bare writer, same bytes"), rounds, save,
+        [&] { return Measure::seconds([&] { Bare::write(barePath, elements); }); },
+        entries == 100'000 ? std::optional(1.00) : std::nullopt);
     if (contents(path) != contents(barePath))
         qFatal("The bare writer wrote other bytes.");
-    report.addPoint(QStringLiteral("save"), entries, save.seconds);
-    report.addPoint(QStringLiteral("bare writer"), entries, save.against);
-    report.addRatio(QStringLiteral("save, %1 entries").arg(entries),
-                    QStringLiteral("bare writer, same bytes"), save,
-                    entries == 100'000 ? std::optional(1.00) : std::nullopt);
-    report.addRatio(
-        QStringLiteral("save, %1 entries").arg(entries),
-        QStringLiteral("bare writer into memory, written at once"),
-        Measure::compare(
-            rounds, [&] { return Measure::seconds([&] { loaded.save(); }); },
-            [&] { return Measure::seconds([&] { Bare::composeAndWrite(barePath, elements); }); }));
+    report.addPoint(QStringLiteral("save"), entries, saving.seconds);
+    report.addPoint(QStringLiteral("bare writer"), entries, saving.against);
+    report.compare(work, QStringLiteral("bare writer into memory, written at once"), rounds, save,
+                   [&] { return Measure::seconds([&] { Bare::composeAndWrite(barePath, elements); }); });
 }
 
 } // namespace

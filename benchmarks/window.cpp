@@ -13,13 +13,13 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <benchmark/benchmark.h>
+
 #include <memory>
 #include <optional>
 #include <vector>
 
 namespace {
-
-using Measure::keep;
 
 constexpr int LabelsOfACard = 12;
 
@@ -68,10 +68,10 @@ Measure::Run building(int count, std::unique_ptr<QWidget> (*make)())
 void measureCards(Report &report, int rounds)
 {
     for (const int count : {10, 100, 1000})
-        report.addRatio(QStringLiteral("%1 cards built and filled").arg(count),
-                        QStringLiteral("%1 plain widgets with %2 labels").arg(count).arg(LabelsOfACard),
-                        Measure::compare(rounds, building(count, makeCard), building(count, makePlainCard)),
-                        count == 100 ? std::optional(2.5) : std::nullopt);
+        report.compare(QStringLiteral("%1 cards built and filled").arg(count),
+                       QStringLiteral("%1 plain widgets with %2 labels").arg(count).arg(LabelsOfACard),
+                       rounds, building(count, makeCard), building(count, makePlainCard),
+                       count == 100 ? std::optional(2.5) : std::nullopt);
 }
 
 template <typename Make>
@@ -108,22 +108,20 @@ void measureWindow(Report &report, int rounds)
     const QString work = QStringLiteral("window constructed and shown");
     const auto logbook = [] { return std::make_unique<VoltbokGui>(); };
     const auto widgets = static_cast<int>(logbook()->findChildren<QWidget *>().size());
-    report.addRatio(
-        work, QStringLiteral("an empty QMainWindow"),
-        Measure::compare(rounds, showing(logbook), showing([] { return std::make_unique<QMainWindow>(); })),
-        8.0);
-    report.addRatio(work,
-                    QStringLiteral("a QMainWindow with %1 labels, as many as there are widgets").arg(widgets),
-                    Measure::compare(rounds, showing(logbook),
-                                     showing([widgets] { return std::make_unique<PlainWindow>(widgets); })));
+    report.compare(work, QStringLiteral("an empty QMainWindow"), rounds, showing(logbook),
+                   showing([] { return std::make_unique<QMainWindow>(); }), 8.0);
+    report.compare(
+        work, QStringLiteral("a QMainWindow with %1 labels, as many as there are widgets").arg(widgets),
+        rounds, showing(logbook), showing([widgets] { return std::make_unique<PlainWindow>(widgets); }));
 }
 
 void measureReload(Report &report, int entries, int rounds)
 {
     OpenWindow window(Catalogue::withEntries(entries));
     const Bare::Texts texts = Bare::textsOf(window.path());
-    const Measure::Pair reload = Measure::compare(
-        rounds,
+    const Measure::Pair reload = report.compare(
+        QStringLiteral("whole reload with redraw, 100 batteries, %1 entries").arg(entries),
+        QStringLiteral("three bare passes + one conversion"), rounds,
         [&] {
             return Measure::seconds([&] {
                 window->updateBatteryGui();
@@ -136,11 +134,9 @@ void measureReload(Report &report, int entries, int rounds)
                     Bare::read(window.path());
                 texts.convert();
             });
-        });
+        },
+        entries == 100'000 ? std::optional(1.10) : std::nullopt);
     report.addPoint(QStringLiteral("reload with redraw"), entries, reload.seconds);
-    report.addRatio(QStringLiteral("whole reload with redraw, 100 batteries, %1 entries").arg(entries),
-                    QStringLiteral("three bare passes + one conversion"), reload,
-                    entries == 100'000 ? std::optional(1.10) : std::nullopt);
 }
 
 /** A scroll area that gets as many plain cards as a model has batteries moved to a new column. */
@@ -181,22 +177,21 @@ void measureModelSwitch(Report &report, int rounds)
     catalogue.flights = 50;
     OpenWindow window(catalogue);
     PlainOverview plain(catalogue.batteriesOfAModel);
-    report.addRatio(QStringLiteral("model switched, %1 cards, with redraw").arg(catalogue.batteriesOfAModel),
-                    QStringLiteral("as many plain widgets moved to a new column"),
-                    Measure::compare(
-                        rounds,
-                        [&] {
-                            return Measure::seconds([&] {
-                                window.chooseNextModel();
-                                settle();
-                            });
-                        },
-                        [&] {
-                            return Measure::seconds([&] {
-                                plain.rebuild();
-                                settle();
-                            });
-                        }));
+    report.compare(
+        QStringLiteral("model switched, %1 cards, with redraw").arg(catalogue.batteriesOfAModel),
+        QStringLiteral("as many plain widgets moved to a new column"), rounds,
+        [&] {
+            return Measure::seconds([&] {
+                window.chooseNextModel();
+                settle();
+            });
+        },
+        [&] {
+            return Measure::seconds([&] {
+                plain.rebuild();
+                settle();
+            });
+        });
 }
 
 /** The newest flight lies at the end of every history, as a search in all of them finds it. */
@@ -208,21 +203,21 @@ void measureLogBook(Report &report, int entries, int rounds)
         qsizetype found = 0;
         for (BatteryWidget *battery : std::as_const(window->batteryList))
             found += battery->getDates().indexOf(moment);
-        keep(found);
+        benchmark::DoNotOptimize(found);
     };
     const QString size = QStringLiteral(", %1 entries").arg(entries);
-    report.addRatio(QStringLiteral("log book opened") + size, QStringLiteral("a search in the same dates"),
-                    Measure::compare(
-                        rounds,
-                        [&] {
-                            return Measure::seconds([&] {
-                                window->on_pb_logbook_clicked();
-                                settle();
-                            });
-                        },
-                        [&] { return Measure::seconds(searchDates); }));
-    const Measure::Pair steps = Measure::compare(
-        rounds,
+    report.compare(
+        QStringLiteral("log book opened") + size, QStringLiteral("a search in the same dates"), rounds,
+        [&] {
+            return Measure::seconds([&] {
+                window->on_pb_logbook_clicked();
+                settle();
+            });
+        },
+        [&] { return Measure::seconds(searchDates); });
+    const Measure::Pair steps = report.compare(
+        QStringLiteral("log book, a step back and one forth") + size,
+        QStringLiteral("two searches in the same dates"), rounds,
         [&] {
             return Measure::seconds([&] {
                 window->on_pb_logview_prev_clicked();
@@ -236,8 +231,6 @@ void measureLogBook(Report &report, int entries, int rounds)
             });
         });
     report.addPoint(QStringLiteral("log book step"), entries, steps.seconds / 2);
-    report.addRatio(QStringLiteral("log book, a step back and one forth") + size,
-                    QStringLiteral("two searches in the same dates"), steps);
 }
 
 } // namespace

@@ -23,9 +23,9 @@ Q_DECLARE_OPAQUE_POINTER(RotavexOrchestrator *)
 /**
  * Base class of every plugin of the host.
  *
- * It carries the plugin's identity, one translator per translation file, and access to the settings store that
- * the host and all its plugins share. Everything here runs on the user-interface thread; nothing reports a
- * failure: a missing translation leaves the source texts, a missing settings group has no keys.
+ * It carries the plugin's identity, one translator per translation file, and access to the settings store
+ * that the host and all its plugins share. Everything here runs on the user-interface thread; nothing reports
+ * a failure: a missing translation leaves the source texts, a missing settings group has no keys.
  */
 class VOLTBOK_EXPORT RotavexPlugin : public QObject
 {
@@ -40,8 +40,8 @@ public:
      * @param translationDirectory where the plugin's translation files are looked for first; an empty one
      *        switches language switching off.
      */
-    RotavexPlugin(const QString &name, const QIcon &icon, const QString &description, const QString &copyright,
-                  const QString &translationDirectory, QObject *parent = nullptr);
+    RotavexPlugin(const QString &name, const QIcon &icon, const QString &description,
+                  const QString &copyright, const QString &translationDirectory, QObject *parent = nullptr);
     ~RotavexPlugin() override;
 
     QString name() const;
@@ -59,8 +59,8 @@ public:
     /**
      * Reloads and reinstalls every registered translator for a language.
      *
-     * A file that is missing in the plugin's own directory is replaced by the base class's file from the host's
-     * resources; without either, the translator stays removed and the source texts show.
+     * A file that is missing in the plugin's own directory is replaced by the base class's file from the
+     * host's resources; without either, the translator stays removed and the source texts show.
      */
     void switchLanguage(const QLocale &locale);
 
