@@ -9,7 +9,6 @@
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
-using Catalogue::Battery;
 using Catalogue::Discharge;
 using Catalogue::moment;
 using ChartPage::chart;

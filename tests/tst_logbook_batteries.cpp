@@ -7,7 +7,6 @@
 
 using namespace Qt::Literals::StringLiterals;
 using Catalogue::Battery;
-using Catalogue::Discharge;
 using Catalogue::flights;
 using Catalogue::moment;
 
