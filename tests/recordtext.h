@@ -9,8 +9,8 @@
 
 /**
  * Records as lines of text, as exactly as the data file can hold them: moments to the second, texts without
- * what XML has no form for. Knows nothing of how the file is written, so that nothing the writer forgets is
- * missed here.
+ * what XML has no form for (by the writer's own rule). Nothing is written on the way, so that what the writer
+ * forgets is not forgotten here.
  */
 namespace RecordText {
 
