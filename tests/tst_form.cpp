@@ -51,6 +51,7 @@ private Q_SLOTS:
     void aWidgetStandsInItsCell();
     void thePagesStandInTheirOrder();
     void theWindowOpensAtItsSizeOnTheOverview();
+    void longNamesDoNotWidenTheWindow();
     void theHeaderStandsAboveThePages();
     void aHeaderButtonIsABareIcon_data();
     void aHeaderButtonIsABareIcon();
@@ -124,6 +125,20 @@ void FormTest::theWindowOpensAtItsSizeOnTheOverview()
     named.setObjectName(u"Logbook"_s);
     Ui_VoltbokGui().setupUi(&named);
     QCOMPARE(named.objectName(), u"Logbook"_s);
+}
+
+void FormTest::longNamesDoNotWidenTheWindow()
+{
+    RawForm form;
+    form.lo_overview->addWidget(form.cb_select_model, 0, 0); // where it stands once there are models
+    const auto choosers = form.window.findChildren<QComboBox *>();
+    QCOMPARE(choosers.size(), 9);
+    for (QComboBox *chooser : choosers)
+        chooser->addItem(QString(200, u'W'));
+    form.window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&form.window));
+    QVERIFY(form.window.minimumSizeHint().width() <= 350);
+    QCOMPARE(form.window.width(), 350);
 }
 
 void FormTest::theHeaderStandsAboveThePages()
