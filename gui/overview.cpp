@@ -8,6 +8,8 @@
 #include <QGridLayout>
 #include <QSignalBlocker>
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace {
@@ -163,9 +165,15 @@ QWidget *VoltbokGui::renewContent()
 void VoltbokGui::placeCards()
 {
     const ModelWidget *selected = selectedModel();
-    for (BatteryWidget *card : std::as_const(batteryList)) {
-        if (selected && !selected->containsBattery(card->getBatteryName()))
-            continue;
+    QList<BatteryWidget *> cards;
+    std::copy_if(batteryList.cbegin(), batteryList.cend(), std::back_inserter(cards),
+                 [selected](const BatteryWidget *card) {
+                     return !selected || selected->containsBattery(card->getBatteryName());
+                 });
+    // Grids outlive their time on show: each gets its rows at once, and not as many again to spare.
+    const auto lastRow = overviewCardCount + static_cast<int>(cards.size()) + 1;
+    ui->lo_overview->setRowStretch(lastRow, 0);
+    for (BatteryWidget *card : std::as_const(cards)) {
         // Meant as it is: a card that is placed again is connected again, and its earlier connections stay.
         connect(card, SIGNAL(dataChanged()), this, SLOT(writeDataWithDataprocessor()));
         connect(card, SIGNAL(chargeBatteryClicked()), this, SLOT(showBatteryCharge()));
