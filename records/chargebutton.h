@@ -6,9 +6,9 @@
 /**
  * The button of a card; its style sheet costs nothing until it is polished.
  *
- * A push button answers a change of style with asking for its place in a layout, for which Qt works out all rules of
- * the style sheet, only to forget them when the button is polished. The colours of a card change nothing of the
- * place, so that answer is left out until then: it was a quarter of what building a card took.
+ * A push button answers a change of style with asking for its place in a layout, for which Qt works out all
+ * rules of the style sheet, only to forget them when the button is polished. The colours of a card change
+ * nothing of the place, so that answer is left out until then: it was a quarter of what building a card took.
  */
 class ChargeButton : public QPushButton // clazy:exclude=missing-qobject-macro
 {

@@ -384,7 +384,8 @@ void BatteryCardTest::theButtonLooksLikeAnyWithItsStyleSheet()
     card.hide();
 
     QWidget window;
-    auto *plain = new QPushButton(charged ? QStringLiteral("Charged") : QStringLiteral("Discharged"), &window);
+    auto *plain =
+        new QPushButton(charged ? QStringLiteral("Charged") : QStringLiteral("Discharged"), &window);
     plain->move(20, 20); // not below the mouse, which would show
     plain->setFixedSize(100, 35);
     plain->setFocusPolicy(Qt::NoFocus);
