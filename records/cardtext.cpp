@@ -1,20 +1,28 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/cardtext.h"
 
+namespace {
+QString fraction(unsigned int number, unsigned int whole)
+{
+    return QString::number(number / whole) + u'.' + QString::number(number % whole);
+}
+} // namespace
+
 QString CardText::charge(unsigned int milliampereHours)
 {
-    return QStringLiteral("%1mAh").arg(milliampereHours);
+    return QString::number(milliampereHours) + QLatin1StringView("mAh");
 }
 
 QString CardText::rates(unsigned int rating, unsigned int chargeRate)
 {
+    const QString discharge = QString::number(rating) + u'C';
     if (chargeRate == 0)
-        return QStringLiteral("%1C").arg(rating);
-    return QStringLiteral("%1C/%2.%3C").arg(rating).arg(chargeRate / 10).arg(chargeRate % 10);
+        return discharge;
+    return discharge + u'/' + fraction(chargeRate, 10) + u'C';
 }
 
 QString CardText::current(unsigned int hundredths)
 {
     // Without a leading zero in the fraction, which is meant: 10005 reads "100.5A".
-    return QStringLiteral("%1.%2A").arg(hundredths / 100).arg(hundredths % 100);
+    return fraction(hundredths, 100) + u'A';
 }
