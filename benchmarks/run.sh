@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 source packaging/setup.sh
 
-prepare "${build_packages[@]}" libbenchmark-dev
+prepare "${build_packages[@]}" libbenchmark-dev xvfb
 build release
 cd build/release/benchmarks
 ./voltbok_benchmarks --json performance.json --plot performance.png "$@" | tee performance.md
