@@ -3,10 +3,15 @@
 #include "benchmarks.h"
 #include "report.h"
 
+#include "plugin/rotavexplugin.h"
+
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTextStream>
+
+#include <utility>
 
 #include <time.h>
 
@@ -33,6 +38,10 @@ void settleSurroundings(const QString &home)
     qputenv("QT_LOGGING_RULES", "default.warning=false"); // the offscreen platform remarks on every window
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    // This program's own store was opened when the library was loaded; those that it starts go by
+    // XDG_CONFIG_HOME.
+    auto *store = new QSettings(home + u"/settings.ini"_s, QSettings::IniFormat);
+    delete std::exchange(RotavexPlugin::rotavexSettings, store);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/batterywidget.h"
 #include "records/cardtext.h"
+#include "ui_batterywidget.h"
 
 #include <QApplication>
 #include <QFrame>
@@ -35,6 +36,7 @@ private Q_SLOTS:
     void theLayoutsHaveTheirSpacing();
     void theSpacersPushTheCardUpAndToTheLeft();
     void theButtonIsFixedInSizeAndStartsRed();
+    void theFormWorksOnAnyWidget();
     void theButtonAnswersItsStyleOnceItIsShown();
     void theButtonLooksLikeAnyWithItsStyleSheet_data();
     void theButtonLooksLikeAnyWithItsStyleSheet();
@@ -337,6 +339,18 @@ void BatteryCardTest::theButtonIsFixedInSizeAndStartsRed()
     QCOMPARE(button->maximumSize(), QSize(100, 35));
     QCOMPARE(button->styleSheet(), red);
     QVERIFY(!card.getBatteryCharged());
+}
+
+void BatteryCardTest::theFormWorksOnAnyWidget()
+{
+    QWidget plain;
+    Ui_BatteryWidget form;
+    form.setupUi(&plain);
+    QCOMPARE(plain.objectName(), QStringLiteral("BatteryWidget"));
+    QCOMPARE(form.pushButton->styleSheet(), red);
+    QCOMPARE(form.pushButton->text(), QStringLiteral("Text"));
+    QCOMPARE(form.pushButton->metaObject(), &QPushButton::staticMetaObject);
+    QCOMPARE(form.label_6->text(), QStringLiteral("Last use:"));
 }
 
 void BatteryCardTest::theButtonAnswersItsStyleOnceItIsShown()
