@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "rawcard.h"
 #include "records/batterywidget.h"
 #include "records/cardtext.h"
-#include "ui_batterywidget.h"
 
 #include <QApplication>
 #include <QFrame>
@@ -343,10 +343,8 @@ void BatteryCardTest::theButtonIsFixedInSizeAndStartsRed()
 
 void BatteryCardTest::theFormWorksOnAnyWidget()
 {
-    QWidget plain;
-    Ui_BatteryWidget form;
-    form.setupUi(&plain);
-    QCOMPARE(plain.objectName(), QStringLiteral("BatteryWidget"));
+    const RawCard form;
+    QCOMPARE(form.widget.objectName(), QStringLiteral("BatteryWidget"));
     QCOMPARE(form.pushButton->styleSheet(), red);
     QCOMPARE(form.pushButton->text(), QStringLiteral("Text"));
     QCOMPARE(form.pushButton->metaObject(), &QPushButton::staticMetaObject);
