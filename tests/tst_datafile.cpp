@@ -40,6 +40,7 @@ private Q_SLOTS:
     void cyclesTakeTheirAttributes_data();
     void cyclesTakeTheirAttributes();
     void flightsTakeTheirAttributes();
+    void aHistoryOrALogMayComeInParts();
     void aFlightAndItsDischargeStayEqual();
     void millisecondsAreLost();
 };
@@ -585,6 +586,24 @@ void DataFileTest::flightsTakeTheirAttributes()
     QCOMPARE(log.at(1).notes, QStringLiteral("n"));
     QVERIFY(!log.at(2).date.isValid() && !log.at(2).duration.isValid());
     QCOMPARE(log.at(2).temperature, 0);
+}
+
+void DataFileTest::aHistoryOrALogMayComeInParts()
+{
+    RecordLists catalogue;
+    loadBody(catalogue,
+             "<Battery><Data><Cycle Date=\"Sat Nov 7 09:00:01 2026\"/></Data>"
+             "<Data><Cycle/><Cycle Date=\"Mon Nov 9 09:00:01 2026\"/></Data></Battery>"
+             "<Model><FlightLog><LogData Date=\"Sat Nov 7 09:00:01 2026\"/></FlightLog>"
+             "<FlightLog><LogData/><LogData Date=\"Mon Nov 9 09:00:01 2026\"/></FlightLog></Model>");
+    const QList<QDateTime> dates{november(7), QDateTime(), november(9)};
+    QCOMPARE(catalogue.batteries.size(), 1);
+    QCOMPARE(catalogue.batteries.first()->getDates(), dates);
+    QCOMPARE(catalogue.models.size(), 1);
+    QList<QDateTime> flown;
+    for (const LogData &flight : qAsConst(catalogue.models.first()->getLogData()))
+        flown.append(flight.date);
+    QCOMPARE(flown, dates);
 }
 
 void DataFileTest::aFlightAndItsDischargeStayEqual()
