@@ -135,6 +135,8 @@ void FormTest::longNamesDoNotWidenTheWindow()
     QCOMPARE(choosers.size(), 9);
     for (QComboBox *chooser : choosers)
         chooser->addItem(QString(200, u'W'));
+    for (QLabel *name : {form.lbl_logview_location, form.lbl_logview_battname})
+        name->setText(QString(200, u'W'));
     form.window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&form.window));
     QVERIFY(form.window.minimumSizeHint().width() <= 350);
