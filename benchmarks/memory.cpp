@@ -95,6 +95,14 @@ Catalogue fiftyBatteries(int batteriesOfAModel)
     return catalogue;
 }
 
+double growthOfSwitches(OpenWindow &window, int repetitions)
+{
+    return growth(repetitions, [&window] {
+        window.chooseNextModel();
+        settle();
+    });
+}
+
 void measureGrowth(Report &report, int repetitions)
 {
     // Qt fills its cache of pictures up to a limit of its own, and keeps their names when it drops them.
@@ -111,25 +119,14 @@ void measureGrowth(Report &report, int repetitions)
                          }),
                   6.0);
         addGrowth(report, QStringLiteral("a model switch") + onShow, repetitions,
-                  growth(repetitions,
-                         [&] {
-                             window.chooseNextModel();
-                             settle();
-                         }),
-                  6.0);
+                  growthOfSwitches(window, repetitions), 6.0);
     }
     {
         OpenWindow window(fiftyBatteries(10));
         QPixmapCache::setCacheLimit(100); // KiB, soon full
         addGrowth(report,
                   QStringLiteral("a model switch, 10 on show, with the names in Qt's cache of pictures"),
-                  repetitions,
-                  growth(repetitions,
-                         [&] {
-                             window.chooseNextModel();
-                             settle();
-                         }),
-                  {});
+                  repetitions, growthOfSwitches(window, repetitions), {});
         QPixmapCache::setCacheLimit(limit);
     }
     OpenWindow window(fiftyBatteries(5));
