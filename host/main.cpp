@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "commandline.h"
-#include "host.h"
-#include "storagefolder.h"
+#include "host/app/commandline.h"
+#include "host/app/console.h"
+#include "host/app/startup.h"
+#include "host/safety/storagefolder.h"
 
 #include <QApplication>
 
-#include <cstdio>
+#include <cstdlib>
 
+using namespace Host;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -15,7 +17,7 @@ CommandLine readCommandLine(int &argc, char **argv)
 {
     // An application without windows, so that help and mistakes need no display.
     const QCoreApplication application(argc, argv);
-    return readCommandLine(QCoreApplication::arguments());
+    return Host::readCommandLine(QCoreApplication::arguments());
 }
 
 /** Why no window can be opened; empty where one can, as far as this can be known beforehand. */
@@ -37,22 +39,26 @@ int main(int argc, char *argv[])
     QCoreApplication::setApplicationVersion(u"" VOLTBOK_VERSION ""_s);
 
     const CommandLine commandLine = readCommandLine(argc, argv);
-    if (!commandLine.error.isEmpty())
-        return fail(commandLine.error);
+    if (!commandLine.error.isEmpty()) {
+        Console::complain(commandLine.error);
+        return EXIT_FAILURE;
+    }
     if (!commandLine.answer.isEmpty()) {
-        std::fputs(qUtf8Printable(commandLine.answer), stdout);
+        Console::print(commandLine.answer);
         return EXIT_SUCCESS;
     }
 
-    QString problem = storageProblem(commandLine.storagePath);
+    QString problem = StorageFolder(commandLine.storagePath).problem();
     if (problem.isEmpty() && commandLine.screenshot.isEmpty())
         problem = displayProblem();
-    if (!problem.isEmpty())
-        return fail(problem);
+    if (!problem.isEmpty()) {
+        Console::complain(problem);
+        return EXIT_FAILURE;
+    }
 
     if (!commandLine.screenshot.isEmpty())
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication::setDesktopFileName(u"voltbok"_s);
     const QApplication application(argc, argv);
-    return runHost(commandLine);
+    return start(commandLine);
 }

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QStringList>
 
+namespace Host {
+
 /** What the user asks for on the command line. */
 struct CommandLine
 {
@@ -18,3 +20,5 @@ struct CommandLine
 /** Reads the arguments, the program's name first. Needs an application object, which may be one without
  * windows. */
 CommandLine readCommandLine(const QStringList &arguments);
+
+} // namespace Host

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "commandline.h"
+#include "host/app/commandline.h"
 
-#include "storagefolder.h"
+#include "host/safety/storagefolder.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -9,6 +9,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace Host {
 namespace {
 
 struct Options
@@ -39,10 +40,10 @@ QString contradiction(const QCommandLineParser &parser, const Options &options, 
 QString chosenPath(const QCommandLineParser &parser, const Options &options, bool demo)
 {
     if (demo)
-        return demoStoragePath();
+        return StorageFolder::ofDemo().path();
     if (parser.isSet(options.data))
-        return QDir::cleanPath(QDir::current().absoluteFilePath(parser.value(options.data)));
-    return defaultStoragePath();
+        return StorageFolder(parser.value(options.data)).path();
+    return StorageFolder::ofUser().path();
 }
 
 } // namespace
@@ -79,3 +80,5 @@ CommandLine readCommandLine(const QStringList &arguments)
     result.screenshot = parser.value(options.screenshot);
     return result;
 }
+
+} // namespace Host

@@ -1,21 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "folderlock.h"
+#include "host/safety/folderlock.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace Host {
 namespace {
 
 constexpr int PatienceMs = 2000; // enough for an instance that only draws a picture
-
-QString lockBesideAll(const QString &storagePath)
-{
-    const QString canonical = QDir(storagePath).exists() ? QDir(storagePath).canonicalPath() : storagePath;
-    const QByteArray hash = QCryptographicHash::hash(canonical.toUtf8(), QCryptographicHash::Sha1).toHex();
-    return QDir::temp().absoluteFilePath(u"voltbok-%1.lock"_s.arg(QLatin1StringView(hash)));
-}
 
 QString holder(const QLockFile &lock, const QString &storagePath)
 {
@@ -41,17 +34,19 @@ bool tryLock(QLockFile &lock)
 
 } // namespace
 
-QString FolderLock::take(const QString &storagePath)
+FolderLock::Refusal FolderLock::take(const StorageFolder &folder)
 {
-    QStringList names{lockBesideAll(storagePath)};
-    if (QDir(storagePath).exists())
-        names.append(QDir(storagePath).absoluteFilePath(u"voltbok.lock"_s));
-    for (const QString &name : std::as_const(names)) {
-        auto lock = std::make_unique<QLockFile>(name);
-        lock->setStaleLockTime(0); // only a dead holder makes a lock stale, never its age
-        if (!tryLock(*lock))
-            return holder(*lock, storagePath);
-        m_locks.push_back(std::move(lock));
-    }
-    return QString();
+    auto lock = std::make_unique<QLockFile>(folder.lock());
+    lock->setStaleLockTime(0); // only a dead holder makes a lock stale, never its age
+    if (!tryLock(*lock))
+        return {holder(*lock, folder.path())};
+    m_locks.push_back(std::move(lock));
+    return {};
 }
+
+FolderLock::Refusal FolderLock::breakAndTake(const StorageFolder &folder)
+{
+    return take(folder);
+}
+
+} // namespace Host

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/safety/storagefolder.h"
+
+#include <QDateTime>
+#include <QObject>
+#include <QString>
+#include <QThread>
+
+#include <functional>
+
+namespace Host {
+
+/**
+ * Copies the data file when it starts and after every change that it is told of, in a thread of its own, and
+ * thins the copies out.
+ */
+class BackupKeeper final : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(BackupKeeper)
+
+public:
+    using Clock = std::function<QDateTime()>;
+
+    explicit BackupKeeper(const StorageFolder &folder, Clock clock = &QDateTime::currentDateTimeUtc,
+                          QObject *parent = nullptr);
+    /** Copies what was changed last, and waits for it. */
+    ~BackupKeeper() override;
+
+    /** The data file may have changed: returns at once; the file is read, checked and copied elsewhere. */
+    void look();
+    /** The same, and waits until the copy is made: before something overwrites the file. */
+    void lookAndWait();
+
+Q_SIGNALS:
+    /** No copy could be made; told once for each reason, until a copy is made again. A whole sentence. */
+    void failed(const QString &problem);
+    /** A copy was made, or was not needed, after failed(). */
+    void recovered();
+    /** The data file is not one whole logbook; a clause that says why. */
+    void fileBroken(const QString &reason);
+    /** The data file was read and is one whole logbook. */
+    void fileWhole();
+};
+
+} // namespace Host
