@@ -3,10 +3,12 @@
 #include "host/app/console.h"
 #include "host/app/startup.h"
 #include "host/safety/storagefolder.h"
+#include "host/window/questions.h"
 
 #include <QApplication>
 
 #include <cstdlib>
+#include <memory>
 
 using namespace Host;
 using namespace Qt::Literals::StringLiterals;
@@ -29,6 +31,15 @@ QString displayProblem()
         return u"there is no display; --screenshot FILE draws the window without one"_s;
 #endif
     return QString();
+}
+
+/** Boxes, where somebody can see them. */
+std::unique_ptr<Questions> whoAnswers(const CommandLine &commandLine)
+{
+    const QString platform = QGuiApplication::platformName();
+    if (!commandLine.screenshot.isEmpty() || platform == u"offscreen" || platform == u"minimal")
+        return std::make_unique<UnattendedQuestions>();
+    return std::make_unique<BoxQuestions>();
 }
 
 } // namespace
@@ -60,5 +71,6 @@ int main(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication::setDesktopFileName(u"voltbok"_s);
     const QApplication application(argc, argv);
-    return start(commandLine);
+    const std::unique_ptr<Questions> questions = whoAnswers(commandLine);
+    return start(commandLine, *questions);
 }

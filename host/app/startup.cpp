@@ -1,16 +1,234 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/app/startup.h"
 
-#include "gui/voltbokgui.h"
 #include "host/app/commandline.h"
+#include "host/app/console.h"
+#include "host/data/losses.h"
+#include "host/demo/demo.h"
+#include "host/safety/backups.h"
+#include "host/safety/folderlock.h"
+#include "host/safety/recovery.h"
+#include "host/window/mainwindow.h"
+#include "host/window/questions.h"
+#include "host/window/recoveryquestion.h"
 
 #include <QApplication>
+#include <QImageWriter>
+#include <QPixmap>
 
-int Host::start(const CommandLine &commandLine)
+#include <cstdlib>
+#include <memory>
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace Host {
+namespace {
+
+QString tr(const char *text)
 {
-    VoltbokGui window;
-    QObject::connect(&window, &VoltbokGui::closeVoltbokGui, qApp, &QApplication::quit);
-    window.changeStoragePath(commandLine.storagePath);
+    return QCoreApplication::translate("Startup", text);
+}
+
+/** The first of what would be lost, and how much more there is. */
+QString firstFew(const QStringList &losses)
+{
+    constexpr qsizetype Few = 3;
+    const QString first = losses.first(qMin(Few, losses.size())).join(u", ");
+    const qsizetype more = losses.size() - Few;
+    return more <= 0 ? first
+                     : tr(QT_TRANSLATE_NOOP("Startup", "%1 and %2 more")).arg(first, QString::number(more));
+}
+
+/** The way into the logbook. A step that ends it gives the program's exit status. */
+class Startup
+{
+public:
+    Startup(const CommandLine &commandLine, Questions &questions)
+        : m_commandLine(commandLine)
+        , m_questions(questions)
+        , m_folder(commandLine.storagePath)
+    {
+    }
+
+    int run();
+
+private:
+    using Status = std::optional<int>;
+
+    int refuse(const QString &problem);
+    Status takeFolder();
+    Status takeOver(const FolderLock::Refusal &refusal);
+    Status recover(const FileState &state);
+    QString describe(const FileState &state) const;
+    int draw();
+    int openWindow();
+    QString keepWhatWouldBeLost(MainWindow &window, const FileState &state);
+
+    const CommandLine &m_commandLine;
+    Questions &m_questions;
+    StorageFolder m_folder;
+    std::unique_ptr<FolderLock> m_lock = std::make_unique<FolderLock>();
+};
+
+int Startup::run()
+{
+    const bool drawsOnly = !m_commandLine.screenshot.isEmpty();
+    if (!drawsOnly || m_commandLine.demo) { // to draw a logbook it is only read: no lock, and nothing is made
+        if (const Status ended = takeFolder())
+            return *ended;
+    }
+    if (drawsOnly)
+        return draw();
+    const FileState state = Recovery::examine(m_folder);
+    if (state.kind == FileState::Unreadable)
+        return refuse(describe(state));
+    if (state.kind == FileState::Missing || state.kind == FileState::Damaged) {
+        if (const Status ended = recover(state))
+            return *ended;
+    }
+    return openWindow();
+}
+
+int Startup::refuse(const QString &problem)
+{
+    Console::complain(problem);
+    m_questions.tell(problem);
+    return EXIT_FAILURE;
+}
+
+/** Makes the folder ours, and ready to be looked into. */
+Startup::Status Startup::takeFolder()
+{
+    const QString problem = m_folder.problem();
+    if (!problem.isEmpty())
+        return refuse(problem);
+    const FolderLock::Refusal refusal = m_lock->take(m_folder);
+    if (!refusal.problem.isEmpty()) {
+        if (const Status ended = takeOver(refusal))
+            return ended;
+    }
+    Recovery::finishInterrupted(m_folder);
+    const QString demoProblem =
+        m_commandLine.demo ? prepareDemo(m_folder, m_commandLine.resetDemo) : QString();
+    return demoProblem.isEmpty() ? Status() : refuse(demoProblem);
+}
+
+/** Somebody else has the folder. */
+Startup::Status Startup::takeOver(const FolderLock::Refusal &refusal)
+{
+    if (false)
+        return EXIT_SUCCESS;
+    if (!refusal.mayTakeOver)
+        return refuse(refusal.problem);
+    Console::complain(refusal.problem);
+    Question question;
+    question.text = refusal.problem;
+    question.answers = QStringList{tr(QT_TRANSLATE_NOOP("Startup", "Quit")),
+                                   tr(QT_TRANSLATE_NOOP("Startup", "Take the Logbook Over"))};
+    if (m_questions.ask(question).button == 0)
+        return EXIT_FAILURE;
+    const QString problem = m_lock->breakAndTake(m_folder).problem;
+    return problem.isEmpty() ? Status() : refuse(problem);
+}
+
+QString Startup::describe(const FileState &state) const
+{
+    switch (state.kind) {
+    case FileState::Missing:
+        return tr(QT_TRANSLATE_NOOP(
+                      "Startup", "The logbook file “%1” is missing, but copies of it are there. Nothing was "
+                                 "changed. Start the program on a screen to choose one."))
+            .arg(m_folder.dataFile());
+    case FileState::Damaged:
+        return tr(QT_TRANSLATE_NOOP("Startup",
+                                    "The logbook file “%1” is damaged: %2. Nothing was changed. Start the "
+                                    "program on a screen to choose a copy."))
+            .arg(m_folder.dataFile(), state.problem);
+    default:
+        return tr(QT_TRANSLATE_NOOP("Startup",
+                                    "The logbook file “%1” cannot be read: %2. Nothing was changed. Put the "
+                                    "right file in its place, or choose another folder."))
+            .arg(m_folder.dataFile(), state.problem);
+    }
+}
+
+/** Puts something whole in the place of a file that cannot be opened. */
+Startup::Status Startup::recover(const FileState &state)
+{
+    Console::complain(describe(state));
+    const std::optional<QByteArray> document = askForReplacement(m_questions, m_folder, state);
+    if (!document)
+        return EXIT_FAILURE;
+    Backups::keepNewestWhole(m_folder); // a copy made before a damage is never thinned out
+    QString aside;
+    const QString reason = Recovery::replace(m_folder, *document, QDateTime::currentDateTimeUtc(), &aside);
+    if (reason.isEmpty())
+        return std::nullopt;
+    return refuse(tr(QT_TRANSLATE_NOOP(
+                         "Startup", "Nothing could be put in the place of “%1”: %2. All is as it was. Free "
+                                    "some space, and start the program again."))
+                      .arg(m_folder.dataFile(), reason));
+}
+
+int Startup::draw()
+{
+    const FileState state = Recovery::examine(m_folder);
+    if (state.kind != FileState::Whole && state.kind != FileState::New)
+        return refuse(describe(state));
+    QImageWriter writer(m_commandLine.screenshot, "png");
+    if (writer.write(MainWindow::picture(m_folder).toImage()))
+        return EXIT_SUCCESS;
+    return refuse(
+        tr(QT_TRANSLATE_NOOP("Startup", "The picture “%1” cannot be written: %2. Choose another name."))
+            .arg(m_commandLine.screenshot, writer.errorString()));
+}
+
+int Startup::openWindow()
+{
+    const FileState state = Recovery::examine(m_folder);
+    MainWindow window(m_questions);
+    QObject::connect(&window, &MainWindow::told, &Console::complain);
+    window.open(m_folder, std::move(m_lock));
+    const QString problem = keepWhatWouldBeLost(window, state);
+    if (!problem.isEmpty())
+        return refuse(problem);
     window.show();
     return QApplication::exec();
 }
+
+/** Puts a file aside that holds more than the next save would write. @return why it could not be done. */
+QString Startup::keepWhatWouldBeLost(MainWindow &window, const FileState &state)
+{
+    if (state.kind != FileState::Whole)
+        return QString();
+    const QStringList lost = losses(state.bytes, window.openedAs());
+    if (lost.isEmpty())
+        return QString();
+    QString aside;
+    const QString reason =
+        Recovery::keepAside(m_folder, state.bytes, QDateTime::currentDateTimeUtc(), &aside);
+    if (!reason.isEmpty())
+        return tr(QT_TRANSLATE_NOOP(
+                      "Startup",
+                      "The logbook file “%1” holds what this version of Voltbok would drop when it saves, "
+                      "and no copy of it can be put aside: %2. Nothing was changed. Free some space, and "
+                      "start the program again."))
+            .arg(m_folder.dataFile(), reason);
+    window.tell(u"losses"_s,
+                tr(QT_TRANSLATE_NOOP(
+                       "Startup",
+                       "The logbook file holds what this version of Voltbok does not understand, and drops "
+                       "when it saves: %1. The file as it is now is kept as “%2”."))
+                    .arg(firstFew(lost), aside));
+    return QString();
+}
+
+} // namespace
+
+int start(const CommandLine &commandLine, Questions &questions)
+{
+    return Startup(commandLine, questions).run();
+}
+
+} // namespace Host

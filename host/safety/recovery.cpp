@@ -8,17 +8,12 @@
 #include <QFile>
 #include <QFileInfo>
 
-#include <algorithm>
-
 namespace Host {
 namespace {
 
-bool hasWholeCopy(const StorageFolder &folder)
+QString missing()
 {
-    const QList<Copy> copies = Backups::list(folder);
-    return std::any_of(copies.cbegin(), copies.cend(), [&](const Copy &copy) {
-        return WholeFile::isWhole(WholeFile::read(folder.backups().filePath(copy.name)).bytes);
-    });
+    return QCoreApplication::translate("Recovery", "it is missing");
 }
 
 bool isThere(const QString &path)
@@ -29,18 +24,29 @@ bool isThere(const QString &path)
 
 } // namespace
 
+void Recovery::finishInterrupted(const StorageFolder &folder)
+{
+    QFile replacement(folder.replacement());
+    if (!replacement.exists())
+        return;
+    const bool wanted =
+        !isThere(folder.dataFile()) && WholeFile::isWhole(WholeFile::read(folder.replacement()).bytes);
+    if (!wanted || !replacement.rename(folder.dataFile()))
+        replacement.remove();
+}
+
 FileState Recovery::examine(const StorageFolder &folder)
 {
     if (!isThere(folder.dataFile())) {
-        if (!hasWholeCopy(folder))
-            return {};
-        return {FileState::Missing, QCoreApplication::translate("Recovery", "it is missing"), {}};
+        const bool isNew = Backups::list(folder).isEmpty() && folder.asides().isEmpty();
+        return isNew ? FileState() : FileState{FileState::Missing, missing(), {}};
     }
     WholeFile::Reading reading = WholeFile::read(folder.dataFile());
     if (!reading.problem.isEmpty())
         return {FileState::Unreadable, reading.problem, {}};
-    const QString problem = WholeFile::inspect(reading.bytes).problem;
-    return {problem.isEmpty() ? FileState::Whole : FileState::Damaged, problem, std::move(reading.bytes)};
+    const Contents contents = WholeFile::inspect(reading.bytes);
+    return {contents.problem.isEmpty() ? FileState::Whole : FileState::Damaged, contents.problem,
+            std::move(reading.bytes), !contents.declaresEntities};
 }
 
 QString Recovery::replace(const StorageFolder &folder, const QByteArray &document, const QDateTime &now,
@@ -74,6 +80,13 @@ QString Recovery::replace(const StorageFolder &folder, const QByteArray &documen
 QString Recovery::keepAside(const StorageFolder &folder, const QByteArray &document, const QDateTime &now,
                             QString *aside)
 {
+    const QStringList asides = folder.asides();
+    for (const QString &path : asides) {
+        if (WholeFile::read(path).bytes == document) {
+            *aside = path;
+            return QString();
+        }
+    }
     const QString path = folder.aside(now);
     const QString problem = WholeFile::write(path, document, WholeFile::permissionsOf(folder.dataFile()));
     if (problem.isEmpty())

@@ -20,12 +20,19 @@ struct FileState
         Unreadable ///< it cannot be read: nothing may take its place
     };
     Kind kind = New;
-    QString problem;  ///< a clause that says why; empty for New and Whole
-    QByteArray bytes; ///< what was read; of a damaged file, too
+    QString problem;         ///< a clause that says why; empty for New and Whole
+    QByteArray bytes;        ///< what was read; of a damaged file, too
+    bool mayBeLoaded = true; ///< false where loading what can be read could take all memory there is
 };
 
 /** What to do about a data file that cannot be opened as it is. */
 namespace Recovery {
+
+/**
+ * Ends a replace() that was interrupted: a new file that has not come to its place yet is put there, one that
+ * is not needed any more is removed. Only for the holder of the folder's lock.
+ */
+void finishInterrupted(const StorageFolder &folder);
 
 /** Reads the data file and tells in which state it is. */
 FileState examine(const StorageFolder &folder);
@@ -42,7 +49,13 @@ FileState examine(const StorageFolder &folder);
 QString replace(const StorageFolder &folder, const QByteArray &document, const QDateTime &now,
                 QString *aside);
 
-/** Keeps a second file with the data file's present bytes, under a name that is never thinned out. */
+/**
+ * Keeps a second file with the data file's present bytes, under a name that is never thinned out; one that
+ * is there already will do.
+ *
+ * @param aside set to its path when nothing failed.
+ * @return why it could not be kept, a clause; empty when it was.
+ */
 QString keepAside(const StorageFolder &folder, const QByteArray &document, const QDateTime &now,
                   QString *aside);
 

@@ -67,6 +67,17 @@ QString StorageFolder::aside(const QDateTime &now) const
     }
 }
 
+QStringList StorageFolder::asides() const
+{
+    const QDir folder = QFileInfo(dataFileTarget()).dir();
+    QStringList paths;
+    const auto names =
+        folder.entryList({u"voltbok-broken-*.xml"_s}, QDir::Files, QDir::Name | QDir::Reversed);
+    for (const QString &name : names)
+        paths.append(folder.filePath(name));
+    return paths;
+}
+
 QString StorageFolder::problem() const
 {
     QFileInfo folder(path());

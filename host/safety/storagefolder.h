@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QString>
+#include <QStringList>
 
 class QDateTime;
 
@@ -33,6 +34,8 @@ public:
     QString lock() const;
     /** Where a file that is about to take the place of the data file is written. */
     QString replacement() const;
+    /** The files that were put aside, the newest first; absolute paths. */
+    QStringList asides() const;
     /** A name, not taken yet, for a data file that is put aside; it is never thinned out. */
     QString aside(const QDateTime &now) const;
 

@@ -6,12 +6,15 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+#include <QStorageInfo>
 #include <QXmlStreamReader>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
 namespace {
+
+constexpr qint64 LeastSpace = 16 * 1024; // bytes; a disk with less is full for every logbook
 
 QString clause(const char *text)
 {
@@ -60,16 +63,20 @@ void count(Contents &contents, QStringView name, int level)
         ++contents.flights;
 }
 
-/** What is wrong with the token that was just read; empty when nothing is. */
-QString tokenProblem(const QXmlStreamReader &reader, int level)
+/** Looks at the token that was just read. */
+void look(Contents &contents, const QXmlStreamReader &reader, int level)
 {
-    // The program writes no declarations of its own, and expanding them can take all memory there is.
-    if (reader.isDTD() && reader.text().contains(u'['))
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "it declares entities of its own"));
-    if (reader.isStartElement() && level == 1 && !reader.name().contains(u"Voltbok"))
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "it is not a logbook: its root element is “%1”"))
-            .arg(reader.name().left(100));
-    return QString();
+    if (reader.isDTD() && reader.text().contains(u'[')) {
+        contents.declaresEntities = true;
+        contents.problem = clause(QT_TRANSLATE_NOOP("WholeFile", "it declares entities of its own"));
+    }
+    if (!reader.isStartElement())
+        return;
+    count(contents, reader.name(), level);
+    if (level == 1 && !reader.name().contains(u"Voltbok"))
+        contents.problem =
+            clause(QT_TRANSLATE_NOOP("WholeFile", "it is not a logbook: its root element is “%1”"))
+                .arg(reader.name().left(100));
 }
 
 } // namespace
@@ -103,6 +110,20 @@ QString WholeFile::write(const QString &path, const QByteArray &bytes,
                : clause(QT_TRANSLATE_NOOP("WholeFile", "it was written, but reads differently"));
 }
 
+QString WholeFile::writeProblem(const QString &path)
+{
+    QFile file(path);
+    if (file.exists() && !file.open(QFile::ReadWrite | QFile::ExistingOnly))
+        return file.errorString();
+    const QString folder = QFileInfo(path).path();
+    const QStorageInfo disk(folder);
+    if (disk.isValid() && disk.bytesAvailable() < LeastSpace)
+        return clause(QT_TRANSLATE_NOOP("WholeFile", "no space is left on the disk"));
+    if (!file.exists() && QFileInfo::exists(folder) && !QFileInfo(folder).isWritable())
+        return clause(QT_TRANSLATE_NOOP("WholeFile", "there is no permission to write in its folder"));
+    return QString();
+}
+
 std::optional<QFileDevice::Permissions> WholeFile::permissionsOf(const QString &path)
 {
     // Without QFile's "user" bits, which depend on who asks.
@@ -128,9 +149,7 @@ Contents WholeFile::inspect(const QByteArray &document)
     while (!reader.atEnd() && contents.problem.isEmpty()) {
         reader.readNext();
         level += reader.isStartElement() ? 1 : 0;
-        if (reader.isStartElement())
-            count(contents, reader.name(), level);
-        contents.problem = tokenProblem(reader, level);
+        look(contents, reader, level);
         level -= reader.isEndElement() ? 1 : 0;
     }
     if (contents.problem.isEmpty() && reader.hasError())

@@ -13,6 +13,7 @@ namespace Host {
 struct Contents
 {
     QString problem; ///< why it cannot be opened as a logbook, a clause such as "it is empty"; else empty
+    bool declaresEntities = false; ///< expanding them can take all memory there is
     int locations = 0;
     int batteries = 0;
     int discharges = 0;
@@ -47,6 +48,9 @@ Reading read(const QString &path);
  */
 QString write(const QString &path, const QByteArray &bytes,
               std::optional<QFileDevice::Permissions> permissions = std::nullopt);
+
+/** Why a file cannot be written in place, a clause; empty when it can, or when it can be made. */
+QString writeProblem(const QString &path);
 
 /** The read and write permissions of a file; none where there is no file. */
 std::optional<QFileDevice::Permissions> permissionsOf(const QString &path);

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QAbstractItemModel;
+
+namespace Host {
+
+/** A question to the user. Its texts are shown as they are, never as markup. */
+struct Question
+{
+    QString text;        ///< one sentence that says what is the matter
+    QString details;     ///< what follows from it, and advice
+    QStringList answers; ///< the captions of the buttons
+    int preferred = 0;   ///< the answer that the return key gives
+    int refusal = 0;     ///< the answer that changes nothing: for Escape, and where nobody can answer
+    /** Where the first answer is about one of several things: a table of them, its first column their names.
+     * Rows that cannot be chosen are disabled. Not owned. */
+    QAbstractItemModel *choices = nullptr;
+    int chosen = 0; ///< the row that is chosen at first
+};
+
+struct Answer
+{
+    int button = 0; ///< the index in Question::answers
+    int row = -1;   ///< the chosen row of Question::choices; -1 without any
+};
+
+/** Everything that the program asks or tells in a box goes through here. */
+class Questions
+{
+public:
+    Questions() = default;
+    virtual ~Questions() = default;
+    Questions(const Questions &) = delete;
+    Questions &operator=(const Questions &) = delete;
+
+    virtual Answer ask(const Question &question) = 0;
+    /** Tells something and waits until it was read. */
+    virtual void tell(const QString &text) = 0;
+    /** Lets the user choose an existing folder; empty when he does not. */
+    virtual QString chooseFolder(const QString &caption) = 0;
+};
+
+/** Shows boxes. */
+class BoxQuestions final : public Questions
+{
+public:
+    Answer ask(const Question &question) override;
+    void tell(const QString &text) override;
+    QString chooseFolder(const QString &caption) override;
+};
+
+/** For a program that nobody can see: every question is refused. */
+class UnattendedQuestions final : public Questions
+{
+public:
+    Answer ask(const Question &question) override { return {question.refusal, -1}; }
+    void tell(const QString &) override {}
+    QString chooseFolder(const QString &) override { return QString(); }
+};
+
+} // namespace Host

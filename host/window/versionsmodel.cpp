@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/window/versionsmodel.h"
+
+#include "host/safety/backups.h"
+#include "host/safety/storagefolder.h"
+
+#include <QFileInfo>
+#include <QLocale>
+
+namespace Host {
+namespace {
+enum Column { Title, Size, Batteries, Models, Flights, Discharges, Count };
+}
+
+VersionsModel::VersionsModel(const StorageFolder &folder, QObject *parent)
+    : QAbstractTableModel(parent)
+{
+    const QList<Copy> copies = Backups::list(folder);
+    for (const Copy &copy : copies)
+        m_versions.append({tr("Copy of %1").arg(copy.time.toLocalTime().toString(u"yyyy-MM-dd HH:mm:ss")),
+                           folder.backups().filePath(copy.name),
+                           {},
+                           copy.size,
+                           {}});
+    const QStringList asides = folder.asides();
+    for (const QString &path : asides) {
+        const QFileInfo file(path);
+        m_versions.append({file.fileName(), path, {}, file.size(), {}});
+    }
+}
+
+void VersionsModel::add(const QString &title, const QByteArray &document)
+{
+    const Contents contents = WholeFile::inspect(document);
+    if (!contents.problem.isEmpty())
+        return;
+    const int row = rowCount();
+    beginInsertRows({}, row, row);
+    m_versions.append({title, {}, document, document.size(), contents});
+    endInsertRows();
+}
+
+int VersionsModel::firstWhole() const
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        if (contents(row).problem.isEmpty())
+            return row;
+    }
+    return -1;
+}
+
+QByteArray VersionsModel::document(int row) const
+{
+    const Version &version = m_versions.at(row);
+    return version.path.isEmpty() ? version.document : WholeFile::read(version.path).bytes;
+}
+
+const Contents &VersionsModel::contents(int row) const
+{
+    const Version &version = m_versions.at(row);
+    if (!version.contents)
+        version.contents = WholeFile::inspect(document(row));
+    return *version.contents;
+}
+
+int VersionsModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_versions.size());
+}
+
+int VersionsModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : Column::Count;
+}
+
+QVariant VersionsModel::data(const QModelIndex &index, int role) const
+{
+    if (role == Qt::DisplayRole)
+        return text(index.row(), index.column());
+    if (role == Qt::TextAlignmentRole && index.column() != Title)
+        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    if (role == Qt::ToolTipRole)
+        return contents(index.row()).problem;
+    return QVariant();
+}
+
+QString VersionsModel::text(int row, int column) const
+{
+    const Version &version = m_versions.at(row);
+    const QLocale locale;
+    switch (column) {
+    case Title:
+        return contents(row).problem.isEmpty() ? version.title : tr("%1 (damaged)").arg(version.title);
+    case Size:
+        return locale.formattedDataSize(version.size, 1, QLocale::DataSizeSIFormat);
+    case Batteries:
+        return locale.toString(contents(row).batteries);
+    case Models:
+        return locale.toString(contents(row).models);
+    case Flights:
+        return locale.toString(contents(row).flights);
+    case Discharges:
+        return locale.toString(contents(row).discharges);
+    default:
+        return QString();
+    }
+}
+
+QVariant VersionsModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+        return QVariant();
+    const QString titles[] = {tr("Version"), tr("Size"),    tr("Batteries"),
+                              tr("Models"),  tr("Flights"), tr("Discharges")};
+    return titles[section];
+}
+
+Qt::ItemFlags VersionsModel::flags(const QModelIndex &index) const
+{
+    return contents(index.row()).problem.isEmpty() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable
+                                                   : Qt::NoItemFlags;
+}
+
+} // namespace Host
