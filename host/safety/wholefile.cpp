@@ -8,30 +8,39 @@
 #include <QSaveFile>
 #include <QXmlStreamReader>
 
+#include <cerrno>
+#include <utility>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
 namespace {
 
-QString clause(const char *text)
+QString translated(const char *text)
 {
     return QCoreApplication::translate("WholeFile", text);
 }
+
+// Without QFile's "user" bits, which depend on who asks.
+constexpr auto Classes = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup |
+                         QFile::ReadOther | QFile::WriteOther;
 
 /** Why this is nothing that can be opened as a file; empty when it is a regular file of a sane size. */
 QString kindProblem(const QFileInfo &file)
 {
     if (file.isSymLink() && !file.exists())
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "it is a link to “%1”, which does not exist"))
+        return translated(QT_TRANSLATE_NOOP("WholeFile", "it is a link to “%1”, which does not exist"))
             .arg(file.symLinkTarget());
-    if (!file.exists())
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "there is no such file"));
     if (file.isDir())
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "it is a folder"));
+        return translated(QT_TRANSLATE_NOOP("WholeFile", "it is a folder"));
     if (!file.isFile())
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "it is not a regular file"));
+        return translated(QT_TRANSLATE_NOOP("WholeFile", "it is not a regular file"));
     if (file.size() > WholeFile::MaximumSize)
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "it is larger than %1 MB"))
+        return translated(QT_TRANSLATE_NOOP("WholeFile", "it is larger than %1 MB"))
             .arg(WholeFile::MaximumSize / (1024 * 1024));
     return QString();
 }
@@ -65,10 +74,30 @@ QString tokenProblem(const QXmlStreamReader &reader, int level)
 {
     // The program writes no declarations of its own, and expanding them can take all memory there is.
     if (reader.isDTD() && reader.text().contains(u'['))
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "it declares entities of its own"));
+        return translated(QT_TRANSLATE_NOOP("WholeFile", "it declares entities of its own"));
     if (reader.isStartElement() && level == 1 && !reader.name().contains(u"Voltbok"))
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "it is not a logbook: its root element is “%1”"))
+        return translated(QT_TRANSLATE_NOOP("WholeFile", "it is not a logbook: its root element is “%1”"))
             .arg(reader.name().left(100));
+    return QString();
+}
+
+/** Grants no more than these permissions; a disk without permissions may refuse to change those that it
+ * shows.
+ */
+bool restrict(QSaveFile &file, QFile::Permissions permissions)
+{
+    return file.setPermissions(permissions) || !(file.permissions() & Classes & ~permissions);
+}
+
+QString synced(QFileDevice &file)
+{
+#ifdef Q_OS_UNIX
+    // What cannot be synced at all (EINVAL, EROFS) is as safe as it gets.
+    if (fsync(file.handle()) != 0 && (errno == EIO || errno == ENOSPC || errno == EDQUOT))
+        return WholeFile::clause(qt_error_string(errno));
+#else
+    Q_UNUSED(file)
+#endif
     return QString();
 }
 
@@ -76,15 +105,21 @@ QString tokenProblem(const QXmlStreamReader &reader, int level)
 
 WholeFile::Reading WholeFile::read(const QString &path)
 {
-    const QString problem = kindProblem(QFileInfo(path));
+    const QFileInfo info(path);
+    QFile file(path);
+    if (!info.exists() && !info.isSymLink()) {
+        // Opening it cannot wait for anybody, and tells a missing file from a folder that may not be entered.
+        const QString problem = file.open(QFile::ReadOnly) ? QString() : clause(file.errorString());
+        return {{}, problem, problem == clause(qt_error_string(ENOENT))};
+    }
+    const QString problem = kindProblem(info);
     if (!problem.isEmpty())
         return {{}, problem};
-    QFile file(path);
     if (!file.open(QFile::ReadOnly))
-        return {{}, file.errorString()};
+        return {{}, clause(file.errorString())};
     QByteArray bytes = file.readAll();
     if (file.error() != QFile::NoError)
-        return {{}, file.errorString()};
+        return {{}, clause(file.errorString())};
     return {std::move(bytes), {}};
 }
 
@@ -92,22 +127,56 @@ QString WholeFile::write(const QString &path, const QByteArray &bytes,
                          std::optional<QFileDevice::Permissions> permissions)
 {
     QSaveFile file(path);
-    if (!file.open(QFile::WriteOnly) || (permissions && !file.setPermissions(*permissions)) ||
-        file.write(bytes) != bytes.size() || !file.commit())
-        return file.errorString();
+    if (!file.open(QFile::WriteOnly) || (permissions && !restrict(file, *permissions)) ||
+        file.write(bytes) != bytes.size() || !file.flush()) // commit() would forget the reason
+        return clause(file.errorString());
+    QString problem = synced(file);
+    if (!problem.isEmpty())
+        return problem;
+    if (!file.commit())
+        return clause(file.errorString());
     const Reading written = read(path); // a disk that lies is found out before anybody relies on it
     if (!written.problem.isEmpty())
         return written.problem;
     return written.bytes == bytes
                ? QString()
-               : clause(QT_TRANSLATE_NOOP("WholeFile", "it was written, but reads differently"));
+               : translated(QT_TRANSLATE_NOOP("WholeFile", "it was written, but reads differently"));
+}
+
+QString WholeFile::sync(const QString &path)
+{
+    QString problem = kindProblem(QFileInfo(path));
+    if (!problem.isEmpty())
+        return problem;
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? synced(file) : clause(file.errorString());
+}
+
+QString WholeFile::clause(const QString &systemText)
+{
+    static constexpr std::pair<int, const char *> Clauses[] = {
+        {EACCES, QT_TRANSLATE_NOOP("WholeFile", "permission denied")},
+        {EPERM, QT_TRANSLATE_NOOP("WholeFile", "operation not permitted")},
+        {EROFS, QT_TRANSLATE_NOOP("WholeFile", "the disk is read-only")},
+        {ENOSPC, QT_TRANSLATE_NOOP("WholeFile", "no space left on device")},
+#ifdef EDQUOT
+        {EDQUOT, QT_TRANSLATE_NOOP("WholeFile", "no space left within your quota")},
+#endif
+        {EFBIG, QT_TRANSLATE_NOOP("WholeFile", "the file would be too large")},
+        {EIO, QT_TRANSLATE_NOOP("WholeFile", "the disk reports an error")},
+        {ENOENT, QT_TRANSLATE_NOOP("WholeFile", "there is no such file")},
+        {ENAMETOOLONG, QT_TRANSLATE_NOOP("WholeFile", "its name is too long")},
+        {EMFILE, QT_TRANSLATE_NOOP("WholeFile", "too many files are open")},
+    };
+    for (const auto &[code, text] : Clauses) {
+        if (systemText == qt_error_string(code))
+            return translated(text);
+    }
+    return systemText;
 }
 
 std::optional<QFileDevice::Permissions> WholeFile::permissionsOf(const QString &path)
 {
-    // Without QFile's "user" bits, which depend on who asks.
-    constexpr auto Classes = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup |
-                             QFile::ReadOther | QFile::WriteOther;
     const QFileInfo file(path);
     return file.exists() ? std::optional(file.permissions() & Classes) : std::nullopt;
 }
@@ -116,11 +185,11 @@ Contents WholeFile::inspect(const QByteArray &document)
 {
     Contents contents;
     if (document.isEmpty()) {
-        contents.problem = clause(QT_TRANSLATE_NOOP("WholeFile", "it is empty"));
+        contents.problem = translated(QT_TRANSLATE_NOOP("WholeFile", "it is empty"));
         return contents;
     }
     if (document.contains('\0') && !isUtf16(document)) {
-        contents.problem = clause(QT_TRANSLATE_NOOP("WholeFile", "it contains zero bytes"));
+        contents.problem = translated(QT_TRANSLATE_NOOP("WholeFile", "it contains zero bytes"));
         return contents;
     }
     QXmlStreamReader reader(document);
@@ -134,7 +203,7 @@ Contents WholeFile::inspect(const QByteArray &document)
         level -= reader.isEndElement() ? 1 : 0;
     }
     if (contents.problem.isEmpty() && reader.hasError())
-        contents.problem = clause(QT_TRANSLATE_NOOP("WholeFile", "it is damaged at line %1 (%2)"))
+        contents.problem = translated(QT_TRANSLATE_NOOP("WholeFile", "it is damaged at line %1 (%2)"))
                                .arg(QString::number(reader.lineNumber()), reader.errorString());
     return contents;
 }

@@ -30,6 +30,7 @@ struct Reading
 {
     QByteArray bytes;
     QString problem; ///< why there are none, a clause such as "permission denied"; empty when all were read
+    bool isMissing = false; ///< there is nothing of that name
 };
 
 /**
@@ -47,6 +48,13 @@ Reading read(const QString &path);
  */
 QString write(const QString &path, const QByteArray &bytes,
               std::optional<QFileDevice::Permissions> permissions = std::nullopt);
+
+/** Waits until a file is on the disk, so that a power cut leaves it whole. A clause that says why it is not.
+ */
+QString sync(const QString &path);
+
+/** The system's own text for an error as a clause, to stand behind a colon. */
+QString clause(const QString &systemText);
 
 /** The read and write permissions of a file; none where there is no file. */
 std::optional<QFileDevice::Permissions> permissionsOf(const QString &path);
