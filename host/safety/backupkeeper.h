@@ -12,6 +12,8 @@
 
 namespace Host {
 
+class CopyWorker;
+
 /**
  * Copies the data file when it starts and after every change that it is told of, in a thread of its own, and
  * thins the copies out.
@@ -22,6 +24,7 @@ class BackupKeeper final : public QObject
     Q_DISABLE_COPY_MOVE(BackupKeeper)
 
 public:
+    /** Asked in the other thread. */
     using Clock = std::function<QDateTime()>;
 
     explicit BackupKeeper(const StorageFolder &folder, Clock clock = &QDateTime::currentDateTimeUtc,
@@ -43,6 +46,10 @@ Q_SIGNALS:
     void fileBroken(const QString &reason);
     /** The data file was read and is one whole logbook. */
     void fileWhole();
+
+private:
+    QThread m_thread;
+    CopyWorker *m_worker; ///< lives in the thread, and ends with it
 };
 
 } // namespace Host

@@ -1,21 +1,170 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/safety/backups.h"
 
-namespace Host {
+#include "host/safety/wholefile.h"
 
-std::optional<Copy> Backups::parse(const QString &)
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cerrno>
+#include <tuple>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace Host {
+namespace {
+
+/** Hidden files, too, but no links: what a link leads to is not ours. */
+constexpr QDir::Filters RegularFiles = QDir::Files | QDir::Hidden | QDir::NoSymLinks;
+constexpr quint64 HighestNumber = 999'999'999'999;
+
+bool isNewer(const Copy &a, const Copy &b)
 {
+    return std::tie(a.number, a.time, a.name) > std::tie(b.number, b.time, b.name);
+}
+
+/** One more than the highest number in any name there, be it a regular file or not: the name is then free. */
+quint64 nextNumber(const QDir &folder)
+{
+    quint64 highest = 0;
+    const QStringList names = folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
+    for (const QString &name : names) {
+        if (const std::optional<Copy> copy = Backups::parse(name))
+            highest = qMax(highest, copy->number);
+    }
+    return qMin(highest + 1, HighestNumber);
+}
+
+/** The rights of a folder whose files have these: who may read may enter, and its owner may do everything. */
+QFile::Permissions folderPermissions(QFile::Permissions file)
+{
+    QFile::Permissions folder = file | QFile::ReadOwner | QFile::WriteOwner;
+    for (const auto &[read, enter] :
+         {std::pair(QFile::ReadOwner, QFile::ExeOwner), std::pair(QFile::ReadGroup, QFile::ExeGroup),
+          std::pair(QFile::ReadOther, QFile::ExeOther)})
+        folder.setFlag(enter, folder.testFlag(read));
+    return folder;
+}
+
+/** Makes the folder of the copies if need be; a clause that says why there is none that can be used. */
+QString makeFolder(const QDir &folder, QFile::Permissions permissions)
+{
+    const QFileInfo info(folder.path());
+    if (!info.exists() && !info.isSymLink()) {
+        if (!QDir().mkdir(folder.path(), permissions))
+            return WholeFile::clause(qt_error_string());
+        QFile::setPermissions(folder.path(), permissions); // the process may be stricter by default
+        return QString();
+    }
+    if (!info.exists())
+        return QCoreApplication::translate("Backups", "it is a link that leads nowhere");
+    if (!info.isDir())
+        return QCoreApplication::translate("Backups", "it is not a folder");
+    if (!info.isReadable() || !info.isExecutable())
+        return WholeFile::clause(qt_error_string(EACCES)); // it would be written to, but never compared
+    return QString();
+}
+
+QString keep(const StorageFolder &folder, Copy copy)
+{
+    if (copy.kept)
+        return QString();
+    copy.kept = true;
+    QFile file(folder.backups().filePath(copy.name));
+    return file.rename(folder.backups().filePath(Backups::fileName(copy)))
+               ? QString()
+               : WholeFile::clause(file.errorString());
+}
+
+} // namespace
+
+QList<Copy> Backups::list(const StorageFolder &folder)
+{
+    QList<Copy> copies;
+    const QFileInfoList files = folder.backups().entryInfoList(RegularFiles, QDir::Unsorted);
+    for (const QFileInfo &file : files) {
+        std::optional<Copy> copy = parse(file.fileName());
+        if (!copy || !file.isFile())
+            continue;
+        copy->size = file.size();
+        copies.append(*std::move(copy));
+    }
+    std::sort(copies.begin(), copies.end(), isNewer);
+    return copies;
+}
+
+void Backups::thin(const StorageFolder &folder, const QDateTime &now)
+{
+    const QStringList names = superfluous(list(folder), now);
+    for (const QString &name : names)
+        QFile::remove(folder.backups().filePath(name));
+}
+
+std::optional<Copy> Backups::newestWhole(const StorageFolder &folder, QByteArray *bytes)
+{
+    const QList<Copy> copies = list(folder);
+    for (const Copy &copy : copies) {
+        WholeFile::Reading reading = WholeFile::read(folder.backups().filePath(copy.name));
+        if (!reading.problem.isEmpty() || !WholeFile::isWhole(reading.bytes))
+            continue;
+        if (bytes)
+            *bytes = std::move(reading.bytes);
+        return copy;
+    }
     return std::nullopt;
 }
 
-QList<Copy> Backups::list(const StorageFolder &)
+QString Backups::newestWholePath(const StorageFolder &folder)
 {
-    return {};
+    const std::optional<Copy> copy = newestWhole(folder);
+    return copy ? folder.backups().filePath(copy->name) : QString();
 }
 
-QStringList Backups::superfluous(const QList<Copy> &, const QDateTime &, qint64)
+QString Backups::keepNewestWhole(const StorageFolder &folder)
 {
-    return {};
+    const std::optional<Copy> copy = newestWhole(folder);
+    return copy ? keep(folder, *copy) : QString();
+}
+
+QString Backups::add(const StorageFolder &folder, const QByteArray &document, const QDateTime &now)
+{
+    const QFile::Permissions permissions =
+        WholeFile::permissionsOf(folder.dataFile()).value_or(QFile::ReadOwner | QFile::WriteOwner);
+    QString problem = makeFolder(folder.backups(), folderPermissions(permissions));
+    if (!problem.isEmpty())
+        return problem;
+    QByteArray before;
+    const std::optional<Copy> newest = newestWhole(folder, &before);
+    if (newest && before == document)
+        return QString();
+    if (newest && 2 * document.size() < newest->size)
+        problem = keep(folder, *newest);
+    if (!problem.isEmpty())
+        return problem;
+    Copy copy;
+    copy.number = nextNumber(folder.backups());
+    copy.time = now;
+    return WholeFile::write(folder.backups().filePath(fileName(copy)), document, permissions);
+}
+
+void Backups::removeLeftovers(const StorageFolder &folder)
+{
+    // The name of a copy and six letters. In small letters alone it may be one that a person put aside as
+    // "….xml.backup": it goes only where it holds nothing.
+    static const QRegularExpression pattern(QRegularExpression::anchoredPattern(u"(.*)\\.([A-Za-z]{6})"_s));
+    const QStringList names = folder.backups().entryList(RegularFiles);
+    for (const QString &name : names) {
+        const QRegularExpressionMatch match = pattern.match(name);
+        if (!match.hasMatch() || !parse(match.captured(1)))
+            continue;
+        const QString path = folder.backups().filePath(name);
+        const bool isByHand = match.captured(2) == match.captured(2).toLower();
+        if (!isByHand || !WholeFile::isWhole(WholeFile::read(path).bytes))
+            QFile::remove(path);
+    }
 }
 
 } // namespace Host

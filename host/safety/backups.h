@@ -3,6 +3,7 @@
 
 #include "host/safety/storagefolder.h"
 
+#include <QByteArray>
 #include <QDateTime>
 #include <QList>
 #include <QString>
@@ -17,7 +18,7 @@ struct Copy
 {
     QString name;       ///< of the file, without its folder
     quint64 number = 0; ///< counts the copies up, whatever the clock says; 0 for those of earlier versions
-    QDateTime time;     ///< when it was made, by the clock of that moment
+    QDateTime time;     ///< when it was made, by the clock of that moment; in UTC
     qint64 size = 0;    ///< in bytes
     bool kept = false;  ///< never thinned out
 };
@@ -38,6 +39,9 @@ inline constexpr qint64 TotalLimit = qint64(500) * 1000 * 1000;
 /** What a file name says, its size apart; nothing when it is no name of a copy. */
 std::optional<Copy> parse(const QString &fileName);
 
+/** The file name that says what @p copy holds; its own name does not count. */
+QString fileName(const Copy &copy);
+
 /** The copies, the newest first: by number, those of earlier versions by their time. Only regular files
  * count. */
 QList<Copy> list(const StorageFolder &folder);
@@ -51,6 +55,34 @@ QList<Copy> list(const StorageFolder &folder);
  * now stays.
  */
 QStringList superfluous(const QList<Copy> &newestFirst, const QDateTime &now, qint64 limit = TotalLimit);
+
+/** Whether the clock stands within a day of the newest copy; where it does not, the age of no copy is known.
+ */
+bool agreesWithClock(const QList<Copy> &newestFirst, const QDateTime &now);
+
+/** Deletes the copies that may go. */
+void thin(const StorageFolder &folder, const QDateTime &now);
+
+/** The newest copy that is a whole logbook, and its bytes where they are wanted. */
+std::optional<Copy> newestWhole(const StorageFolder &folder, QByteArray *bytes = nullptr);
+
+/** The path of the newest copy that is a whole logbook; empty when there is none. */
+QString newestWholePath(const StorageFolder &folder);
+
+/** Marks the newest whole copy as one that is never thinned out.
+ * @return why it was not marked, a clause; empty when it was, or when there is none. */
+QString keepNewestWhole(const StorageFolder &folder);
+
+/**
+ * Makes a copy of a whole logbook, unless it equals the newest whole copy. Where it is smaller than half of
+ * that one, that one is kept first. Nothing is thinned out.
+ *
+ * @return why there is no copy, a clause; empty when there is one.
+ */
+QString add(const StorageFolder &folder, const QByteArray &document, const QDateTime &now);
+
+/** Deletes what copies that were cut off while they were written left behind. Only for who has the lock. */
+void removeLeftovers(const StorageFolder &folder);
 
 } // namespace Backups
 } // namespace Host

@@ -7,7 +7,13 @@
 #include <QFileInfo>
 #include <QSaveFile>
 #include <QStorageInfo>
-#include <QXmlStreamReader>
+
+#include <cerrno>
+#include <utility>
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,82 +22,70 @@ namespace {
 
 constexpr qint64 LeastSpace = 16 * 1024; // bytes; a disk with less is full for every logbook
 
-QString clause(const char *text)
+QString translated(const char *text)
 {
     return QCoreApplication::translate("WholeFile", text);
 }
+
+// Without QFile's "user" bits, which depend on who asks.
+constexpr auto Classes = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup |
+                         QFile::ReadOther | QFile::WriteOther;
 
 /** Why this is nothing that can be opened as a file; empty when it is a regular file of a sane size. */
 QString kindProblem(const QFileInfo &file)
 {
     if (file.isSymLink() && !file.exists())
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "it is a link to “%1”, which does not exist"))
+        return translated(QT_TRANSLATE_NOOP("WholeFile", "it is a link to “%1”, which does not exist"))
             .arg(file.symLinkTarget());
-    if (!file.exists())
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "there is no such file"));
     if (file.isDir())
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "it is a folder"));
+        return translated(QT_TRANSLATE_NOOP("WholeFile", "it is a folder"));
     if (!file.isFile())
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "it is not a regular file"));
+        return translated(QT_TRANSLATE_NOOP("WholeFile", "it is not a regular file"));
     if (file.size() > WholeFile::MaximumSize)
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "it is larger than %1 MB"))
+        return translated(QT_TRANSLATE_NOOP("WholeFile", "it is larger than %1 MB"))
             .arg(WholeFile::MaximumSize / (1024 * 1024));
     return QString();
 }
 
-/** Whether the document is in UTF-16, by its mark or by its first character: zero bytes are then part of it.
+/** Grants no more than these permissions; a disk without permissions may refuse to change those that it
+ * shows.
  */
-bool isUtf16(const QByteArray &document)
+bool restrict(QSaveFile &file, QFile::Permissions permissions)
 {
-    const QByteArray start = document.left(2);
-    return start == "\xFF\xFE"_ba || start == "\xFE\xFF"_ba || start == QByteArray("<\0", 2) ||
-           start == QByteArray("\0<", 2);
+    return file.setPermissions(permissions) || !(file.permissions() & Classes & ~permissions);
 }
 
-/** Counts an element that begins on this level; the root is on level 1. */
-void count(Contents &contents, QStringView name, int level)
+QString synced(QFileDevice &file)
 {
-    if (level == 2 && name == u"Battery")
-        ++contents.batteries;
-    else if (level == 2 && name == u"Model")
-        ++contents.models;
-    else if (name == u"Location")
-        ++contents.locations;
-    else if (name == u"Cycle")
-        ++contents.discharges;
-    else if (name == u"LogData")
-        ++contents.flights;
-}
-
-/** Looks at the token that was just read. */
-void look(Contents &contents, const QXmlStreamReader &reader, int level)
-{
-    if (reader.isDTD() && reader.text().contains(u'[')) {
-        contents.declaresEntities = true;
-        contents.problem = clause(QT_TRANSLATE_NOOP("WholeFile", "it declares entities of its own"));
-    }
-    if (!reader.isStartElement())
-        return;
-    count(contents, reader.name(), level);
-    if (level == 1 && !reader.name().contains(u"Voltbok"))
-        contents.problem =
-            clause(QT_TRANSLATE_NOOP("WholeFile", "it is not a logbook: its root element is “%1”"))
-                .arg(reader.name().left(100));
+#ifdef Q_OS_UNIX
+    // What cannot be synced at all (EINVAL, EROFS) is as safe as it gets.
+    if (fsync(file.handle()) != 0 && (errno == EIO || errno == ENOSPC || errno == EDQUOT))
+        return WholeFile::clause(qt_error_string(errno));
+#else
+    Q_UNUSED(file)
+#endif
+    return QString();
 }
 
 } // namespace
 
 WholeFile::Reading WholeFile::read(const QString &path)
 {
-    const QString problem = kindProblem(QFileInfo(path));
+    const QFileInfo info(path);
+    QFile file(path);
+    if (!info.exists() && !info.isSymLink()) {
+        // Opening it cannot wait for anybody, and tells a missing file from a folder that may not be entered.
+        const QString problem = file.open(QFile::ReadOnly) ? QString() : clause(file.errorString());
+        return {{}, problem, problem == clause(qt_error_string(ENOENT))};
+    }
+    const QString problem = kindProblem(info);
     if (!problem.isEmpty())
         return {{}, problem};
-    QFile file(path);
     if (!file.open(QFile::ReadOnly))
-        return {{}, file.errorString()};
+        return {{}, clause(file.errorString())};
     QByteArray bytes = file.readAll();
     if (file.error() != QFile::NoError)
-        return {{}, file.errorString()};
+        return {{}, clause(file.errorString())};
     return {std::move(bytes), {}};
 }
 
@@ -99,68 +93,72 @@ QString WholeFile::write(const QString &path, const QByteArray &bytes,
                          std::optional<QFileDevice::Permissions> permissions)
 {
     QSaveFile file(path);
-    if (!file.open(QFile::WriteOnly) || (permissions && !file.setPermissions(*permissions)) ||
-        file.write(bytes) != bytes.size() || !file.commit())
-        return file.errorString();
+    if (!file.open(QFile::WriteOnly) || (permissions && !restrict(file, *permissions)) ||
+        file.write(bytes) != bytes.size() || !file.flush()) // commit() would forget the reason
+        return clause(file.errorString());
+    QString problem = synced(file);
+    if (!problem.isEmpty())
+        return problem;
+    if (!file.commit())
+        return clause(file.errorString());
     const Reading written = read(path); // a disk that lies is found out before anybody relies on it
     if (!written.problem.isEmpty())
         return written.problem;
     return written.bytes == bytes
                ? QString()
-               : clause(QT_TRANSLATE_NOOP("WholeFile", "it was written, but reads differently"));
+               : translated(QT_TRANSLATE_NOOP("WholeFile", "it was written, but reads differently"));
+}
+
+QString WholeFile::sync(const QString &path)
+{
+    QString problem = kindProblem(QFileInfo(path));
+    if (!problem.isEmpty())
+        return problem;
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? synced(file) : clause(file.errorString());
+}
+
+QString WholeFile::clause(const QString &systemText)
+{
+    static constexpr std::pair<int, const char *> Clauses[] = {
+        {EACCES, QT_TRANSLATE_NOOP("WholeFile", "permission denied")},
+        {EPERM, QT_TRANSLATE_NOOP("WholeFile", "operation not permitted")},
+        {EROFS, QT_TRANSLATE_NOOP("WholeFile", "the disk is read-only")},
+        {ENOSPC, QT_TRANSLATE_NOOP("WholeFile", "no space left on device")},
+#ifdef EDQUOT
+        {EDQUOT, QT_TRANSLATE_NOOP("WholeFile", "no space left within your quota")},
+#endif
+        {EFBIG, QT_TRANSLATE_NOOP("WholeFile", "the file would be too large")},
+        {EIO, QT_TRANSLATE_NOOP("WholeFile", "the disk reports an error")},
+        {ENOENT, QT_TRANSLATE_NOOP("WholeFile", "there is no such file")},
+        {ENAMETOOLONG, QT_TRANSLATE_NOOP("WholeFile", "its name is too long")},
+        {EMFILE, QT_TRANSLATE_NOOP("WholeFile", "too many files are open")},
+    };
+    for (const auto &[code, text] : Clauses) {
+        if (systemText == qt_error_string(code))
+            return translated(text);
+    }
+    return systemText;
 }
 
 QString WholeFile::writeProblem(const QString &path)
 {
     QFile file(path);
     if (file.exists() && !file.open(QFile::ReadWrite | QFile::ExistingOnly))
-        return file.errorString();
+        return clause(file.errorString());
     const QString folder = QFileInfo(path).path();
     const QStorageInfo disk(folder);
     if (disk.isValid() && disk.bytesAvailable() < LeastSpace)
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "no space is left on the disk"));
+        return translated(QT_TRANSLATE_NOOP("WholeFile", "no space is left on the disk"));
     if (!file.exists() && QFileInfo::exists(folder) && !QFileInfo(folder).isWritable())
-        return clause(QT_TRANSLATE_NOOP("WholeFile", "there is no permission to write in its folder"));
+        return translated(QT_TRANSLATE_NOOP("WholeFile", "there is no permission to write in its folder"));
     return QString();
 }
 
 std::optional<QFileDevice::Permissions> WholeFile::permissionsOf(const QString &path)
 {
-    // Without QFile's "user" bits, which depend on who asks.
-    constexpr auto Classes = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup | QFile::WriteGroup |
-                             QFile::ReadOther | QFile::WriteOther;
     const QFileInfo file(path);
     return file.exists() ? std::optional(file.permissions() & Classes) : std::nullopt;
-}
-
-Contents WholeFile::inspect(const QByteArray &document)
-{
-    Contents contents;
-    if (document.isEmpty()) {
-        contents.problem = clause(QT_TRANSLATE_NOOP("WholeFile", "it is empty"));
-        return contents;
-    }
-    if (document.contains('\0') && !isUtf16(document)) {
-        contents.problem = clause(QT_TRANSLATE_NOOP("WholeFile", "it contains zero bytes"));
-        return contents;
-    }
-    QXmlStreamReader reader(document);
-    int level = 0;
-    while (!reader.atEnd() && contents.problem.isEmpty()) {
-        reader.readNext();
-        level += reader.isStartElement() ? 1 : 0;
-        look(contents, reader, level);
-        level -= reader.isEndElement() ? 1 : 0;
-    }
-    if (contents.problem.isEmpty() && reader.hasError())
-        contents.problem = clause(QT_TRANSLATE_NOOP("WholeFile", "it is damaged at line %1 (%2)"))
-                               .arg(QString::number(reader.lineNumber()), reader.errorString());
-    return contents;
-}
-
-bool WholeFile::isWhole(const QByteArray &document)
-{
-    return inspect(document).problem.isEmpty();
 }
 
 } // namespace Host

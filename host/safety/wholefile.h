@@ -31,6 +31,7 @@ struct Reading
 {
     QByteArray bytes;
     QString problem; ///< why there are none, a clause such as "permission denied"; empty when all were read
+    bool isMissing = false; ///< there is nothing of that name
 };
 
 /**
@@ -51,6 +52,13 @@ QString write(const QString &path, const QByteArray &bytes,
 
 /** Why a file cannot be written in place, a clause; empty when it can, or when it can be made. */
 QString writeProblem(const QString &path);
+
+/** Waits until a file is on the disk, so that a power cut leaves it whole. A clause that says why it is not.
+ */
+QString sync(const QString &path);
+
+/** The system's own text for an error as a clause, to stand behind a colon. */
+QString clause(const QString &systemText);
 
 /** The read and write permissions of a file; none where there is no file. */
 std::optional<QFileDevice::Permissions> permissionsOf(const QString &path);

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What a document holds, and whether it is whole.
+#include "host/safety/wholefile.h"
+
+#include <QCoreApplication>
+#include <QXmlStreamReader>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace Host {
+namespace {
+
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("WholeFile", text);
+}
+
+/** Whether the document is in UTF-16, by its mark or by its first character: zero bytes are then part of it.
+ */
+bool isUtf16(const QByteArray &document)
+{
+    const QByteArray start = document.left(2);
+    return start == "\xFF\xFE"_ba || start == "\xFE\xFF"_ba || start == QByteArray("<\0", 2) ||
+           start == QByteArray("\0<", 2);
+}
+
+/** Counts an element that begins on this level; the root is on level 1. */
+void count(Contents &contents, QStringView name, int level)
+{
+    if (level == 2 && name == u"Battery")
+        ++contents.batteries;
+    else if (level == 2 && name == u"Model")
+        ++contents.models;
+    else if (name == u"Location")
+        ++contents.locations;
+    else if (name == u"Cycle")
+        ++contents.discharges;
+    else if (name == u"LogData")
+        ++contents.flights;
+}
+
+/** Looks at the token that was just read. */
+void look(Contents &contents, const QXmlStreamReader &reader, int level)
+{
+    if (reader.isDTD() && reader.text().contains(u'[')) {
+        contents.declaresEntities = true;
+        contents.problem = translated(QT_TRANSLATE_NOOP("WholeFile", "it declares entities of its own"));
+    }
+    if (!reader.isStartElement())
+        return;
+    count(contents, reader.name(), level);
+    if (level == 1 && !reader.name().contains(u"Voltbok"))
+        contents.problem =
+            translated(QT_TRANSLATE_NOOP("WholeFile", "it is not a logbook: its root element is “%1”"))
+                .arg(reader.name().left(100));
+}
+
+} // namespace
+
+Contents WholeFile::inspect(const QByteArray &document)
+{
+    Contents contents;
+    if (document.isEmpty()) {
+        contents.problem = translated(QT_TRANSLATE_NOOP("WholeFile", "it is empty"));
+        return contents;
+    }
+    if (document.contains('\0') && !isUtf16(document)) {
+        contents.problem = translated(QT_TRANSLATE_NOOP("WholeFile", "it contains zero bytes"));
+        return contents;
+    }
+    QXmlStreamReader reader(document);
+    int level = 0;
+    while (!reader.atEnd() && contents.problem.isEmpty()) {
+        reader.readNext();
+        level += reader.isStartElement() ? 1 : 0;
+        look(contents, reader, level);
+        level -= reader.isEndElement() ? 1 : 0;
+    }
+    if (contents.problem.isEmpty() && reader.hasError())
+        contents.problem = translated(QT_TRANSLATE_NOOP("WholeFile", "it is damaged at line %1 (%2)"))
+                               .arg(QString::number(reader.lineNumber()), reader.errorString());
+    return contents;
+}
+
+bool WholeFile::isWhole(const QByteArray &document)
+{
+    return inspect(document).problem.isEmpty();
+}
+
+} // namespace Host
