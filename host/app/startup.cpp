@@ -68,7 +68,7 @@ private:
     const CommandLine &m_commandLine;
     Questions &m_questions;
     StorageFolder m_folder;
-    std::unique_ptr<FolderLock> m_lock = std::make_unique<FolderLock>();
+    std::shared_ptr<FolderLock> m_lock = std::make_shared<FolderLock>();
 };
 
 int Startup::run()
@@ -136,19 +136,18 @@ QString Startup::describe(const FileState &state) const
 {
     switch (state.kind) {
     case FileState::Missing:
-        return tr(QT_TRANSLATE_NOOP(
-                      "Startup", "The logbook file “%1” is missing, but copies of it are there. Nothing was "
-                                 "changed. Start the program on a screen to choose one."))
+        return tr(QT_TRANSLATE_NOOP("Startup",
+                                    "The logbook file “%1” is missing, but copies of it are there. "
+                                    "Nothing was changed. Restore one of the copies."))
             .arg(m_folder.dataFile());
     case FileState::Damaged:
-        return tr(QT_TRANSLATE_NOOP("Startup",
-                                    "The logbook file “%1” is damaged: %2. Nothing was changed. Start the "
-                                    "program on a screen to choose a copy."))
+        return tr(QT_TRANSLATE_NOOP("Startup", "The logbook file “%1” is damaged: %2. Nothing was changed. "
+                                               "Restore one of its copies."))
             .arg(m_folder.dataFile(), state.problem);
     default:
         return tr(QT_TRANSLATE_NOOP("Startup",
-                                    "The logbook file “%1” cannot be read: %2. Nothing was changed. Put the "
-                                    "right file in its place, or choose another folder."))
+                                    "The logbook file “%1” cannot be read: %2. Nothing was changed. "
+                                    "Put the right file in its place, or choose another folder."))
             .arg(m_folder.dataFile(), state.problem);
     }
 }

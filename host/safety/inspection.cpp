@@ -15,6 +15,13 @@ QString translated(const char *text)
     return QCoreApplication::translate("WholeFile", text);
 }
 
+QString withoutFullStop(QString text)
+{
+    if (text.endsWith(u'.'))
+        text.chop(1);
+    return text;
+}
+
 /** Whether the document is in UTF-16, by its mark or by its first character: zero bytes are then part of it.
  */
 bool isUtf16(const QByteArray &document)
@@ -77,8 +84,9 @@ Contents WholeFile::inspect(const QByteArray &document)
         level -= reader.isEndElement() ? 1 : 0;
     }
     if (contents.problem.isEmpty() && reader.hasError())
-        contents.problem = translated(QT_TRANSLATE_NOOP("WholeFile", "it is damaged at line %1 (%2)"))
-                               .arg(QString::number(reader.lineNumber()), reader.errorString());
+        contents.problem =
+            translated(QT_TRANSLATE_NOOP("WholeFile", "line %1 cannot be understood (%2)"))
+                .arg(QString::number(reader.lineNumber()), withoutFullStop(reader.errorString()));
     return contents;
 }
 

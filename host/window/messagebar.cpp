@@ -5,8 +5,8 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPointer>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -14,6 +14,17 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
+namespace {
+
+/** The text with places where a line may end inside long paths, which would widen the window. */
+QString breakable(QString text)
+{
+    constexpr qsizetype Long = 30;
+    const bool hasLongWord = text.contains(QRegularExpression(u"\\S{%1,}"_s.arg(Long)));
+    return hasLongWord ? text.replace(u"/"_s, u"/\u200B"_s).replace(u"-"_s, u"-\u200B"_s) : text;
+}
+
+} // namespace
 
 MessageBar::MessageBar(QWidget *parent)
     : QWidget(parent)
@@ -60,7 +71,7 @@ QWidget *MessageBar::makeMessage(const QString &text, const QList<Action> &actio
     message->setBackgroundRole(QPalette::ToolTipBase);
     message->setForegroundRole(QPalette::ToolTipText);
 
-    auto *label = new QLabel(text, message);
+    auto *label = new QLabel(breakable(text), message);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setForegroundRole(QPalette::ToolTipText);

@@ -30,12 +30,13 @@ QTableView *addChoices(QMessageBox &box, const Question &question)
     table->setTabKeyNavigation(false);
     table->setShowGrid(false);
     table->verticalHeader()->hide();
-    table->horizontalHeader()->setStretchLastSection(true);
     table->selectRow(question.chosen);
-    const int width = table->fontMetrics().horizontalAdvance(u'0');
-    for (int column = 0; column < question.choices->columnCount(); ++column)
-        table->setColumnWidth(column, width * (column == 0 ? 44 : 12));
-    table->setMinimumSize(width * 100, table->fontMetrics().height() * 10);
+    // By the font, not by the contents: those of a row are read when it comes into view.
+    const int digit = table->fontMetrics().horizontalAdvance(u'0');
+    table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    for (int column = 1; column < question.choices->columnCount(); ++column)
+        table->setColumnWidth(column, 11 * digit);
+    table->setMinimumSize(90 * digit, 10 * table->fontMetrics().height());
     auto *layout = qobject_cast<QGridLayout *>(box.layout());
     const int buttonsRow = layout->rowCount() - 1;
     QLayoutItem *buttons = layout->itemAtPosition(buttonsRow, 0);

@@ -26,16 +26,14 @@ QString whatIsTheMatter(const StorageFolder &folder, const FileState &state)
                                             : text.arg(folder.dataFile(), state.problem);
 }
 
-QString whatFollows(const StorageFolder &folder, const FileState &state)
+QString whatFollows(const FileState &state)
 {
-    QStringList sentences;
-    if (state.kind == FileState::Damaged)
-        sentences.append(
-            tr(QT_TRANSLATE_NOOP("RecoveryQuestion",
-                                 "Whatever you choose, the damaged file is kept in the same folder, "
-                                 "under a name that begins with “voltbok-broken-”."))
-                .arg(folder.path()));
-    return sentences.join(u' ');
+    if (state.kind == FileState::Missing)
+        return QString();
+    return tr(QT_TRANSLATE_NOOP(
+        "RecoveryQuestion",
+        "Whatever you choose, the damaged file is kept in the same folder, under a name that "
+        "begins with “voltbok-broken-”. "));
 }
 
 /** What the loaders find before the damage; nothing where loading is dangerous or finds no more than an empty
@@ -61,13 +59,12 @@ std::optional<QByteArray> askForReplacement(Questions &questions, const StorageF
     enum { Quit, StartEmpty, Restore };
     Question question;
     question.text = whatIsTheMatter(folder, state);
-    question.details = whatFollows(folder, state);
+    question.details = whatFollows(state);
     question.answers = QStringList{tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "Quit")),
                                    tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "Start with an Empty Logbook"))};
     if (newest >= 0) {
-        question.details +=
-            u' ' + tr(QT_TRANSLATE_NOOP("RecoveryQuestion",
-                                        "Choose the version to go on with; the newest is on top."));
+        question.details += tr(
+            QT_TRANSLATE_NOOP("RecoveryQuestion", "Choose the version to go on with; the newest is on top."));
         question.answers.append(tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "Restore")));
         question.preferred = Restore;
         question.choices = &versions;

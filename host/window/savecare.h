@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/safety/backupkeeper.h"
+#include "host/safety/storagefolder.h"
+#include "host/window/savewatch.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace Host {
+
+class FolderLock;
+class MessageBar;
+class Questions;
+
+/** What the care for a logbook's file needs of its window. */
+struct LogbookAccess
+{
+    QWidget *widget;              ///< disabled while nothing may be entered
+    std::function<void()> save;   ///< writes the file from what the window holds
+    std::function<void()> reload; ///< reads the window's content from the file
+};
+
+/**
+ * Sees to it that the file of an open logbook holds what was recorded: after each save of the window it looks
+ * whether the file took it, and if not it says so and offers what helps; and it has every version copied.
+ */
+class SaveCare final : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(SaveCare)
+
+public:
+    /** The window has just been led to the folder, and everything given here outlives the care. */
+    SaveCare(const StorageFolder &folder, const LogbookAccess &logbook, MessageBar &messages,
+             Questions &questions);
+    /** Saves what is not saved yet, and copies it. */
+    ~SaveCare() override;
+
+    /** What a save would have written when the folder was opened, before anything was changed. */
+    QByteArray openedAs() const { return m_openedAs; }
+
+    /** Saves what is not saved yet; asks where it cannot be saved. @return whether the window may be closed.
+     */
+    bool mayClose();
+
+Q_SIGNALS:
+    /** The user wants to go on in another folder, which has the logbook already; the receiver takes the lock.
+     */
+    void keptElsewhere(const Host::StorageFolder &folder, std::shared_ptr<Host::FolderLock> lock);
+
+private:
+    /** What window and file have left of the last change. */
+    enum class Loss {
+        None,       ///< the file holds it
+        File,       ///< the window holds it, the file does not
+        Change,     ///< it is lost; file and window are as they were before
+        Everything, ///< the file was damaged, and the window has read it back
+    };
+
+    void saved(bool reloaded);
+    void saveRefused(bool reloaded);
+    void fileBroken(const QString &reason);
+    void fileWhole();
+    void changedByOthers();
+
+    void tellLoss(Loss loss, const QString &reason);
+    static QString lossText(Loss loss);
+    void settle();
+    void tryAgain();
+    void restoreLastState();
+    void keepElsewhere();
+    QString keepIn(const StorageFolder &folder, FolderLock &lock) const;
+    void flush();
+    QByteArray lastWholeState() const;
+    QByteArray heldByWindow() const;
+    bool fileHolds(const QByteArray &document) const;
+
+    const StorageFolder m_folder;
+    const LogbookAccess m_logbook;
+    MessageBar &m_messages;
+    Questions &m_questions;
+    QByteArray m_openedAs;
+    QByteArray m_unsaved; // what the window held when a save failed
+    Loss m_loss = Loss::None;
+    bool m_reloaded = false; // the window has read the file back after its last save
+    bool m_retried = false;  // it has saved since a loss was told
+    SaveWatch m_watch;
+    BackupKeeper m_keeper;
+};
+
+} // namespace Host
