@@ -89,6 +89,18 @@ bool restrict(QSaveFile &file, QFile::Permissions permissions)
     return file.setPermissions(permissions) || !(file.permissions() & Classes & ~permissions);
 }
 
+/** Writes everything. A disk that takes only a part says why when it is given the rest. */
+bool writeAll(QFileDevice &file, const QByteArray &bytes)
+{
+    for (qint64 done = 0; done < bytes.size();) {
+        const qint64 taken = file.write(bytes.constData() + done, bytes.size() - done);
+        if (taken <= 0)
+            return false;
+        done += taken;
+    }
+    return file.flush() || file.flush();
+}
+
 QString synced(QFileDevice &file)
 {
 #ifdef Q_OS_UNIX
@@ -128,7 +140,7 @@ QString WholeFile::write(const QString &path, const QByteArray &bytes,
 {
     QSaveFile file(path);
     if (!file.open(QFile::WriteOnly) || (permissions && !restrict(file, *permissions)) ||
-        file.write(bytes) != bytes.size() || !file.flush()) // commit() would forget the reason
+        !writeAll(file, bytes)) // before commit(), which would forget the reason
         return clause(file.errorString());
     QString problem = synced(file);
     if (!problem.isEmpty())
