@@ -84,7 +84,7 @@ QString tokenProblem(const QXmlStreamReader &reader, int level)
 /** Grants no more than these permissions; a disk without permissions may refuse to change those that it
  * shows.
  */
-bool restrict(QSaveFile &file, QFile::Permissions permissions)
+bool restrict(QFileDevice &file, QFile::Permissions permissions)
 {
     return file.setPermissions(permissions) || !(file.permissions() & Classes & ~permissions);
 }
