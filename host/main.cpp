@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/app/commandline.h"
 #include "host/app/console.h"
+#include "host/app/display.h"
+#include "host/app/endsignals.h"
 #include "host/app/startup.h"
 #include "host/safety/storagefolder.h"
 
 #include <QApplication>
 
 #include <cstdlib>
+#include <optional>
 
 using namespace Host;
 using namespace Qt::Literals::StringLiterals;
@@ -20,37 +23,23 @@ CommandLine readCommandLine(int &argc, char **argv)
     return Host::readCommandLine(QCoreApplication::arguments());
 }
 
-/** Why no window can be opened; empty where one can, as far as this can be known beforehand. */
-QString displayProblem()
-{
-#ifdef Q_OS_LINUX
-    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
-        qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        return u"there is no display; --screenshot FILE draws the window without one"_s;
-#endif
-    return QString();
-}
-
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    Console::prepare();
     QCoreApplication::setApplicationName(u"Voltbok"_s);
     QCoreApplication::setApplicationVersion(u"" VOLTBOK_VERSION ""_s);
 
     const CommandLine commandLine = readCommandLine(argc, argv);
     if (!commandLine.error.isEmpty()) {
         Console::complain(commandLine.error);
-        return EXIT_FAILURE;
+        return commandLine.status;
     }
-    if (!commandLine.answer.isEmpty()) {
-        Console::print(commandLine.answer);
-        return EXIT_SUCCESS;
-    }
+    if (!commandLine.answer.isEmpty())
+        return Console::print(commandLine.answer) ? EXIT_SUCCESS : EXIT_FAILURE;
 
-    QString problem = StorageFolder(commandLine.storagePath).problem();
-    if (problem.isEmpty() && commandLine.screenshot.isEmpty())
-        problem = displayProblem();
+    const QString problem = StorageFolder(commandLine.storagePath).problem();
     if (!problem.isEmpty()) {
         Console::complain(problem);
         return EXIT_FAILURE;
@@ -59,6 +48,9 @@ int main(int argc, char *argv[])
     if (!commandLine.screenshot.isEmpty())
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication::setDesktopFileName(u"voltbok"_s);
+    std::optional<DisplayGuard> guard(std::in_place);
     const QApplication application(argc, argv);
+    guard.reset();
+    endOnSignals();
     return start(commandLine);
 }
