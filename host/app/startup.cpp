@@ -7,6 +7,7 @@
 #include "host/demo/demo.h"
 #include "host/safety/backups.h"
 #include "host/safety/folderlock.h"
+#include "host/safety/instanceserver.h"
 #include "host/safety/recovery.h"
 #include "host/window/mainwindow.h"
 #include "host/window/questions.h"
@@ -73,6 +74,9 @@ private:
 
 int Startup::run()
 {
+    const QString problem = m_folder.problem();
+    if (!problem.isEmpty())
+        return refuse(problem);
     const bool drawsOnly = !m_commandLine.screenshot.isEmpty();
     if (!drawsOnly || m_commandLine.demo) { // to draw a logbook it is only read: no lock, and nothing is made
         if (const Status ended = takeFolder())
@@ -100,9 +104,6 @@ int Startup::refuse(const QString &problem)
 /** Makes the folder ours, and ready to be looked into. */
 Startup::Status Startup::takeFolder()
 {
-    const QString problem = m_folder.problem();
-    if (!problem.isEmpty())
-        return refuse(problem);
     const FolderLock::Refusal refusal = m_lock->take(m_folder);
     if (!refusal.problem.isEmpty()) {
         if (const Status ended = takeOver(refusal))
@@ -117,7 +118,7 @@ Startup::Status Startup::takeFolder()
 /** Somebody else has the folder. */
 Startup::Status Startup::takeOver(const FolderLock::Refusal &refusal)
 {
-    if (false)
+    if (refusal.isOpenHere && m_commandLine.screenshot.isEmpty() && InstanceServer::raiseFirst(m_folder))
         return EXIT_SUCCESS;
     if (!refusal.mayTakeOver)
         return refuse(refusal.problem);
@@ -192,6 +193,8 @@ int Startup::openWindow()
     const QString problem = keepWhatWouldBeLost(window, state);
     if (!problem.isEmpty())
         return refuse(problem);
+    const InstanceServer server(m_folder);
+    QObject::connect(&server, &InstanceServer::raiseRequested, &window, &MainWindow::raiseAndActivate);
     window.show();
     return QApplication::exec();
 }
