@@ -233,15 +233,15 @@ void BackupKeeperTest::aFileInTheMiddleOfASaveIsNotBroken()
     lookAndHear(keeper);
     put(m_folder->dataFile(), logbook(2).left(50));
     keeper.look();
-    QTest::qSleep(40);
+    QTest::qSleep(20);
     put(m_folder->dataFile(), logbook(2));
     QTRY_COMPARE(newest(), logbook(2));
 
     put(m_folder->dataFile(), "");
     keeper.look();
-    QTest::qSleep(70);
+    QTest::qSleep(60);
     keeper.look(); // starts the wait again
-    QTest::qSleep(70);
+    QTest::qSleep(60);
     put(m_folder->dataFile(), logbook(3));
     QTRY_COMPARE(newest(), logbook(3));
     QTest::qWait(150);
