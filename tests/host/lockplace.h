@@ -71,10 +71,13 @@ public:
         m_process.waitForFinished();
     }
 
+    void beginToQuit() { m_process.closeWriteChannel(); }
+
     bool quit()
     {
-        m_process.closeWriteChannel();
-        return m_process.waitForFinished() && m_process.exitCode() == 0;
+        beginToQuit();
+        const bool isOver = m_process.state() == QProcess::NotRunning || m_process.waitForFinished();
+        return isOver && m_process.exitCode() == 0;
     }
 
     ~Instance() { quit(); }
