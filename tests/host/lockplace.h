@@ -44,7 +44,11 @@ public:
         m_process.waitForStarted();
     }
 
-    void order(const char *word) { m_process.write(QByteArray(word) + '\n'); }
+    void order(const char *word)
+    {
+        m_process.write(QByteArray(word) + '\n');
+        m_process.waitForBytesWritten();
+    }
 
     QString answer()
     {
@@ -58,7 +62,6 @@ public:
     QString ask(const char *word)
     {
         order(word);
-        m_process.waitForBytesWritten();
         return answer();
     }
 
