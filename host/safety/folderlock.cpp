@@ -50,6 +50,9 @@ FolderLock::Refusal FolderLock::breakAndTake(const StorageFolder &folder)
 
 FolderLock::Refusal FolderLock::takeAll(const StorageFolder &folder, Strangers strangers)
 {
+    if (!m_locks.empty())
+        return {}; // ours already
+
     const QString cannotMake = tr("The folder “%1” cannot be made: %2. Choose another folder.");
     QString reason = makeFolder(folder.path());
     if (!reason.isEmpty())
@@ -94,7 +97,7 @@ FolderLock::Refusal FolderLock::takeOne(const QString &path, const QString &logb
         return {tr("The logbook in “%1” cannot be locked: the lock file “%2” cannot be written (%3).")
                     .arg(logbook, path, reason.isEmpty() ? tr("somebody else writes it") : reason)};
     }
-    m_locks.push_back({std::move(lock), LockFile::at(path).content});
+    m_locks.push_back(std::move(lock));
     return {};
 }
 
@@ -151,13 +154,14 @@ FolderLock::Refusal FolderLock::refusal(const LockFile &found, const QString &pa
 
 void FolderLock::release()
 {
-    for (Lock &lock : m_locks) {
-        const QString path = lock.file->fileName();
-        const FolderGuard guard(QFileInfo(path).path()); // QLockFile lets go of the file before it removes it
-        if (LockFile::at(path).content == lock.content)
-            lock.file.reset();
+    for (std::unique_ptr<QLockFile> &lock : m_locks) {
+        const FolderGuard guard(
+            QFileInfo(lock->fileName()).path()); // it lets go of the file, then removes it
+        const LockFile found = LockFile::at(lock->fileName());
+        if (found.isOfThisMachine && found.process == QCoreApplication::applicationPid())
+            lock.reset();
         else
-            abandon(std::move(lock.file));
+            abandon(std::move(lock));
     }
     m_locks.clear();
 }

@@ -40,7 +40,7 @@ public:
     };
 
     /** Makes the folder if need be, and takes the locks. It answers at once, or in two seconds where others
-     * start at the same moment. */
+     * start at the same moment. What is ours already stays so. */
     Refusal take(const StorageFolder &folder);
 
     /** Takes the locks although another machine or user seems to have one; the user was told whose it is. A
@@ -48,12 +48,6 @@ public:
     Refusal breakAndTake(const StorageFolder &folder);
 
 private:
-    struct Lock
-    {
-        std::unique_ptr<QLockFile> file;
-        QByteArray content;
-    };
-
     enum class Strangers { Respect, Break };
 
     Refusal takeAll(const StorageFolder &folder, Strangers strangers);
@@ -63,7 +57,7 @@ private:
     static Refusal refusal(const LockFile &found, const QString &path, const QString &logbook);
     void release();
 
-    std::vector<Lock> m_locks;
+    std::vector<std::unique_ptr<QLockFile>> m_locks;
     std::optional<QByteArray> m_refused; ///< content of the lock that the user was told of
 };
 

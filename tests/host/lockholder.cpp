@@ -11,6 +11,7 @@
 #include <QCoreApplication>
 #include <QSocketNotifier>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -38,6 +39,14 @@ void tell(const FolderLock::Refusal &refusal)
 }
 
 } // namespace
+
+/** Stands in for that of the system, also in Qt: removing a file takes long enough for others to come
+ * between. */
+extern "C" int unlink(const char *path) noexcept
+{
+    usleep(static_cast<useconds_t>(qEnvironmentVariableIntValue("LOCKHOLDER_PAUSE")));
+    return unlinkat(AT_FDCWD, path, 0);
+}
 
 int main(int argc, char *argv[])
 {

@@ -44,7 +44,11 @@ public:
         m_process.waitForStarted();
     }
 
-    void order(const char *word) { m_process.write(QByteArray(word) + '\n'); }
+    void order(const char *word)
+    {
+        m_process.write(QByteArray(word) + '\n');
+        m_process.waitForBytesWritten();
+    }
 
     QString answer()
     {
@@ -58,7 +62,6 @@ public:
     QString ask(const char *word)
     {
         order(word);
-        m_process.waitForBytesWritten();
         return answer();
     }
 
@@ -71,10 +74,13 @@ public:
         m_process.waitForFinished();
     }
 
+    void beginToQuit() { m_process.closeWriteChannel(); }
+
     bool quit()
     {
-        m_process.closeWriteChannel();
-        return m_process.waitForFinished() && m_process.exitCode() == 0;
+        beginToQuit();
+        const bool isOver = m_process.state() == QProcess::NotRunning || m_process.waitForFinished();
+        return isOver && m_process.exitCode() == 0;
     }
 
     ~Instance() { quit(); }

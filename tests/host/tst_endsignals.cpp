@@ -33,7 +33,12 @@ private:
         }
         return m_process.readLine().trimmed();
     }
-    void raise(int number) { ::kill(static_cast<pid_t>(m_process.processId()), number); }
+    void raise(int number)
+    {
+        const auto process = static_cast<pid_t>(m_process.processId());
+        QVERIFY(process > 0); // 0 would be everybody around this test
+        ::kill(process, number);
+    }
     void goOn()
     {
         m_process.write("\n");

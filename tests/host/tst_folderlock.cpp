@@ -84,6 +84,7 @@ void FolderLockTest::aSecondInstanceIsToldAtOnceThatItIsOpenHere()
     QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-3), QFile::FileModificationTime));
     file.close();
 
+    QCOMPARE(first->ask("take"), u"taken"_s); // it is, and stays so
     const auto second = start();
     QElapsedTimer time;
     time.start();
