@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "faultrun.h"
+#include "host/safety/backups.h"
+#include "host/safety/storagefolder.h"
+#include "session.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Host;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int AtOnce = 6; // most of a run is waiting for copies
+
+/** The small logbook after one more flight. */
+QByteArray laterLogbook()
+{
+    return smallLogbook().replace("\"Meadow\"/>", "\"Meadow\"/>\n        <Location Name=\"Slope\"/>");
+}
+
+QByteArray damaged(const QByteArray &document)
+{
+    return document.left(document.size() * 2 / 3);
+}
+
+void addCopies(const Home &home)
+{
+    const StorageFolder folder(home.logbook());
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    Backups::add(folder, smallLogbook(), now.addSecs(-3600));
+    Backups::add(folder, laterLogbook(), now.addSecs(-1800));
+}
+
+Scenario session()
+{
+    return {u"session"_s,
+            [](const Home &home) { home.makeLogbook(smallLogbook()); },
+            {{u"click"_s, u"3S A"_s},
+             {u"click"_s, u"3S A"_s},
+             {u"add-location"_s, u"Slope"_s},
+             {u"click"_s, u"3S B"_s}},
+            Logbook::read(smallLogbook())};
+}
+
+Scenario recovery()
+{
+    return {u"recovery"_s,
+            [](const Home &home) {
+                home.makeLogbook(damaged(laterLogbook()));
+                addCopies(home);
+            },
+            {{u"press"_s, u"Restore"_s}, {u"click"_s, u"3S A"_s}},
+            Logbook::read(laterLogbook())};
+}
+
+Scenario restoreOfAMissingFile()
+{
+    return {u"missing file"_s,
+            [](const Home &home) {
+                home.makeLogbook(QByteArray());
+                addCopies(home);
+            },
+            {{u"press"_s, u"Restore"_s}, {u"click"_s, u"3S A"_s}},
+            Logbook::read(laterLogbook())};
+}
+
+Scenario emptyStart()
+{
+    return {u"empty start"_s,
+            [](const Home &home) { home.makeLogbook(damaged(smallLogbook())); },
+            {{u"press"_s, u"Start with an Empty"_s}, {u"add-location"_s, u"Slope"_s}},
+            Logbook()};
+}
+
+/** Every fault that fits one of the operations. */
+QList<Fault> faultsFor(const QList<Operation> &operations)
+{
+    QList<Fault> faults;
+    for (const Operation &operation : operations) {
+        const auto add = [&](QChar flag, const QString &kind, bool forever = false) {
+            if (flag.isNull() || operation.flags.contains(flag))
+                faults.append({kind, operation.number, forever});
+        };
+        add(u'c', u"kill-before"_s);
+        add(u'c', u"kill-after"_s);
+        add(u'w', u"kill-middle"_s);
+        add(u's', u"ENOSPC"_s);
+        add(u's', u"ENOSPC"_s, true);
+        add(u'p', u"EACCES"_s);
+        add(QChar(), u"EIO"_s);
+    }
+    return faults;
+}
+
+} // namespace
+
+class FileFaultsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void cleanupTestCase();
+    void whateverOperationFailsNothingIsLostAndNothingIsSilent_data();
+    void whateverOperationFailsNothingIsLostAndNothingIsSilent();
+    void theNewestCopyIsTheNewestStateWhereverTheClockJumps_data();
+    void theNewestCopyIsTheNewestStateWhereverTheClockJumps();
+
+private:
+    QProcess m_screen;
+    QString m_display;
+    QStringList m_leftBefore;
+};
+
+void FileFaultsTest::initTestCase()
+{
+    m_leftBefore = Harness::sharedLeftovers();
+    m_screen.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"1280x800x24"_s,
+                               u"-nolisten"_s, u"tcp"_s});
+    QTRY_VERIFY_WITH_TIMEOUT(m_screen.canReadLine(), 20'000);
+    m_display = u':' + QString::fromLatin1(m_screen.readLine().trimmed());
+}
+
+void FileFaultsTest::cleanupTestCase()
+{
+    m_screen.terminate();
+    QVERIFY(m_screen.waitForFinished());
+    QCOMPARE(Harness::sharedLeftovers(), m_leftBefore);
+}
+
+void FileFaultsTest::whateverOperationFailsNothingIsLostAndNothingIsSilent_data()
+{
+    QTest::addColumn<Scenario>("scenario");
+    for (const Scenario &scenario : {session(), recovery(), restoreOfAMissingFile(), emptyStart()})
+        QTest::newRow(qPrintable(scenario.name)) << scenario;
+}
+
+void FileFaultsTest::whateverOperationFailsNothingIsLostAndNothingIsSilent()
+{
+    QFETCH(Scenario, scenario);
+    QElapsedTimer clock;
+    clock.start();
+    QList<Operation> operations;
+    {
+        FaultRun faultless(scenario, Fault(), m_display);
+        QSignalSpy over(&faultless, &FaultRun::over);
+        faultless.start();
+        QVERIFY(over.wait(30'000));
+        QVERIFY2(faultless.problems().isEmpty(), qPrintable(faultless.problems().join(u"; "_s)));
+        operations = faultless.operations();
+    }
+    const QList<Fault> faults = faultsFor(operations);
+
+    QEventLoop loop;
+    QStringList problems;
+    qsizetype started = 0;
+    int running = 0;
+    int struck = 0;
+    std::function<void()> startOne = [&] {
+        if (started == faults.size()) {
+            if (running == 0)
+                loop.quit();
+            return;
+        }
+        auto *run = new FaultRun(scenario, faults.at(started++), m_display);
+        ++running;
+        connect(run, &FaultRun::over, &loop, [&, run] {
+            struck += run->struck().isEmpty() ? 0 : 1;
+            if (!run->problems().isEmpty())
+                problems.append(
+                    u"%1 (%2): %3"_s.arg(run->fault().name(), run->struck(), run->problems().join(u"; ")));
+            run->deleteLater();
+            --running;
+            startOne();
+        });
+        run->start();
+    };
+    for (int i = 0; i < AtOnce; ++i)
+        startOne();
+    if (running > 0)
+        loop.exec();
+
+    qInfo("%s: %lld operations, %lld runs, %d struck, %lld s", qPrintable(scenario.name),
+          static_cast<long long>(operations.size()), static_cast<long long>(faults.size()), struck,
+          static_cast<long long>(clock.elapsed() / 1000));
+    QVERIFY2(problems.isEmpty(), qPrintable(u'\n' + problems.join(u'\n')));
+    // An operation of the thread that copies may have been one of fewer this time.
+    QVERIFY(struck >= faults.size() * 95 / 100);
+}
+
+void FileFaultsTest::theNewestCopyIsTheNewestStateWhereverTheClockJumps_data()
+{
+    QTest::addColumn<QByteArray>("seconds");
+    QTest::newRow("ten years ahead") << QByteArray("315360000");
+    QTest::newRow("two hours back") << QByteArray("-7200");
+}
+
+void FileFaultsTest::theNewestCopyIsTheNewestStateWhereverTheClockJumps()
+{
+    QFETCH(QByteArray, seconds);
+    const Home home;
+    home.makeLogbook(smallLogbook());
+    const StorageFolder folder(home.logbook());
+    QFile clock(home.path() + u"/clock"_s);
+    QVERIFY(clock.open(QFile::WriteOnly | QFile::Unbuffered));
+    QProcessEnvironment environment;
+    Harness::preload(&environment);
+    environment.insert(u"VOLTBOK_CLOCK_FILE"_s, clock.fileName());
+
+    Session session(home, environment);
+    const auto isCopied = [&] {
+        QByteArray copy;
+        return Backups::newestWhole(folder, &copy) && copy == bytesOf(home.dataFile());
+    };
+    QTRY_VERIFY(session.run({u"messages"_s}).isDone() && isCopied());
+    QVERIFY(session.run({u"click"_s, u"3S A"_s}).isDone());
+    QTRY_VERIFY(isCopied());
+    clock.write(seconds);
+    const Event click = session.run({u"click"_s, u"3S A"_s});
+    QVERIFY(click.isDone());
+    QVERIFY(qAbs(click.time - QDateTime::currentMSecsSinceEpoch() - 1000 * seconds.toLongLong()) < 60'000);
+    QTRY_VERIFY(isCopied());
+    session.send({u"quit"_s});
+    QVERIFY(session.process().waitForFinished());
+    QVERIFY(isCopied());
+    QCOMPARE(Backups::list(folder).size(), 3); // as it was at first, discharged, and charged again
+}
+
+QTEST_GUILESS_MAIN(FileFaultsTest)
+#include "tst_filefaults.moc"

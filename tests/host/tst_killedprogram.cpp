@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "harness.h"
+#include "host/safety/backups.h"
+#include "host/safety/recovery.h"
+#include "host/safety/storagefolder.h"
+#include "logbook.h"
+#include "record.h"
+
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QTest>
+#include <QTimer>
+
+#include <memory>
+
+using namespace Host;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int Kills = 500;
+constexpr int AtOnce = 10;
+constexpr int KillsOfALogbook = 10; // the copies of ten lives take little room
+constexpr int PauseMs = 40;         // between two changes
+constexpr int GraceMs = 1000;       // within which a change must be in a copy
+
+struct Tally
+{
+    int started = 0;
+    int kills = 0;
+    int owing = 0; // kills at which something was owed beyond what the start had found
+    int broken = 0;
+    int recoveries = 0;
+    int saves = 0;
+    QStringList faults;
+};
+
+} // namespace
+
+/** A program that changes its logbook without rest, killed and started again over the same folder. */
+class Victim final : public QObject
+{
+    Q_OBJECT
+
+public:
+    Victim(Tally &tally, QRandomGenerator &random)
+        : m_tally(tally)
+        , m_random(random)
+    {
+        m_kill.setSingleShot(true);
+        connect(&m_kill, &QTimer::timeout, this, &Victim::kill);
+        connect(&m_process, &QProcess::readyReadStandardOutput, this, &Victim::readReports);
+        connect(&m_process, &QProcess::finished, this, &Victim::died);
+    }
+
+    void start();
+
+Q_SIGNALS:
+    void over();
+
+private:
+    void readReports();
+    void kill();
+    void died();
+    QString judge(qint64 death);
+    QString recover(const QByteArray &damaged, qint64 limit);
+    QString refusal(const QByteArray &damaged) const;
+
+    Tally &m_tally;
+    QRandomGenerator &m_random;
+    std::unique_ptr<Home> m_home;
+    int m_deaths = 0;
+    QProcess m_process;
+    QTimer m_kill;
+    qint64 m_killed = 0;
+    Record m_record; // since this start; it began with a file that held all that was owed before
+};
+
+void Victim::start()
+{
+    if (m_tally.started == Kills)
+        return Q_EMIT over();
+    ++m_tally.started;
+    if (!m_home || m_deaths == KillsOfALogbook) {
+        m_home = std::make_unique<Home>();
+        m_home->makeLogbook(smallLogbook());
+        m_deaths = 0;
+    }
+    m_record = Record(Logbook::readFile(m_home->dataFile()));
+    m_killed = 0;
+    QProcessEnvironment environment = m_home->environment();
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    Harness::drive(&environment);
+    const bool inTheMiddle = m_random.bounded(4) == 0; // a kill from outside rarely meets a save half done
+    if (inTheMiddle) {
+        Harness::preload(&environment);
+        environment.insert(u"VOLTBOK_FAULT_FOLDER"_s, m_home->logbook());
+        environment.insert(u"VOLTBOK_FAULT_KIND"_s, u"kill-middle"_s);
+        environment.insert(u"VOLTBOK_FAULT_AT"_s, QString::number(m_random.bounded(500, 1500)));
+    }
+    m_process.setProcessEnvironment(environment);
+    m_process.start(QStringLiteral(PROGRAM), {u"--data"_s, m_home->logbook()});
+    m_process.write(
+        Harness::command({u"storm"_s, QString::number(PauseMs), QString::number(m_random.generate())}));
+    m_kill.start(60'000); // should it never report anything
+}
+
+void Victim::readReports()
+{
+    while (m_process.canReadLine()) {
+        const int changes = m_record.changes();
+        m_record.add(Event::parse(m_process.readLine()));
+        if (changes == 0 && m_record.changes() == 1)
+            m_kill.start(m_process.processEnvironment().contains(u"VOLTBOK_FAULT_AT"_s)
+                             ? 10'000
+                             : m_random.bounded(900, 2300));
+    }
+}
+
+void Victim::kill()
+{
+    m_killed = QDateTime::currentMSecsSinceEpoch();
+    m_process.kill();
+}
+
+void Victim::died()
+{
+    m_kill.stop();
+    readReports();
+    ++m_deaths;
+    ++m_tally.kills;
+    m_tally.saves += m_record.changes();
+    const QString standardError = QString::fromUtf8(m_process.readAllStandardError());
+    // One that died by itself in the middle of a save did so right after its last report.
+    const qint64 death =
+        m_killed || m_record.events().isEmpty() ? m_killed : m_record.events().constLast().time;
+    const QString fault = m_process.exitStatus() == QProcess::CrashExit && m_record.changes() > 0
+                              ? judge(death)
+                              : u"ended by itself: "_s + standardError;
+    if (!fault.isEmpty()) {
+        m_tally.faults.append(u"kill %1: %2"_s.arg(QString::number(m_tally.kills), fault));
+        m_home.reset(); // one fault is one, not the first of many
+    }
+    start();
+}
+
+/** @return what is wrong with the file that the kill left; empty when it holds what is owed. */
+QString Victim::judge(qint64 death)
+{
+    const qint64 limit = death - GraceMs;
+    m_tally.owing += m_record.changes(limit) > 0 ? 1 : 0;
+    const QByteArray bytes = bytesOf(m_home->dataFile());
+    const Logbook found = Logbook::read(bytes);
+    const bool isWhole = Recovery::examine(StorageFolder(m_home->logbook())).kind == FileState::Whole;
+    if (isWhole != found.whole)
+        return u"whole or not: the program and the test differ"_s;
+    if (found.whole) // the last save is complete: there is no excuse for anything
+        return m_record.missing(found).join(u", ");
+    ++m_tally.broken;
+    return recover(bytes, limit);
+}
+
+/** Puts the newest whole copy in the place of a broken file, as the program does when somebody agrees. */
+QString Victim::recover(const QByteArray &damaged, qint64 limit)
+{
+    const QString problem = refusal(damaged);
+    if (!problem.isEmpty())
+        return problem;
+    const StorageFolder folder(m_home->logbook());
+    Recovery::finishInterrupted(folder);
+    QByteArray copy;
+    if (!Backups::newestWhole(folder, &copy))
+        return u"broken, and without a copy"_s;
+    const QStringList missing = m_record.missing(Logbook::read(copy), limit);
+    if (!missing.isEmpty())
+        return u"not in the newest copy: "_s + missing.join(u", ");
+    QString aside;
+    const QString reason = Recovery::replace(folder, copy, QDateTime::currentDateTimeUtc(), &aside);
+    if (!reason.isEmpty())
+        return u"not restored: "_s + reason;
+    if (bytesOf(aside) != damaged)
+        return u"the broken file was not kept"_s;
+    ++m_tally.recoveries;
+    return QString();
+}
+
+/** What is wrong with the answer of a program without a screen to a broken file. */
+QString Victim::refusal(const QByteArray &damaged) const
+{
+    QProcess program;
+    QProcessEnvironment environment = m_home->environment();
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    program.setProcessEnvironment(environment);
+    program.start(QStringLiteral(PROGRAM), {u"--data"_s, m_home->logbook()});
+    if (!program.waitForFinished() || program.exitCode() != 1)
+        return u"a broken file was opened"_s;
+    if (Harness::complaints(program.readAllStandardError()).size() != 1)
+        return u"a broken file was not called so in one line"_s;
+    return bytesOf(m_home->dataFile()) == damaged ? QString() : u"a broken file was overwritten"_s;
+}
+
+class KilledProgramTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void nothingThatWasAcknowledgedIsLostByAKill();
+};
+
+void KilledProgramTest::nothingThatWasAcknowledgedIsLostByAKill()
+{
+    const quint32 seed = qEnvironmentVariableIsSet("VOLTBOK_SEED")
+                             ? static_cast<quint32>(qEnvironmentVariableIntValue("VOLTBOK_SEED"))
+                             : QRandomGenerator::global()->generate();
+    qInfo("VOLTBOK_SEED=%u", seed);
+    QRandomGenerator random(seed);
+    const QStringList leftBefore = Harness::sharedLeftovers();
+    QElapsedTimer clock;
+    clock.start();
+
+    Tally tally;
+    {
+        QEventLoop loop;
+        int running = AtOnce;
+        std::vector<std::unique_ptr<Victim>> victims;
+        for (int i = 0; i < AtOnce; ++i) {
+            victims.push_back(std::make_unique<Victim>(tally, random));
+            connect(victims.back().get(), &Victim::over, &loop, [&] {
+                if (--running == 0)
+                    loop.quit();
+            });
+        }
+        for (const auto &victim : victims)
+            victim->start();
+        loop.exec();
+    }
+    qInfo(
+        "%d kills in %lld s, %d with something owed; %d acknowledged changes; %d broken files, %d recoveries",
+        tally.kills, static_cast<long long>(clock.elapsed() / 1000), tally.owing, tally.saves, tally.broken,
+        tally.recoveries);
+    QVERIFY2(tally.faults.isEmpty(), qPrintable(tally.faults.join(u'\n')));
+    QCOMPARE(tally.kills, Kills);
+    QVERIFY(tally.owing >= Kills / 2);
+    QVERIFY(tally.saves >= 10 * Kills);
+    QVERIFY(tally.broken >= Kills / 20);
+    QCOMPARE(tally.recoveries, tally.broken);
+    QCOMPARE(Harness::sharedLeftovers(), leftBefore);
+}
+
+QTEST_GUILESS_MAIN(KilledProgramTest)
+#include "tst_killedprogram.moc"
