@@ -52,6 +52,7 @@ void MessageBar::tell(const QString &matter, const QString &text, const QList<Ac
     m_texts.insert(matter, text);
     m_messages.insert(matter, message);
     m_layout->addWidget(message);
+    message->show(); // a layout would wait for the event loop
     show();
     QAccessibleEvent alert(message, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);

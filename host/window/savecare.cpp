@@ -9,8 +9,6 @@
 #include "host/window/messagebar.h"
 #include "host/window/questions.h"
 
-#include <QFileInfo>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
@@ -85,7 +83,7 @@ void SaveCare::saved(bool reloaded)
     const QByteArray document = heldByFile();
     if (!hasItsEnd(document))
         return tellLoss(reloaded ? Loss::Everything : Loss::File,
-                        reason(tr("it was not written to its end")));
+                        reason(tr("it is missing")));
     if (reloaded && !hasReadBack(document))
         return tellLoss(Loss::Everything, tr("it cannot be read back"));
     m_unsaved.clear();
@@ -127,7 +125,7 @@ void SaveCare::changedByOthers()
         return;
     m_byOthers = true;
     m_keeper.lookAndWait(); // before the window overwrites it
-    if (m_loss == Loss::Everything || !QFileInfo::exists(m_folder.dataFile()))
+    if (m_loss == Loss::Everything || !WholeFile::isWhole(heldByFile()))
         return; // there is another message
     m_messages.tell(Others,
                     tr("Another program has changed the logbook file. This window still shows what it "
@@ -216,7 +214,11 @@ QString SaveCare::reason(const QString &otherwise) const
     const QString problem = WholeFile::writeProblem(m_folder.dataFile());
     if (!problem.isEmpty())
         return problem;
-    const QString content = reading.isMissing ? QString() : WholeFile::inspect(reading.bytes).problem;
+    if (reading.isMissing)
+        return otherwise;
+    if (!hasItsEnd(reading.bytes))
+        return tr("it is not written to its end");
+    const QString content = WholeFile::inspect(reading.bytes).problem;
     return content.isEmpty() ? otherwise : content;
 }
 

@@ -162,5 +162,10 @@ public:
 
 private:
     QTemporaryDir m_place;
+
+public:
+    std::shared_ptr<void> underneath; ///< what the folder lies on; outlives the window
+
+private:
     std::unique_ptr<Host::MainWindow> m_window;
 };
