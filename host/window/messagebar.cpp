@@ -39,7 +39,6 @@ MessageBar::MessageBar(QWidget *parent)
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     hide();
 }
 

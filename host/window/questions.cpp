@@ -30,6 +30,7 @@ private:
     QLabel *addText(const QString &text);
     void addChoices(const Question &question);
     void addButtons(const Question &question);
+    void fit();
 
     QGridLayout *m_layout;
     QTableView *m_choices = nullptr;
@@ -96,7 +97,7 @@ void QuestionBox::addChoices(const Question &question)
     const QSize available = screen()->availableSize();
     m_choices->setMinimumSize(
         qMin(width, available.width() * 4 / 5),
-        qMin(8 * m_choices->verticalHeader()->defaultSectionSize(), available.height() / 3));
+        qMin(8 * m_choices->verticalHeader()->defaultSectionSize(), available.height() / 4));
     m_layout->addWidget(m_choices, m_layout->rowCount(), 0, 1, 2);
     m_layout->setRowStretch(m_layout->rowCount() - 1, 1);
 }
@@ -116,13 +117,26 @@ void QuestionBox::addButtons(const Question &question)
             button->setFocus();
         }
     }
+    buttons->setFocusProxy(
+        nullptr); // with one, Tab leaves out what comes before the first button that accepts
     m_layout->addWidget(buttons, m_layout->rowCount(), 0, 1, 2);
     if (m_choices)
         m_choices->setFocus();
 }
 
+/** As high as its texts need, which Qt would not let it be on a small screen. */
+void QuestionBox::fit()
+{
+    const QSize most = screen()->availableSize() * 19 / 20; // less the frame
+    int width = qMin(sizeHint().width(), most.width());
+    if (m_layout->totalHeightForWidth(width) > most.height())
+        width = most.width();
+    resize(width, qMin(m_layout->totalHeightForWidth(width), most.height()));
+}
+
 Answer QuestionBox::ask()
 {
+    fit();
     exec();
     return {m_button, m_choices ? m_choices->currentIndex().row() : -1};
 }

@@ -82,8 +82,7 @@ void SaveCare::saved(bool reloaded)
     // would write a smaller logbook that is whole.
     const QByteArray document = heldByFile();
     if (!hasItsEnd(document))
-        return tellLoss(reloaded ? Loss::Everything : Loss::File,
-                        reason(tr("it is missing")));
+        return tellLoss(reloaded ? Loss::Everything : Loss::File, reason(tr("it is missing")));
     if (reloaded && !hasReadBack(document))
         return tellLoss(Loss::Everything, tr("it cannot be read back"));
     m_unsaved.clear();
