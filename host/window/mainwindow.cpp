@@ -15,6 +15,16 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
+namespace {
+
+QString titleOf(const StorageFolder &folder)
+{
+    if (folder.path() == StorageFolder::ofDemo().path())
+        return MainWindow::tr("Voltbok - sample logbook");
+    return u"Voltbok - %1"_s.arg(QFileInfo(folder.path()).fileName());
+}
+
+} // namespace
 
 MainWindow::MainWindow(Questions &questions, QWidget *parent)
     : QMainWindow(parent)
@@ -51,16 +61,23 @@ void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> l
 {
     m_care.reset(); // the folder before is saved and copied while its lock is held
     m_lock = std::move(lock);
-    const QString path = folder.path();
-    setWindowTitle(u"Voltbok - %1"_s.arg(QFileInfo(path).fileName()));
-    m_logbook->changeStoragePath(path);
+    m_messages->clear(); // they speak of the folder before
+    setWindowTitle(titleOf(folder));
+    m_logbook->changeStoragePath(folder.path());
     m_care = std::make_unique<SaveCare>(folder,
                                         LogbookAccess{m_logbook,
                                                       [this] { m_logbook->writeDataWithDataprocessor(); },
                                                       [this] { m_logbook->updateBatteryGui(); }},
                                         *m_messages, m_questions);
     // Queued: the care ends with the folder that it speaks of.
-    connect(m_care.get(), &SaveCare::keptElsewhere, this, &MainWindow::open, Qt::QueuedConnection);
+    connect(m_care.get(), &SaveCare::keptElsewhere, this, &MainWindow::goOnIn, Qt::QueuedConnection);
+}
+
+void MainWindow::goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock)
+{
+    open(folder, std::move(lock));
+    tell(u"moved"_s,
+         tr("The logbook is now kept in “%1”. Open this folder the next time, too.").arg(folder.path()));
 }
 
 QByteArray MainWindow::openedAs() const

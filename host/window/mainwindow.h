@@ -53,6 +53,8 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock);
+
     Questions &m_questions;
     VoltbokGui *m_logbook;
     MessageBar *m_messages;

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/messagebar.h"
 
+#include "host/window/breakable.h"
+#include "host/window/flowlayout.h"
+
 #include <QAccessible>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QRegularExpression>
+#include <QStringList>
 #include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -16,12 +19,16 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 
-/** The text with places where a line may end inside long paths, which would widen the window. */
-QString breakable(QString text)
+QToolButton *makeClosing(QWidget *message)
 {
-    constexpr qsizetype Long = 30;
-    const bool hasLongWord = text.contains(QRegularExpression(u"\\S{%1,}"_s.arg(Long)));
-    return hasLongWord ? text.replace(u"/"_s, u"/\u200B"_s).replace(u"-"_s, u"-\u200B"_s) : text;
+    auto *closing = new QToolButton(message);
+    closing->setIcon(message->style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    closing->setAutoRaise(true);
+    closing->setFocusPolicy(Qt::StrongFocus); // a tool button could not be reached by keyboard
+    closing->setAccessibleName(MessageBar::tr("Close this message"));
+    closing->setToolTip(MessageBar::tr("Close this message"));
+    QObject::connect(closing, &QToolButton::clicked, message, &QWidget::hide);
+    return closing;
 }
 
 } // namespace
@@ -32,7 +39,6 @@ MessageBar::MessageBar(QWidget *parent)
 {
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     hide();
 }
 
@@ -45,6 +51,7 @@ void MessageBar::tell(const QString &matter, const QString &text, const QList<Ac
     m_texts.insert(matter, text);
     m_messages.insert(matter, message);
     m_layout->addWidget(message);
+    message->show(); // a layout would wait for the event loop
     show();
     QAccessibleEvent alert(message, QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
@@ -61,6 +68,13 @@ void MessageBar::retract(const QString &matter)
     setVisible(!m_messages.isEmpty());
 }
 
+void MessageBar::clear()
+{
+    const QStringList matters = m_messages.keys();
+    for (const QString &matter : matters)
+        retract(matter);
+}
+
 QWidget *MessageBar::makeMessage(const QString &text, const QList<Action> &actions)
 {
     auto *message = new QFrame(this);
@@ -72,27 +86,20 @@ QWidget *MessageBar::makeMessage(const QString &text, const QList<Action> &actio
     message->setForegroundRole(QPalette::ToolTipText);
 
     auto *label = new QLabel(breakable(text), message);
+    label->setAccessibleName(text);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     label->setForegroundRole(QPalette::ToolTipText);
-    label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-
-    auto *closing = new QToolButton(message);
-    closing->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
-    closing->setAutoRaise(true);
-    closing->setAccessibleName(tr("Close this message"));
-    closing->setToolTip(tr("Close this message"));
-    connect(closing, &QToolButton::clicked, message, &QWidget::hide);
 
     auto *rows = new QVBoxLayout(message);
     auto *top = new QHBoxLayout;
     top->addWidget(label, 1);
-    top->addWidget(closing, 0, Qt::AlignTop);
     rows->addLayout(top);
-    if (actions.isEmpty())
+    if (actions.isEmpty()) {
+        top->addWidget(makeClosing(message), 0, Qt::AlignTop);
         return message;
-    auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
+    }
+    auto *buttons = new FlowLayout;
     for (const Action &action : actions) {
         auto *button = new QPushButton(action.caption, message);
         connect(button, &QPushButton::clicked, this, action.run);

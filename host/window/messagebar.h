@@ -29,13 +29,15 @@ public:
 
     /**
      * Shows a message in the place of the one about the same matter. The same text is not told again, even
-     * when the user has closed it.
+     * when the user has closed it. One with actions cannot be closed: it stays until it is over.
      *
      * @param matter what it is about: a name that no user sees.
      */
     void tell(const QString &matter, const QString &text, const QList<Action> &actions = {});
     /** Takes the message about this matter away, if there is one: it is over, and will be told again. */
     void retract(const QString &matter);
+    /** Takes all messages away. */
+    void clear();
 
 Q_SIGNALS:
     /** A message is shown that was not shown before. */

@@ -1,80 +1,159 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/questions.h"
 
+#include "host/window/breakable.h"
+
 #include <QApplication>
+#include <QDialog>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QHeaderView>
-#include <QMessageBox>
+#include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyle>
 #include <QTableView>
-
-#include <memory>
 
 namespace Host {
 namespace {
 
-QMessageBox::ButtonRole roleOf(const Question &question, int answer)
+/** A box with a text, perhaps a table, and buttons. Not a QMessageBox, which has no place for a table. */
+class QuestionBox final : public QDialog
 {
-    return answer == question.refusal ? QMessageBox::RejectRole : QMessageBox::AcceptRole;
+public:
+    QuestionBox(const Question &question, QStyle::StandardPixmap icon);
+
+    Answer ask();
+
+private:
+    QLabel *addText(const QString &text);
+    void addChoices(const Question &question);
+    void addButtons(const Question &question);
+    void fit();
+
+    QGridLayout *m_layout;
+    QTableView *m_choices = nullptr;
+    int m_button;
+};
+
+QuestionBox::QuestionBox(const Question &question, QStyle::StandardPixmap icon)
+    : QDialog(QApplication::activeWindow())
+    , m_layout(new QGridLayout(this))
+    , m_button(question.refusal)
+{
+    setWindowTitle(QApplication::applicationDisplayName());
+    setAccessibleName(question.text);
+    setAccessibleDescription(question.details);
+    auto *picture = new QLabel(this);
+    const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
+    picture->setPixmap(style()->standardIcon(icon, nullptr, this).pixmap(size));
+    m_layout->addWidget(picture, 0, 0, Qt::AlignTop);
+    QFont strong = font();
+    strong.setBold(!question.details.isEmpty());
+    addText(question.text)->setFont(strong);
+    if (!question.details.isEmpty())
+        addText(question.details);
+    if (question.choices)
+        addChoices(question);
+    addButtons(question);
 }
 
-/** A table of the choices, put between the texts and the buttons of a box. */
-QTableView *addChoices(QMessageBox &box, const Question &question)
+QLabel *QuestionBox::addText(const QString &text)
 {
-    auto *table = new QTableView(&box);
-    table->setModel(question.choices);
-    table->setAccessibleName(question.text);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setTabKeyNavigation(false);
-    table->setShowGrid(false);
-    table->verticalHeader()->hide();
-    table->selectRow(question.chosen);
+    auto *label = new QLabel(breakable(text), this);
+    label->setAccessibleName(text);
+    label->setTextFormat(Qt::PlainText); // a text from a file is shown as it is, without links
+    label->setWordWrap(true);
+    // About as wide as a line reads well; the screen may be narrower.
+    label->setMinimumWidth(
+        qMin(56 * fontMetrics().averageCharWidth(), screen()->availableSize().width() / 2));
+    m_layout->addWidget(label, m_layout->rowCount() - (m_layout->count() == 1 ? 1 : 0), 1);
+    return label;
+}
+
+void QuestionBox::addChoices(const Question &question)
+{
+    m_choices = new QTableView(this);
+    m_choices->setModel(question.choices);
+    m_choices->setAccessibleName(question.text);
+    m_choices->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_choices->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_choices->setTabKeyNavigation(false);
+    m_choices->setShowGrid(false);
+    m_choices->setWordWrap(false);
+    m_choices->verticalHeader()->hide();
+    m_choices->selectRow(question.chosen);
     // By the font, not by the contents: those of a row are read when it comes into view.
-    const int digit = table->fontMetrics().horizontalAdvance(u'0');
-    table->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    for (int column = 1; column < question.choices->columnCount(); ++column)
-        table->setColumnWidth(column, 11 * digit);
-    table->setMinimumSize(90 * digit, 10 * table->fontMetrics().height());
-    auto *layout = qobject_cast<QGridLayout *>(box.layout());
-    const int buttonsRow = layout->rowCount() - 1;
-    QLayoutItem *buttons = layout->itemAtPosition(buttonsRow, 0);
-    layout->removeItem(buttons);
-    layout->addWidget(table, buttonsRow, 0, 1, layout->columnCount());
-    layout->addItem(buttons, buttonsRow + 1, 0, 1, layout->columnCount());
-    return table;
+    const QFontMetrics metrics = m_choices->fontMetrics();
+    QHeaderView *header = m_choices->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setSectionResizeMode(0, QHeaderView::Stretch);
+    int width = metrics.horizontalAdvance(u'0') * 32;
+    for (int column = 1; column < question.choices->columnCount(); ++column) {
+        m_choices->setColumnWidth(column, header->sectionSizeHint(column));
+        width += header->sectionSizeHint(column);
+    }
+    const QSize available = screen()->availableSize();
+    m_choices->setMinimumSize(
+        qMin(width, available.width() * 4 / 5),
+        qMin(8 * m_choices->verticalHeader()->defaultSectionSize(), available.height() / 4));
+    m_layout->addWidget(m_choices, m_layout->rowCount(), 0, 1, 2);
+    m_layout->setRowStretch(m_layout->rowCount() - 1, 1);
 }
 
-int chosenRow(const QTableView *table)
+void QuestionBox::addButtons(const Question &question)
 {
-    return table ? table->currentIndex().row() : -1;
+    auto *buttons = new QDialogButtonBox(this);
+    for (int i = 0; i < question.answers.size(); ++i) {
+        const auto role = i == question.refusal ? QDialogButtonBox::RejectRole : QDialogButtonBox::AcceptRole;
+        QPushButton *button = buttons->addButton(question.answers.at(i), role);
+        connect(button, &QPushButton::clicked, this, [this, i] {
+            m_button = i;
+            accept();
+        });
+        if (i == question.preferred) {
+            button->setDefault(true);
+            button->setFocus();
+        }
+    }
+    buttons->setFocusProxy(
+        nullptr); // with one, Tab leaves out what comes before the first button that accepts
+    m_layout->addWidget(buttons, m_layout->rowCount(), 0, 1, 2);
+    if (m_choices)
+        m_choices->setFocus();
+}
+
+/** As high as its texts need, which Qt would not let it be on a small screen. */
+void QuestionBox::fit()
+{
+    const QSize most = screen()->availableSize() * 19 / 20; // less the frame
+    int width = qMin(sizeHint().width(), most.width());
+    if (m_layout->totalHeightForWidth(width) > most.height())
+        width = most.width();
+    resize(width, qMin(m_layout->totalHeightForWidth(width), most.height()));
+}
+
+Answer QuestionBox::ask()
+{
+    fit();
+    exec();
+    return {m_button, m_choices ? m_choices->currentIndex().row() : -1};
 }
 
 } // namespace
 
 Answer BoxQuestions::ask(const Question &question)
 {
-    QMessageBox box(QMessageBox::Warning, QApplication::applicationDisplayName(), question.text,
-                    QMessageBox::NoButton, QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText); // a text from a file is shown as it is, without links
-    box.setInformativeText(question.details);
-    QList<QAbstractButton *> buttons;
-    for (int i = 0; i < question.answers.size(); ++i)
-        buttons.append(box.addButton(question.answers.at(i), roleOf(question, i)));
-    box.setDefaultButton(qobject_cast<QPushButton *>(buttons.at(question.preferred)));
-    box.setEscapeButton(buttons.at(question.refusal));
-    const QTableView *table = question.choices ? addChoices(box, question) : nullptr;
-    box.exec();
-    return {static_cast<int>(buttons.indexOf(box.clickedButton())), chosenRow(table)};
+    return QuestionBox(question, QStyle::SP_MessageBoxWarning).ask();
 }
 
 void BoxQuestions::tell(const QString &text)
 {
-    QMessageBox box(QMessageBox::Critical, QApplication::applicationDisplayName(), text, QMessageBox::Ok,
-                    QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    Question question;
+    question.text = text;
+    question.answers = QStringList(QApplication::translate("Questions", "OK"));
+    QuestionBox(question, QStyle::SP_MessageBoxCritical).ask();
 }
 
 QString BoxQuestions::chooseFolder(const QString &caption)

@@ -16,7 +16,7 @@ struct Question
     QStringList answers; ///< the captions of the buttons
     int preferred = 0;   ///< the answer that the return key gives
     int refusal = 0;     ///< the answer that changes nothing: for Escape, and where nobody can answer
-    /** Where the first answer is about one of several things: a table of them, its first column their names.
+    /** Where an answer is about one of several things: a table of them, its first column their names.
      * Rows that cannot be chosen are disabled. Not owned. */
     QAbstractItemModel *choices = nullptr;
     int chosen = 0; ///< the row that is chosen at first

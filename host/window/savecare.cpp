@@ -9,17 +9,22 @@
 #include "host/window/messagebar.h"
 #include "host/window/questions.h"
 
-#include <QFileInfo>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
 namespace {
+
 // What the messages are about.
 const QString Saving = u"saving"_s;
 const QString Copies = u"copies"_s;
 const QString Others = u"others"_s;
-const QString Restored = u"restored"_s;
+
+/** Whether the library has written this document to its end. One that was cut never ends like this. */
+bool hasItsEnd(const QByteArray &document)
+{
+    return document.endsWith("</Voltbok>\n") || document.endsWith("<Voltbok/>\n");
+}
+
 } // namespace
 
 SaveCare::SaveCare(const StorageFolder &folder, const LogbookAccess &logbook, MessageBar &messages,
@@ -33,7 +38,7 @@ SaveCare::SaveCare(const StorageFolder &folder, const LogbookAccess &logbook, Me
     , m_keeper(folder)
 {
     connect(&m_watch, &SaveWatch::saved, this, &SaveCare::saved);
-    connect(&m_watch, &SaveWatch::notSaved, this, &SaveCare::saveRefused);
+    connect(&m_watch, &SaveWatch::unchanged, this, &SaveCare::unchanged);
     connect(&m_watch, &SaveWatch::changedByOthers, this, &SaveCare::changedByOthers);
     connect(&m_keeper, &BackupKeeper::fileWhole, this, &SaveCare::fileWhole);
     connect(&m_keeper, &BackupKeeper::fileBroken, this, &SaveCare::fileBroken);
@@ -42,7 +47,7 @@ SaveCare::SaveCare(const StorageFolder &folder, const LogbookAccess &logbook, Me
     connect(&m_keeper, &BackupKeeper::recovered, this, [this] { m_messages.retract(Copies); });
     const QString problem = WholeFile::writeProblem(m_folder.dataFile());
     if (!problem.isEmpty())
-        tellLoss(Loss::Change, problem);
+        tellLoss(Loss::Foreseen, problem);
 }
 
 SaveCare::~SaveCare()
@@ -56,76 +61,119 @@ bool SaveCare::mayClose()
     flush();
     if (m_loss != Loss::File && m_loss != Loss::Everything)
         return true;
+    enum { QuitAnyway, GoBack };
     Question question;
     question.text = tr("The logbook is not saved.");
     question.details = m_loss == Loss::File
                            ? tr("What you recorded last would be lost. Go back, and try again or "
                                 "keep the logbook elsewhere.")
-                           : tr("Its file is damaged. Go back and restore the last state; the "
-                                "next start offers this, too.");
+                           : tr("What you recorded last would be lost. Go back, and restore the last state "
+                                "or keep the logbook elsewhere.");
     question.answers = QStringList{tr("Quit Anyway"), tr("Go Back")};
-    question.preferred = 1;
-    question.refusal = 1;
-    return m_questions.ask(question).button == 0;
+    question.preferred = GoBack;
+    question.refusal = GoBack;
+    return m_questions.ask(question).button == QuitAnyway;
 }
 
 void SaveCare::saved(bool reloaded)
 {
-    m_reloaded = reloaded;
-    m_retried = true;
-    m_messages.retract(Others);
-    m_keeper.look();
+    takeForOurs();
+    // Looked at before the next click: on top of what a window has read back from a cut file, the next save
+    // would write a smaller logbook that is whole.
+    const QByteArray document = heldByFile();
+    if (!hasItsEnd(document))
+        return tellLoss(reloaded ? Loss::Everything : Loss::File, reason(tr("it is missing")));
+    if (reloaded && !hasReadBack(document))
+        return tellLoss(Loss::Everything, tr("it cannot be read back"));
+    m_unsaved.clear();
+    m_endsWhenWhole = true;
 }
 
-void SaveCare::saveRefused(bool reloaded)
+void SaveCare::unchanged(bool reloaded)
 {
     // Two saves within one tick of the file's clock look like none.
-    if (!reloaded && fileHolds(heldByWindow()))
-        return;
-    QString reason = WholeFile::writeProblem(m_folder.dataFile());
-    if (reason.isEmpty())
-        reason = tr("the disk reported an error");
-    tellLoss(reloaded ? Loss::Change : Loss::File, reason);
+    const QByteArray held = reloaded ? QByteArray() : heldByWindow();
+    const bool written = held.isEmpty() ? m_watch.wasTooFastForTheClock() &&
+                                              WholeFile::writeProblem(m_folder.dataFile()).isEmpty()
+                                        : held == heldByFile();
+    if (written)
+        return saved(reloaded);
+    const bool lostNoMore = m_loss != Loss::File && WholeFile::isWhole(heldByFile());
+    const Loss loss = !reloaded ? Loss::File : lostNoMore ? Loss::Change : Loss::Everything;
+    tellLoss(loss, reason(tr("the disk reports an error")));
 }
 
-void SaveCare::fileBroken(const QString &reason)
+void SaveCare::fileBroken(const QString &problem)
 {
-    const QString cause = WholeFile::writeProblem(m_folder.dataFile());
-    tellLoss(m_reloaded ? Loss::Everything : Loss::File,
-             cause.isEmpty() ? reason : u"%1; %2"_s.arg(reason, cause));
+    if (m_loss == Loss::Everything)
+        return; // told already
+    const bool isAhead = m_loss == Loss::File && !m_endsWhenWhole;
+    tellLoss(Loss::File, reason(problem));
+    m_endsWhenWhole = !isAhead;
 }
 
 void SaveCare::fileWhole()
 {
-    if (m_retried && m_loss != Loss::Everything)
+    if (m_endsWhenWhole && m_loss != Loss::Everything)
         settle();
 }
 
 void SaveCare::changedByOthers()
 {
-    m_reloaded = false;
+    if (isOnlyTouched())
+        return;
+    m_byOthers = true;
     m_keeper.lookAndWait(); // before the window overwrites it
-    if (QFileInfo::exists(m_folder.dataFile()))
-        m_messages.tell(Others,
-                        tr("Another program has changed the logbook file. This window still shows what it "
-                           "held before, and your next change overwrites the file. A copy of the other "
-                           "version is kept in “%1”; start Voltbok again to see it.")
-                            .arg(m_folder.backups().path()));
+    if (m_loss == Loss::Everything || !WholeFile::isWhole(heldByFile()))
+        return; // there is another message
+    m_messages.tell(Others,
+                    tr("Another program has changed the logbook file. This window still shows what it "
+                       "held before, and your next change overwrites the file. A copy of the other "
+                       "version is kept in “%1”; start Voltbok again to see it.")
+                        .arg(m_folder.backups().path()));
+}
+
+/** The program has written the file: whatever somebody else had done to it is over. */
+void SaveCare::takeForOurs()
+{
+    m_watch.accept();
+    m_byOthers = false;
+    m_messages.retract(Others);
+    m_keeper.look();
+}
+
+/** Whether a file that was written has the content it had before. */
+bool SaveCare::isOnlyTouched() const
+{
+    const QByteArray document = heldByFile();
+    QByteArray copied;
+    Backups::newestWhole(m_folder, &copied);
+    return !document.isEmpty() && (document == copied || document == heldByWindow());
+}
+
+/** Whether the window shows what it has just saved; a disk that did not give it back is asked once more. */
+bool SaveCare::hasReadBack(const QByteArray &document)
+{
+    if (m_watch.shows(document))
+        return true;
+    m_logbook.reload();
+    return m_watch.shows(document);
 }
 
 void SaveCare::tellLoss(Loss loss, const QString &reason)
 {
     m_loss = loss;
-    m_retried = false;
-    if (loss == Loss::File)
-        m_unsaved = heldByWindow();
+    m_endsWhenWhole = false;
+    const QByteArray held = loss == Loss::File ? heldByWindow() : QByteArray();
+    if (!held.isEmpty())
+        m_unsaved = held;
     // What the window has read back is not what was recorded: nothing may be written on top of it.
     m_logbook.widget->setEnabled(loss != Loss::Everything);
 
     QList<MessageBar::Action> actions;
     if (loss != Loss::Everything)
         actions.append({tr("Try Again"), [this] { tryAgain(); }});
-    if (loss != Loss::Change)
+    if (loss == Loss::File || loss == Loss::Everything)
         actions.append({tr("Restore Last State"), [this] { restoreLastState(); }});
     actions.append({tr("Keep Elsewhere…"), [this] { keepElsewhere(); }});
     m_messages.tell(Saving, lossText(loss).arg(m_folder.dataFile(), reason), actions);
@@ -134,21 +182,43 @@ void SaveCare::tellLoss(Loss loss, const QString &reason)
 QString SaveCare::lossText(Loss loss)
 {
     switch (loss) {
+    case Loss::Foreseen:
+        return tr(
+            "Nothing can be saved in “%1”: %2. See that the file can be written, or keep the logbook in "
+            "another folder, before you record anything.");
     case Loss::File:
-        return tr(
-            "The logbook is not saved in “%1”: %2. This window still shows everything. Free some space or "
-            "give back the right to write, then try again; or keep the logbook in another folder.");
+        return tr("The logbook is not saved in “%1”: %2. This window still shows everything. See that the "
+                  "file can be written, then try again; or keep the logbook in another folder.");
     case Loss::Change:
-        return tr(
-            "Nothing can be saved in “%1”: %2. The file is as it was before; a change is lost. Give back "
-            "the right to write, or keep the logbook in another folder, then enter your last change again.");
+        return tr("Your last change could not be saved in “%1”: %2. File and window are as they were before. "
+                  "See that the file can be written, or keep the logbook in another folder; then enter the "
+                  "change again.");
     case Loss::Everything:
-        return tr("The logbook file “%1” was damaged while saving: %2. Nothing can be entered until you have "
-                  "restored the last state or kept it in another folder. Then enter your last change again.");
+        return tr(
+            "The logbook could not be saved in “%1”: %2. This window shows less than you have recorded. "
+            "Restore the last state, or keep it in another folder; then enter your last change again. "
+            "Until then nothing else can be entered.");
     case Loss::None:
         break;
     }
     return QString();
+}
+
+/** Why the file does not hold what it should, the same however it was noticed. */
+QString SaveCare::reason(const QString &otherwise) const
+{
+    const WholeFile::Reading reading = WholeFile::read(m_folder.dataFile());
+    if (!reading.problem.isEmpty() && !reading.isMissing)
+        return reading.problem;
+    const QString problem = WholeFile::writeProblem(m_folder.dataFile());
+    if (!problem.isEmpty())
+        return problem;
+    if (reading.isMissing)
+        return otherwise;
+    if (!hasItsEnd(reading.bytes))
+        return tr("it is not written to its end");
+    const QString content = WholeFile::inspect(reading.bytes).problem;
+    return content.isEmpty() ? otherwise : content;
 }
 
 void SaveCare::settle()
@@ -159,102 +229,19 @@ void SaveCare::settle()
     m_messages.retract(Saving);
 }
 
-void SaveCare::tryAgain()
-{
-    const Loss before = m_loss;
-    m_logbook.save();
-    m_watch.accept();
-    m_keeper.look();
-    if (fileHolds(heldByWindow())) {
-        settle();
-        return;
-    }
-    QString reason = WholeFile::writeProblem(m_folder.dataFile());
-    if (reason.isEmpty())
-        reason = WholeFile::inspect(WholeFile::read(m_folder.dataFile()).bytes).problem;
-    tellLoss(before, reason);
-    m_questions.tell(tr("The logbook still cannot be saved: %1.").arg(reason));
-}
-
-void SaveCare::restoreLastState()
-{
-    const QByteArray state = lastWholeState();
-    QString aside;
-    const QString problem = state.isEmpty()
-                                ? tr("there is no whole copy")
-                                : Recovery::replace(m_folder, state, QDateTime::currentDateTimeUtc(), &aside);
-    if (!problem.isEmpty()) {
-        m_questions.tell(
-            tr("The last state cannot be restored: %1. Nothing was changed. Free some space, or keep "
-               "the logbook elsewhere.")
-                .arg(problem));
-        return;
-    }
-    m_logbook.reload();
-    m_watch.accept();
-    m_reloaded = false;
-    m_keeper.look();
-    settle();
-    m_messages.tell(
-        Restored,
-        aside.isEmpty()
-            ? tr("The last state is restored.")
-            : tr("The last state is restored. The file that was there is kept as “%1”.").arg(aside));
-}
-
-void SaveCare::keepElsewhere()
-{
-    const QString path = m_questions.chooseFolder(tr("Keep the Logbook in Another Folder"));
-    if (path.isEmpty())
-        return;
-    const StorageFolder folder(path);
-    const auto lock = std::make_shared<FolderLock>();
-    const QString problem = keepIn(folder, *lock);
-    if (problem.isEmpty())
-        Q_EMIT keptElsewhere(folder, lock);
-    else
-        m_questions.tell(problem);
-}
-
-/** @return why the logbook cannot be kept in this folder, in whole sentences; empty when it is. */
-QString SaveCare::keepIn(const StorageFolder &folder, FolderLock &lock) const
-{
-    QString problem = folder.problem();
-    if (problem.isEmpty() && QFileInfo::exists(folder.dataFile()))
-        problem = tr("There is a logbook in “%1” already. Choose an empty folder.").arg(folder.path());
-    if (problem.isEmpty())
-        problem = lock.take(folder).problem;
-    if (!problem.isEmpty())
-        return problem;
-    const QByteArray state = m_loss == Loss::Everything ? lastWholeState() : heldByWindow();
-    const QString reason =
-        state.isEmpty() ? tr("there is no whole state of it") : WholeFile::write(folder.dataFile(), state);
-    return reason.isEmpty() ? QString()
-                            : tr("The logbook cannot be kept in “%1”: %2. Choose another folder.")
-                                  .arg(folder.path(), reason);
-}
-
 void SaveCare::flush()
 {
+    m_watch.catchUp();
     // What was damaged or changed by somebody else is not overwritten with what the window happens to hold.
-    if (m_loss == Loss::Everything || m_loss == Loss::Change || m_watch.isChangedByOthers())
+    if (m_loss == Loss::Everything || m_loss == Loss::Change || m_byOthers)
         return;
     const QByteArray held = heldByWindow();
-    if (held.isEmpty() || held == m_openedAs || fileHolds(held))
+    if (held.isEmpty() || held == m_openedAs || held == heldByFile())
         return;
-    m_logbook.save();
-    m_watch.accept();
-    if (fileHolds(held))
+    if (save())
         settle();
-}
-
-QByteArray SaveCare::lastWholeState() const
-{
-    if (m_loss == Loss::Everything && !m_unsaved.isEmpty())
-        return m_unsaved;
-    QByteArray document;
-    Backups::newestWhole(m_folder, &document);
-    return document;
+    else
+        tellLoss(Loss::File, reason(tr("the disk reports an error")));
 }
 
 QByteArray SaveCare::heldByWindow() const
@@ -263,9 +250,9 @@ QByteArray SaveCare::heldByWindow() const
     return WholeFile::isWhole(document) ? document : QByteArray();
 }
 
-bool SaveCare::fileHolds(const QByteArray &document) const
+QByteArray SaveCare::heldByFile() const
 {
-    return !document.isEmpty() && WholeFile::read(m_folder.dataFile()).bytes == document;
+    return WholeFile::read(m_folder.dataFile()).bytes;
 }
 
 } // namespace Host

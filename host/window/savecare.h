@@ -42,7 +42,7 @@ public:
     /** Saves what is not saved yet, and copies it. */
     ~SaveCare() override;
 
-    /** What a save would have written when the folder was opened, before anything was changed. */
+    /** What a save would have written when the file was opened or restored, before anything was changed. */
     QByteArray openedAs() const { return m_openedAs; }
 
     /** Saves what is not saved yet; asks where it cannot be saved. @return whether the window may be closed.
@@ -58,28 +58,34 @@ private:
     /** What window and file have left of the last change. */
     enum class Loss {
         None,       ///< the file holds it
+        Foreseen,   ///< nothing was changed yet, and the next change cannot be saved
         File,       ///< the window holds it, the file does not
         Change,     ///< it is lost; file and window are as they were before
-        Everything, ///< the file was damaged, and the window has read it back
+        Everything, ///< it is lost, and the window has read back less than was recorded before
     };
 
     void saved(bool reloaded);
-    void saveRefused(bool reloaded);
+    void unchanged(bool reloaded);
     void fileBroken(const QString &reason);
     void fileWhole();
     void changedByOthers();
+    void takeForOurs();
+    bool isOnlyTouched() const;
+    bool hasReadBack(const QByteArray &document);
 
     void tellLoss(Loss loss, const QString &reason);
     static QString lossText(Loss loss);
+    QString reason(const QString &otherwise) const;
     void settle();
     void tryAgain();
     void restoreLastState();
     void keepElsewhere();
     QString keepIn(const StorageFolder &folder, FolderLock &lock) const;
+    bool save();
     void flush();
-    QByteArray lastWholeState() const;
+    QByteArray lastState() const;
     QByteArray heldByWindow() const;
-    bool fileHolds(const QByteArray &document) const;
+    QByteArray heldByFile() const;
 
     const StorageFolder m_folder;
     const LogbookAccess m_logbook;
@@ -88,8 +94,8 @@ private:
     QByteArray m_openedAs;
     QByteArray m_unsaved; // what the window held when a save failed
     Loss m_loss = Loss::None;
-    bool m_reloaded = false; // the window has read the file back after its last save
-    bool m_retried = false;  // it has saved since a loss was told
+    bool m_endsWhenWhole = false; // the loss: nothing but the file itself is in the way
+    bool m_byOthers = false;      // the file's content is somebody else's
     SaveWatch m_watch;
     BackupKeeper m_keeper;
 };

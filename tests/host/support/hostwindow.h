@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "../../logbookwindow.h"
+#include "../../xml.h"
+#include "scriptedquestions.h"
+
+#include "gui/pages.h"
+#include "host/safety/backups.h"
+#include "host/safety/folderlock.h"
+#include "host/window/mainwindow.h"
+#include "host/window/messagebar.h"
+#include "host/window/savecare.h"
+
+#include <QComboBox>
+
+#include <memory>
+
+/** The program's window on show over a logbook in a folder of its own; for tests that use it as a pilot does.
+ */
+class HostWindow
+{
+public:
+    /** Opens the folder as the program does, with this data file or, without one, as a new folder. */
+    explicit HostWindow(const QByteArray &document = sample())
+    {
+        QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
+        RotavexPlugin::rotavexSettings->clear();
+        QFile::setPermissions(m_place.path(),
+                              QFile::Permissions(0x7777)); // for tests that become another user
+        QDir().mkdir(path());
+        QFile::setPermissions(path(), QFile::Permissions(0x7777));
+        if (!document.isEmpty())
+            put(document);
+        restart();
+    }
+
+    /** Two batteries, one of them charged, two models that fly both, one location. */
+    static QByteArray sample()
+    {
+        return Xml::file(Xml::locations({"Long Meadow"}) + Xml::battery("Pack A", true) +
+                         Xml::battery("Pack B") + Xml::model("Firebrand", {"Pack A", "Pack B"}) +
+                         Xml::model("Skylark", {"Pack A", "Pack B"}));
+    }
+
+    void restart()
+    {
+        close();
+        m_window = std::make_unique<Host::MainWindow>(questions);
+        const Host::StorageFolder folder(path());
+        auto lock = std::make_shared<Host::FolderLock>();
+        QCOMPARE(lock->take(folder).problem, QString());
+        QObject::connect(m_window.get(), &Host::MainWindow::told, m_window.get(),
+                         [this](const QString &text) { told.append(text); });
+        m_window->open(folder, std::move(lock));
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        settle();
+    }
+
+    /** Ends the window as the program does, without a question. */
+    void close() { m_window.reset(); }
+
+    /** Lets the care and the keeper of the copies finish with what was done. */
+    void settle()
+    {
+        QCoreApplication::processEvents();
+        m_window->m_care->m_keeper.lookAndWait();
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    Host::MainWindow &window() { return *m_window; }
+    Host::SaveCare &care() { return *m_window->m_care; }
+    Host::MessageBar &messages() { return *m_window->m_messages; }
+    VoltbokGui &gui() { return *m_window->m_logbook; }
+    Ui_VoltbokGui &ui() { return *gui().ui; }
+
+    QString place() const { return m_place.path(); }
+    QString path() const { return m_place.filePath(QStringLiteral("logbook")); }
+    QString filePath() const { return path() + QStringLiteral("/voltbok.xml"); }
+    QByteArray bytes() const { return read(filePath()); }
+
+    static QByteArray read(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    /** Writes the data file as another program would. */
+    void put(const QByteArray &document) const
+    {
+        QFile file(filePath());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        QCOMPARE(file.write(document), document.size());
+        file.close();
+        QFile::setPermissions(filePath(), QFile::Permissions(0x6666));
+    }
+
+    /** The bytes of all copies, the newest first. */
+    QByteArrayList copies() const
+    {
+        const Host::StorageFolder folder(path());
+        QByteArrayList documents;
+        const auto list = Host::Backups::list(folder);
+        for (const Host::Copy &copy : list)
+            documents.append(read(folder.backups().filePath(copy.name)));
+        return documents;
+    }
+
+    BatteryWidget *battery(const QString &name)
+    {
+        for (BatteryWidget *battery : std::as_const(gui().batteryList)) {
+            if (battery->getBatteryName() == name)
+                return battery;
+        }
+        return nullptr;
+    }
+
+    void clickCard(const QString &name) { LogbookWindow::clickCard(battery(name)); }
+    /** An edit: saved and read back. */
+    void addLocation(const QString &name)
+    {
+        goToEditPage();
+        LogbookWindow::click(ui().pb_choose_addlocation);
+        LogbookWindow::type(ui().ledt_location_new, name);
+        LogbookWindow::click(ui().pb_add_location);
+    }
+    void goToEditPage()
+    {
+        for (int clicks = 0; gui().currentPage != Page::Overview && clicks < 2; ++clicks)
+            LogbookWindow::click(ui().pb_options);
+        LogbookWindow::click(ui().pb_options);
+        LogbookWindow::click(ui().pb_edit_data);
+    }
+    void chooseModel(const QString &name) { LogbookWindow::choose(ui().cb_select_model, name); }
+
+    /** The text of the message about a matter; empty when there is none. */
+    QString message(const QString &matter) { return messages().m_texts.value(matter); }
+    QString loss() { return message(QStringLiteral("saving")); }
+    QString others() { return message(QStringLiteral("others")); }
+
+    /** The button of a message that is on show; null when there is none. */
+    QPushButton *button(const QString &caption)
+    {
+        const auto buttons = messages().findChildren<QPushButton *>();
+        for (QPushButton *button : buttons) {
+            if (button->isVisible() && button->text() == caption)
+                return button;
+        }
+        return nullptr;
+    }
+    void press(const QString &caption)
+    {
+        QPushButton *found = button(caption);
+        QVERIFY2(found, qPrintable(caption));
+        LogbookWindow::click(found);
+    }
+
+    ScriptedQuestions questions;
+    QStringList told; ///< the messages that were shown, all of them
+
+private:
+    QTemporaryDir m_place;
+
+public:
+    std::shared_ptr<void> underneath; ///< what the folder lies on; outlives the window
+
+private:
+    std::unique_ptr<Host::MainWindow> m_window;
+};

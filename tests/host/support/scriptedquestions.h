@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/window/questions.h"
+
+#include <QAbstractItemModel>
+#include <QList>
+#include <QTest>
+
+/**
+ * A user whose answers are known beforehand, in the order of the questions. A question that nobody expected
+ * fails the test.
+ */
+class ScriptedQuestions final : public Host::Questions
+{
+public:
+    /** The next question is answered with the button of this caption, and with this row of its table. */
+    void answer(const QString &caption, int row = -1) { m_answers.append({caption, row}); }
+    /** The next time a folder is asked for, it is this one; empty: the user does not choose any. */
+    void choose(const QString &folder) { m_folders.append(folder); }
+
+    /** The questions that were asked. Their tables are gone: @see tables(). */
+    const QList<Host::Question> &asked() const { return m_asked; }
+    /** For each question the first column of its table. */
+    const QList<QStringList> &tables() const { return m_tables; }
+    const QStringList &told() const { return m_told; }
+    /** Whether every answer was asked for. */
+    bool isDone() const { return m_answers.isEmpty() && m_folders.isEmpty(); }
+
+    Host::Answer ask(const Host::Question &question) override
+    {
+        record(question);
+        if (m_answers.isEmpty()) {
+            fail("a question that nobody expected: " + question.text);
+            return {question.refusal, -1};
+        }
+        const Scripted scripted = m_answers.takeFirst();
+        const auto button = static_cast<int>(question.answers.indexOf(scripted.caption));
+        if (button < 0)
+            fail("\"" + question.text + "\" has no answer \"" + scripted.caption + "\"");
+        return {button < 0 ? question.refusal : button, rowFor(question, scripted.row)};
+    }
+
+    void tell(const QString &text) override { m_told.append(text); }
+
+    QString chooseFolder(const QString &caption) override
+    {
+        if (!m_folders.isEmpty())
+            return m_folders.takeFirst();
+        fail("a folder that nobody expected to be asked for: " + caption);
+        return QString();
+    }
+
+private:
+    struct Scripted
+    {
+        QString caption;
+        int row;
+    };
+
+    static int rowFor(const Host::Question &question, int row)
+    {
+        if (!question.choices)
+            return -1;
+        return row < 0 ? question.chosen : row;
+    }
+
+    void record(const Host::Question &question)
+    {
+        QStringList table;
+        for (int row = 0; question.choices && row < question.choices->rowCount(); ++row)
+            table.append(question.choices->index(row, 0).data().toString());
+        m_tables.append(table);
+        m_asked.append(question);
+        m_asked.last().choices = nullptr;
+    }
+
+    static void fail(const QString &what) { QTest::qFail(qPrintable(what), __FILE__, __LINE__); }
+
+    QList<Scripted> m_answers;
+    QStringList m_folders;
+    QList<Host::Question> m_asked;
+    QList<QStringList> m_tables;
+    QStringList m_told;
+};

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Opening a folder, closing the window, and what is in the file afterwards.
+#include "support/brokensaves.h"
+
+using namespace Qt::Literals::StringLiterals;
+
+class MainWindowTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void aFlightThatOnlyTheWindowHoldsIsSavedAtTheEnd();
+    void aWindowWithoutAnyChangeNeverTouchesTheFile_data();
+    void aWindowWithoutAnyChangeNeverTouchesTheFile();
+    void aNewFolderGetsNoFileByOpeningAndClosing();
+    void whatSomebodyElseHasWrittenIsNotOverwrittenAtTheEnd();
+    void aLastSaveThatFailsAsks();
+    void aRestoredFileIsNotRewrittenAtTheEnd();
+    void theHouseClosesTheWindow();
+    void theHouseAsksTheSameAsClosing();
+    void theTitleNamesTheFolder();
+    void theTitleOfTheDemoSaysSo();
+    void anotherFolderEndsTheMessagesAndTheCareForTheOneBefore();
+    void messagesStandAboveTheLogbook();
+
+private:
+    /** The first battery's card is saved twice with each click, and its second flight is in the window alone.
+     */
+    static void recordInTheWindowAlone(HostWindow &window);
+};
+
+void MainWindowTest::recordInTheWindowAlone(HostWindow &window)
+{
+    window.chooseModel(u"Skylark"_s);
+    window.chooseModel(u"Firebrand"_s);
+    window.clickCard(u"Pack A"_s);
+    window.settle();
+    const auto held = window.gui().modelList.constFirst()->getLogData().size();
+    QVERIFY(held > 1);
+    QCOMPARE(window.bytes().count("<LogData"), 1);
+}
+
+void MainWindowTest::aFlightThatOnlyTheWindowHoldsIsSavedAtTheEnd()
+{
+    HostWindow window;
+    recordInTheWindowAlone(window);
+    const auto held = window.gui().modelList.constFirst()->getLogData().size();
+    QVERIFY(window.window().close());
+    QCOMPARE(window.bytes().count("<LogData"), held);
+    window.close();
+    QCOMPARE(window.bytes().count("<LogData"), held);
+    QCOMPARE(window.copies().constFirst(), window.bytes());
+    QCOMPARE(window.told, QStringList());
+}
+
+void MainWindowTest::aWindowWithoutAnyChangeNeverTouchesTheFile_data()
+{
+    QTest::addColumn<QByteArray>("document");
+    QTest::newRow("spelled otherwise") << HostWindow::sample();
+    QTest::newRow("without anything") << QByteArray("<Voltbok></Voltbok>");
+    QTest::newRow("with what the window does not know") << QByteArray("<Voltbok><Kite/></Voltbok>");
+}
+
+void MainWindowTest::aWindowWithoutAnyChangeNeverTouchesTheFile()
+{
+    QFETCH(QByteArray, document);
+    HostWindow window(document);
+    const QDateTime time = QFileInfo(window.filePath()).lastModified();
+    QTest::qWait(20); // longer than a tick of the file's clock
+    window.goToEditPage();
+    QVERIFY(window.window().close());
+    window.close();
+    QCOMPARE(window.bytes(), document);
+    QCOMPARE(QFileInfo(window.filePath()).lastModified(), time);
+}
+
+void MainWindowTest::aNewFolderGetsNoFileByOpeningAndClosing()
+{
+    HostWindow window{QByteArray()};
+    QVERIFY(window.window().close());
+    window.close();
+    QVERIFY(!QFileInfo::exists(window.filePath()));
+    QCOMPARE(window.told, QStringList());
+}
+
+void MainWindowTest::whatSomebodyElseHasWrittenIsNotOverwrittenAtTheEnd()
+{
+    HostWindow window;
+    recordInTheWindowAlone(window);
+    const QByteArray theirs = Xml::file(Xml::battery("of another"));
+    window.put(theirs); // and at once:
+    QVERIFY(window.window().close());
+    window.close();
+    QCOMPARE(window.bytes(), theirs);
+    QVERIFY(window.told.constFirst().contains(u"Another program"_s));
+}
+
+void MainWindowTest::aLastSaveThatFailsAsks()
+{
+    HostWindow window;
+    recordInTheWindowAlone(window);
+    Fault fault = Faults::readOnlyFile(window);
+    window.questions.answer(u"Go Back"_s);
+    QVERIFY(!window.window().close());
+    QVERIFY(window.window().isVisible());
+    QVERIFY(window.loss().contains(u"permission denied"_s));
+    const Host::Question question = window.questions.asked().constFirst();
+    QCOMPARE(question.answers.at(question.preferred), u"Go Back"_s);
+    QCOMPARE(question.answers.at(question.refusal), u"Go Back"_s);
+    fault.reset();
+    QVERIFY(window.window().close()); // without a question
+    QVERIFY(window.questions.isDone());
+    QVERIFY(window.bytes().count("<LogData") > 1);
+}
+
+void MainWindowTest::aRestoredFileIsNotRewrittenAtTheEnd()
+{
+    HostWindow window;
+    {
+        const FullDisk disk(300);
+        QVERIFY(disk.works());
+        window.addLocation(u"Hill"_s);
+    }
+    window.press(u"Restore Last State"_s);
+    QVERIFY(window.window().close());
+    window.close();
+    QCOMPARE(window.bytes(), HostWindow::sample());
+}
+
+void MainWindowTest::theHouseClosesTheWindow()
+{
+    HostWindow window;
+    LogbookWindow::click(window.ui().pb_home);
+    QVERIFY(!window.window().isVisible());
+}
+
+void MainWindowTest::theHouseAsksTheSameAsClosing()
+{
+    HostWindow window;
+    Fault fault = Faults::readOnlyFile(window);
+    window.clickCard(u"Pack B"_s);
+    window.settle();
+    window.questions.answer(u"Go Back"_s);
+    LogbookWindow::click(window.ui().pb_home);
+    QVERIFY(window.window().isVisible());
+    window.questions.answer(u"Quit Anyway"_s);
+    LogbookWindow::click(window.ui().pb_home);
+    QVERIFY(!window.window().isVisible());
+    QVERIFY(window.questions.isDone());
+    window.close();
+    QCOMPARE(window.bytes(), HostWindow::sample());
+}
+
+void MainWindowTest::theTitleNamesTheFolder()
+{
+    HostWindow window;
+    QCOMPARE(window.window().windowTitle(), u"Voltbok - logbook"_s);
+}
+
+void MainWindowTest::theTitleOfTheDemoSaysSo()
+{
+    HostWindow window;
+    window.window().open(Host::StorageFolder::ofDemo(), std::make_shared<Host::FolderLock>());
+    QCOMPARE(window.window().windowTitle(), u"Voltbok - sample logbook"_s);
+}
+
+void MainWindowTest::anotherFolderEndsTheMessagesAndTheCareForTheOneBefore()
+{
+    HostWindow window;
+    window.put(Xml::file(Xml::battery("of another")));
+    QTRY_VERIFY(!window.others().isEmpty());
+    const QByteArray before = window.bytes();
+    const Host::StorageFolder other(window.place() + u"/other"_s);
+    auto lock = std::make_shared<Host::FolderLock>();
+    QVERIFY(QDir().mkdir(other.path()));
+    QCOMPARE(lock->take(other).problem, QString());
+    window.window().open(other, std::move(lock));
+    QCOMPARE(window.others(), QString());
+    window.addLocation(u"Hill"_s);
+    window.settle();
+    QVERIFY(HostWindow::read(other.dataFile()).contains("Hill"));
+    QCOMPARE(window.bytes(), before);
+    Host::FolderLock again;
+    QCOMPARE(again.take(Host::StorageFolder(window.path())).problem, QString());
+}
+
+void MainWindowTest::messagesStandAboveTheLogbook()
+{
+    HostWindow window;
+    window.window().tell(u"matter"_s, u"What there is to say."_s);
+    QTRY_VERIFY(window.messages().height() > 0);
+    const int bottom = window.messages().mapTo(&window.window(), QPoint(0, window.messages().height())).y();
+    QTRY_VERIFY(window.gui().mapTo(&window.window(), QPoint()).y() >= bottom);
+    QCOMPARE(window.told, QStringList(u"What there is to say."_s));
+}
+
+QTEST_MAIN(MainWindowTest)
+#include "tst_mainwindow.moc"
