@@ -73,6 +73,7 @@ CommandLine readCommandLine(const QStringList &arguments)
         return result;
     }
 
+    result.dataGiven = parser.isSet(options.data);
     result.resetDemo = parser.isSet(options.resetDemo);
     result.demo = result.resetDemo || parser.isSet(options.demo);
     result.error = contradiction(parser, options, result.demo);

@@ -13,6 +13,7 @@ struct CommandLine
     QString answer;      ///< a text to print instead of opening the window: the help or the version
     QString storagePath; ///< absolute path of the storage folder
     QString screenshot;  ///< name of the picture to draw instead of opening the window
+    bool dataGiven = false; ///< the folder was named on the command line
     bool demo = false;
     bool resetDemo = false;
 };

@@ -22,6 +22,7 @@ VersionsModel::VersionsModel(const StorageFolder &folder, QObject *parent)
                            {},
                            copy.size,
                            {}});
+    m_copies = m_versions.size();
     const QStringList asides = folder.asides();
     for (const QString &path : asides) {
         const QFileInfo file(path);
@@ -58,8 +59,12 @@ QByteArray VersionsModel::document(int row) const
 const Contents &VersionsModel::contents(int row) const
 {
     const Version &version = m_versions.at(row);
-    if (!version.contents)
-        version.contents = WholeFile::inspect(document(row));
+    if (version.contents)
+        return *version.contents;
+    const WholeFile::Reading reading =
+        version.path.isEmpty() ? WholeFile::Reading{version.document, {}} : WholeFile::read(version.path);
+    version.isReadable = reading.problem.isEmpty();
+    version.contents = version.isReadable ? WholeFile::inspect(reading.bytes) : Contents{reading.problem};
     return *version.contents;
 }
 
@@ -84,23 +89,34 @@ QVariant VersionsModel::data(const QModelIndex &index, int role) const
     return QVariant();
 }
 
-QString VersionsModel::text(int row, int column) const
+QString VersionsModel::title(int row) const
 {
     const Version &version = m_versions.at(row);
+    if (contents(row).problem.isEmpty())
+        return version.title;
+    return version.isReadable ? tr("%1 (damaged)").arg(version.title)
+                              : tr("%1 (cannot be read)").arg(version.title);
+}
+
+QString VersionsModel::text(int row, int column) const
+{
     const QLocale locale;
+    if (column == Title)
+        return title(row);
+    if (column == Size)
+        return locale.formattedDataSize(m_versions.at(row).size, 1, QLocale::DataSizeSIFormat);
+    const Contents &held = contents(row);
+    if (!held.problem.isEmpty())
+        return QString(); // what was counted up to the damage is no figure
     switch (column) {
-    case Title:
-        return contents(row).problem.isEmpty() ? version.title : tr("%1 (damaged)").arg(version.title);
-    case Size:
-        return locale.formattedDataSize(version.size, 1, QLocale::DataSizeSIFormat);
     case Batteries:
-        return locale.toString(contents(row).batteries);
+        return locale.toString(held.batteries);
     case Models:
-        return locale.toString(contents(row).models);
+        return locale.toString(held.models);
     case Flights:
-        return locale.toString(contents(row).flights);
+        return locale.toString(held.flights);
     case Discharges:
-        return locale.toString(contents(row).discharges);
+        return locale.toString(held.discharges);
     default:
         return QString();
     }
