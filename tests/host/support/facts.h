@@ -62,7 +62,7 @@ private:
         return value;
     }
 
-    void add(const QString &fact) { ++m_facts[fact]; }
+    void add(const QString &fact) { ++m_facts[m_record + fact]; }
 
     void addValue(const QString &path, const QString &field, const QString &value)
     {
@@ -74,7 +74,9 @@ private:
     {
         QString text;
         for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling()) {
-            if (child.isElement())
+            if (child.isElement() && path == QStringLiteral("/Voltbok"))
+                addRecord(child.toElement(), path + u'/' + child.nodeName());
+            else if (child.isElement())
                 addElement(child.toElement(), path + u'/' + child.nodeName());
             else if (child.isComment() || (child.isProcessingInstruction() && !path.isEmpty()))
                 add(path + QStringLiteral("/remark"));
@@ -82,6 +84,17 @@ private:
                 text += child.nodeValue();
         }
         addValue(path, path.section(u'/', -1), text);
+    }
+
+    /** Says with every statement which battery or model it is about. */
+    void addRecord(const QDomElement &element, const QString &path)
+    {
+        for (const auto &kind : {QStringLiteral("Battery"), QStringLiteral("Model")}) {
+            if (element.nodeName().contains(kind))
+                m_record = kind + QString::number(++m_records[kind]);
+        }
+        addElement(element, path);
+        m_record.clear();
     }
 
     void addElement(const QDomElement &element, const QString &path)
@@ -98,4 +111,6 @@ private:
     }
 
     QMap<QString, int> m_facts;
+    QMap<QString, int> m_records;
+    QString m_record;
 };
