@@ -8,7 +8,12 @@ target_compile_definitions(voltbok_compiler_settings INTERFACE
     QT_RESTRICTED_CAST_FROM_ASCII
     QT_NO_URL_CAST_FROM_STRING
     QT_NO_KEYWORDS
-    QT_NO_FOREACH)
+    QT_NO_FOREACH
+    # What was deprecated up to the oldest Qt that is supported is gone, and a newer one keeps quiet about what it
+    # deprecates later. The newer Qt calls these two QT_DISABLE_DEPRECATED_UP_TO and QT_WARN_DEPRECATED_UP_TO, and takes
+    # the old names, too.
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400
+    QT_DEPRECATED_WARNINGS_SINCE=0x060400)
 
 if(MSVC)
     target_compile_options(voltbok_compiler_settings INTERFACE /W4 /utf-8)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "roundtrip.h"
 
+#include "plaindocument.h"
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
 #include "storage/dataprocessor.h"
@@ -10,6 +11,7 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -42,6 +44,27 @@ public:
         return count;
     }
 
+    /** As those of a plain document with the same content. */
+    QStringList lines() const
+    {
+        QStringList lines;
+        for (const QString &location : locations)
+            lines += Line::location(location);
+        for (BatteryWidget *battery : batteries) {
+            lines += Line::battery(battery->getBatteryName());
+            for (qsizetype i = 0; i < battery->getDates().size(); ++i)
+                lines += Line::discharge(battery->getDischarges().at(i), battery->getCurrents().at(i));
+        }
+        for (ModelWidget *model : models) {
+            lines += Line::model(model->getModelName());
+            for (const QString &battery : std::as_const(model->getBatteries()))
+                lines += Line::assigned(battery);
+            for (const LogData &flight : std::as_const(model->getLogData()))
+                lines += Line::flight(flight.location, flight.notes);
+        }
+        return lines;
+    }
+
     bool historiesAreParallel() const
     {
         return std::all_of(batteries.cbegin(), batteries.cend(), [](BatteryWidget *battery) {
@@ -65,6 +88,17 @@ QByteArray savedBytes(DataProcessor &processor, Catalogue &catalogue, const QStr
     processor.addData(catalogue.batteries, catalogue.models, catalogue.locations);
     QFile file(pathIn(folder));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/** The first line in which the two, which are not equal, differ. */
+QString difference(const QStringList &document, const QStringList &loaded)
+{
+    for (qsizetype i = 0; i < qMin(document.size(), loaded.size()) + 1; ++i) {
+        if (document.value(i) != loaded.value(i))
+            return QStringLiteral("\"%1\" stands there, \"%2\" was loaded")
+                .arg(document.value(i), loaded.value(i));
+    }
+    return QStringLiteral("lines are missing");
 }
 
 /** The error of a document, empty when it is well-formed. */
@@ -96,11 +130,18 @@ QString roundTripFault(const QByteArray &bytes, const QString &folder)
     if (loaded.entries() > bytes.size())
         return QStringLiteral("there are more entries than bytes");
 
+    const QStringList lines = loaded.lines();
+    if (const auto plain = linesOfPlainDocument(bytes); plain && *plain != lines)
+        return QStringLiteral("not all is loaded: ") + difference(*plain, lines);
+
     const QByteArray saved = savedBytes(processor, loaded, folder);
     if (saved.size() > MostSavedForAByte * (bytes.size() + 1))
         return QStringLiteral("the saved file is out of all proportion");
     if (const QString error = xmlError(saved); !error.isEmpty())
         return QStringLiteral("the saved file is not well-formed: ") + error;
+
+    if (const auto plain = linesOfPlainDocument(saved); !plain || *plain != lines)
+        return QStringLiteral("not all is saved: ") + difference(plain.value_or(QStringList()), lines);
 
     Catalogue reloaded(processor);
     if (reloaded.locations != loaded.locations || reloaded.batteries.size() != loaded.batteries.size() ||

@@ -3,6 +3,7 @@
 #include "gui/formats.h"
 #include "gui/recordlookup.h"
 #include "gui/voltbokgui.h"
+#include "records/shorttext.h"
 #include "ui_voltbokgui.h"
 
 void VoltbokGui::on_cb_logview_model_currentIndexChanged(int index)
@@ -56,7 +57,7 @@ void VoltbokGui::showFlight(const LogData &flight)
     ui->lbl_logview_time->setText(flight.date.time().toString(Qt::TextDate));
     ui->lbl_logview_date->setText(flight.date.date().toString(Qt::TextDate));
     ui->lbl_logview_temp->setText(Formats::temperature(flight.temperature));
-    ui->lbl_logview_location->setText(flight.location);
+    ui->lbl_logview_location->setText(shortText(flight.location));
     ui->lbl_logview_duration->setText(flight.duration.toString(Qt::TextDate));
     ui->ptext_logview_notes->setPlainText(flight.notes);
 }
@@ -71,7 +72,7 @@ void VoltbokGui::showFlownBatteries(LogData &flight, OtherBatteries others)
         if (battery->getEvent(flight.date, discharged, current)) {
             ui->lbl_logview_capacity->setText(QString::number(discharged));
             ui->lbl_logview_current->setText(Formats::current(current));
-            ui->lbl_logview_battname->setText(battery->getBatteryName());
+            ui->lbl_logview_battname->setText(shortText(battery->getBatteryName()));
         } else if (others == OtherBatteries::Clear) {
             ui->lbl_logview_capacity->clear();
             ui->lbl_logview_current->clear();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/app/commandline.h"
 #include "host/app/console.h"
+#include "host/app/display.h"
+#include "host/app/endsignals.h"
 #include "host/app/startup.h"
 #include "host/safety/storagefolder.h"
 #include "host/window/questions.h"
@@ -9,6 +11,7 @@
 
 #include <cstdlib>
 #include <memory>
+#include <optional>
 
 using namespace Host;
 using namespace Qt::Literals::StringLiterals;
@@ -20,17 +23,6 @@ CommandLine readCommandLine(int &argc, char **argv)
     // An application without windows, so that help and mistakes need no display.
     const QCoreApplication application(argc, argv);
     return Host::readCommandLine(QCoreApplication::arguments());
-}
-
-/** Why no window can be opened; empty where one can, as far as this can be known beforehand. */
-QString displayProblem()
-{
-#ifdef Q_OS_LINUX
-    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
-        qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        return u"there is no display; --screenshot FILE draws the window without one"_s;
-#endif
-    return QString();
 }
 
 /** Boxes, where somebody can see them. */
@@ -46,31 +38,30 @@ std::unique_ptr<Questions> whoAnswers(const CommandLine &commandLine)
 
 int main(int argc, char *argv[])
 {
+    Console::prepare();
     QCoreApplication::setApplicationName(u"Voltbok"_s);
-    QCoreApplication::setApplicationVersion(u"" VOLTBOK_VERSION ""_s);
+    QCoreApplication::setApplicationVersion(QStringLiteral(VOLTBOK_VERSION));
 
     const CommandLine commandLine = readCommandLine(argc, argv);
     if (!commandLine.error.isEmpty()) {
         Console::complain(commandLine.error);
-        return EXIT_FAILURE;
+        return commandLine.status;
     }
-    if (!commandLine.answer.isEmpty()) {
-        Console::print(commandLine.answer);
-        return EXIT_SUCCESS;
-    }
-
-    QString problem = StorageFolder(commandLine.storagePath).problem();
-    if (problem.isEmpty() && commandLine.screenshot.isEmpty())
-        problem = displayProblem();
-    if (!problem.isEmpty()) {
-        Console::complain(problem);
-        return EXIT_FAILURE;
-    }
+    if (!commandLine.answer.isEmpty())
+        return Console::print(commandLine.answer) ? EXIT_SUCCESS : EXIT_FAILURE;
 
     if (!commandLine.screenshot.isEmpty())
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QString problem = StorageFolder(commandLine.storagePath).problem();
+    if (!problem.isEmpty() && isWithoutDisplay()) { // what is said about a display would hide it
+        Console::complain(problem);
+        return EXIT_FAILURE;
+    }
     QGuiApplication::setDesktopFileName(u"voltbok"_s);
+    std::optional<DisplayGuard> guard(std::in_place);
     const QApplication application(argc, argv);
+    guard.reset();
+    endOnSignals();
     const std::unique_ptr<Questions> questions = whoAnswers(commandLine);
     return start(commandLine, *questions);
 }

@@ -5,6 +5,7 @@
 
 build_packages=(g++ cmake ninja-build qt6-base-dev libqt6opengl6-dev qt6-charts-dev)
 test_packages=(qt6-tools-dev qt6-l10n-tools)
+test_preset=${VOLTBOK_PRESET-dev} # CI asks for "ci", in which warnings are errors
 
 say() { printf '%s\n' "$*" >&2; }
 
@@ -36,7 +37,7 @@ install_packages() {
 }
 
 name_packages() {
-    say "Voltbok needs a C++17 compiler, CMake 3.21 and Qt 6.4 with Charts (for the tests: Linguist tools too). Try:"
+    say "Voltbok needs a C++17 compiler, CMake 3.21, Ninja and Qt 6.4 with Charts (for the tests, Linguist too). Try:"
     say "  Fedora:        dnf install gcc-c++ cmake ninja-build qt6-qtbase-devel qt6-qtcharts-devel qt6-qttools-devel"
     say "  Arch:          pacman -S --needed base-devel cmake ninja qt6-base qt6-charts qt6-tools"
     say "  openSUSE:      zypper install gcc-c++ cmake ninja qt6-base-devel qt6-charts-devel qt6-tools-devel"
@@ -47,18 +48,19 @@ name_packages() {
 prepare() {
     if is_debian_like; then
         install_packages "$@"
-    elif ! command -v cmake >/dev/null || ! command -v c++ >/dev/null; then
+    elif ! command -v cmake >/dev/null || ! command -v ninja >/dev/null || ! command -v c++ >/dev/null; then
         name_packages
         return 1
     fi
 }
 
-# build PRESET: configures once and builds. A build directory keeps the generator that it was configured with.
+# build PRESET: configures where that has not been done since the presets were changed, and builds. What another
+# generator left in the build directory, or an attempt that failed, is configured afresh.
 build() {
-    local dir="build/$1" generator=()
-    if [[ ! -f $dir/build.ninja && ! -f $dir/Makefile ]]; then
-        [[ ! -f $dir/CMakeCache.txt ]] && command -v ninja >/dev/null && generator=(-G Ninja)
-        if ! cmake --preset "$1" ${generator[@]+"${generator[@]}"} >&2; then
+    local dir="build/$1"
+    if [[ ! $dir/build.ninja -nt CMakePresets.json ]]; then
+        [[ -f $dir/build.ninja ]] || rm -rf "$dir/CMakeCache.txt" "$dir/CMakeFiles"
+        if ! cmake --preset "$1" >&2; then
             is_debian_like || name_packages
             return 1
         fi

@@ -2,6 +2,7 @@
 #include "records/batterywidget.h"
 
 #include "records/cardtext.h"
+#include "records/shorttext.h"
 #include "ui_batterywidget.h"
 
 #include <QEvent>
@@ -71,7 +72,7 @@ BatteryWidget::~BatteryWidget() = default;
 void BatteryWidget::setBatteryName(QString &name)
 {
     d->name = name;
-    d->ui.lbl_name->setText(name);
+    d->ui.lbl_name->setText(shortText(name));
 }
 
 QString BatteryWidget::getBatteryName() const

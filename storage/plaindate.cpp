@@ -31,6 +31,21 @@ QChar *put(QChar *to, int number, qsizetype count)
     return to + count;
 }
 
+/**
+ * The local time, in standard time where the clocks show it twice.
+ *
+ * The newer Qt asks the system about summer time unless it is told to prefer standard time, and where there
+ * is no summer time the system searches its whole past for one: some hundred times as long as all the rest.
+ */
+QDateTime localTime(QDate date, QTime time)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+    return QDateTime(date, time, QDateTime::TransitionResolution::PreferStandard);
+#else
+    return QDateTime(date, time);
+#endif
+}
+
 QChar *put(QChar *to, QTime time)
 {
     to = put(put(to, time.hour(), 2), u":");
@@ -107,7 +122,7 @@ std::optional<QDateTime> PlainDate::toDateTime(QStringView text)
     const std::optional<QTime> time = toTime(clock);
     if (!date.isValid() || !time)
         return std::nullopt;
-    return QDateTime(date, *time);
+    return localTime(date, *time);
 }
 
 std::optional<QString> PlainDate::fromTime(QTime time)

@@ -119,7 +119,7 @@ void DataProcessor::readLocations(QList<QString> &locations)
     readEntries(reader, Key::Locations, Key::Location, [&](const QXmlStreamAttributes &attributes) {
         for (const QXmlStreamAttribute &attribute : attributes) {
             if (contains(attribute.name(), Key::Name))
-                locations.append(attribute.value().toString());
+                locations.append(toText(attribute.value()));
         }
     });
 }
@@ -237,13 +237,13 @@ void DataProcessor::readFlightData(ModelWidget *model)
             if (contains(attribute.name(), Key::Date))
                 date = attribute.value();
             if (contains(attribute.name(), Key::Location))
-                flight.location = attribute.value().toString();
+                flight.location = toText(attribute.value());
             if (contains(attribute.name(), Key::Duration))
                 flight.duration = toTime(attribute.value());
             if (contains(attribute.name(), Key::Temperature))
                 flight.temperature = toSigned(attribute.value());
             if (contains(attribute.name(), Key::Notes))
-                flight.notes = attribute.value().toString();
+                flight.notes = toText(attribute.value());
         }
         moments.append(date);
         model->addLogData(flight);

@@ -91,6 +91,11 @@ QTime TextEncoding::toTime(QStringView text)
     return plain ? *plain : QTime::fromString(text, Qt::TextDate);
 }
 
+QString TextEncoding::toText(QStringView value)
+{
+    return value.toString().remove(QChar::Null);
+}
+
 QString TextEncoding::xmlText(const QString &text)
 {
     qsizetype index = 0;

@@ -39,6 +39,12 @@ QDateTime toDateTime(QStringView text);
 QString fromTime(QTime time);
 QTime toTime(QStringView text);
 
+/**
+ * The text of an attribute, without null characters: in the name of an undeclared entity the reader lets them
+ * through, there and nowhere else, and no file could hold what was loaded.
+ */
+QString toText(QStringView value);
+
 /** The text without the characters that no XML 1.0 document can hold, not even escaped. */
 QString xmlText(const QString &text);
 

@@ -17,6 +17,7 @@ private Q_SLOTS:
     void whatStandsBeforeTheFaultIsRead();
     void whatWasReadFromABrokenFileIsSavedWhole_data();
     void whatWasReadFromABrokenFileIsSavedWhole();
+    void nullCharactersAreInNoTextThatIsRead();
     void aFileWithAnyByteChangedIsReadToAnEnd();
     void deepAndWideFilesAreReadToAnEnd_data();
     void deepAndWideFilesAreReadToAnEnd();
@@ -169,10 +170,38 @@ void BrokenFileTest::whatWasReadFromABrokenFileIsSavedWhole()
     catalogue.save(directory.path());
     const QByteArray first = contents(dataFile(directory.path()));
     catalogue.load(directory.path());
+    QTEST(QStringList(catalogue.locations), "locations");
     QTEST(catalogue.batterySummary(), "batteries");
     QTEST(catalogue.modelSummary(), "models");
     catalogue.save(directory.path());
     QCOMPARE(contents(dataFile(directory.path())), first);
+}
+
+void BrokenFileTest::nullCharactersAreInNoTextThatIsRead()
+{
+    // The reader takes a null character for a part of a name, that of an entity which may be declared
+    // elsewhere, too.
+    QByteArray bytes =
+        R"(<!DOCTYPE Voltbok SYSTEM "x"><Voltbok><Locations><Location Name="A&b^c;"/></Locations>
+        <Battery><Name>A&b^c;</Name></Battery>
+        <Model><Name>M&b^c;</Name><Type>T&b^c;</Type><Notes>N&b^c;</Notes><Battery>A&b^c;</Battery>
+        <FlightLog><LogData Location="L&b^c;" Notes="N&b^c;"/></FlightLog></Model></Voltbok>)";
+    QTemporaryDir directory;
+    QVERIFY(writeFile(dataFile(directory.path()), bytes.replace('^', '\0')));
+    RecordLists catalogue;
+    for (const char *reading : {"what was found", "what was saved"}) {
+        catalogue.load(directory.path());
+        QVERIFY2(catalogue.locations == QStringList(QStringLiteral("A&bc;")), reading);
+        QCOMPARE(catalogue.batterySummary(), QStringList(QStringLiteral("A 0 0")));
+        QCOMPARE(catalogue.models.size(), 1);
+        ModelWidget &model = *catalogue.models.constFirst();
+        QCOMPARE(model.getModelName() + model.getModelType() + model.getAdditionalNotes(),
+                 QStringLiteral("MTN"));
+        QCOMPARE(model.getBatteries(), QStringList(QStringLiteral("A")));
+        QCOMPARE(model.getLogData().constFirst().location, QStringLiteral("L&bc;"));
+        QCOMPARE(model.getLogData().constFirst().notes, QStringLiteral("N&bc;"));
+        catalogue.save(directory.path());
+    }
 }
 
 void BrokenFileTest::aFileWithAnyByteChangedIsReadToAnEnd()

@@ -9,8 +9,9 @@ namespace Host {
 /** What the user asks for on the command line. */
 struct CommandLine
 {
-    QString error;       ///< one line that says what is wrong; everything else is then meaningless
+    QString error;       ///< one line that says what is wrong; everything else but status is then meaningless
     QString answer;      ///< a text to print instead of opening the window: the help or the version
+    int status = 0;      ///< the program's exit status where it has nothing to do but to print one of these
     QString storagePath; ///< absolute path of the storage folder
     QString screenshot;  ///< name of the picture to draw instead of opening the window
     bool dataGiven = false; ///< the folder was named on the command line
@@ -18,8 +19,8 @@ struct CommandLine
     bool resetDemo = false;
 };
 
-/** Reads the arguments, the program's name first. Needs an application object, which may be one without
- * windows. */
+/** Reads the arguments, the program's name first; Qt's own options are left to Qt. Needs an application
+ * object, which may be one without windows. */
 CommandLine readCommandLine(const QStringList &arguments);
 
 } // namespace Host

@@ -8,6 +8,7 @@
 #include "host/demo/demo.h"
 #include "host/safety/backups.h"
 #include "host/safety/folderlock.h"
+#include "host/safety/instanceserver.h"
 #include "host/safety/recovery.h"
 #include "host/safety/wholefile.h"
 #include "host/window/mainwindow.h"
@@ -134,7 +135,7 @@ Startup::Status Startup::takeFolder()
 /** Somebody else has the folder. */
 Startup::Status Startup::takeOver(const FolderLock::Refusal &refusal)
 {
-    if (false)
+    if (refusal.isOpenHere && m_commandLine.screenshot.isEmpty() && InstanceServer::raiseFirst(m_folder))
         return EXIT_SUCCESS;
     if (!refusal.mayTakeOver)
         return refuse(refusal.problem);
@@ -245,6 +246,8 @@ int Startup::openWindow(const FileState &state)
         window.tell(u"new"_s,
                     tr(QT_TRANSLATE_NOOP("Startup", "A new logbook begins in “%1”: there was none."))
                         .arg(m_folder.path()));
+    const InstanceServer server(m_folder);
+    QObject::connect(&server, &InstanceServer::raiseRequested, &window, &MainWindow::raiseAndActivate);
     window.show();
     return QApplication::exec();
 }

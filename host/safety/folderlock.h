@@ -3,13 +3,18 @@
 
 #include "host/safety/storagefolder.h"
 
+#include <QByteArray>
+#include <QCoreApplication>
 #include <QLockFile>
 #include <QString>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace Host {
+
+struct LockFile;
 
 /**
  * Keeps a second instance away from a storage folder, for as long as it lives.
@@ -20,10 +25,12 @@ namespace Host {
  */
 class FolderLock final
 {
+    Q_DECLARE_TR_FUNCTIONS(FolderLock)
     Q_DISABLE_COPY_MOVE(FolderLock)
 
 public:
     FolderLock() = default;
+    ~FolderLock();
 
     struct Refusal
     {
@@ -32,14 +39,26 @@ public:
         bool mayTakeOver = false; ///< a lock of another machine or user, which breakAndTake() can end
     };
 
-    /** Makes the folder if need be, and takes the locks. */
+    /** Makes the folder if need be, and takes the locks. It answers at once, or in two seconds where others
+     * start at the same moment. What is ours already stays so. */
     Refusal take(const StorageFolder &folder);
 
-    /** Takes the locks although another machine or user seems to have one; the user was told whose it is. */
+    /** Takes the locks although another machine or user seems to have one; the user was told whose it is. A
+     * lock that somebody has put there since take() was refused is refused again. */
     Refusal breakAndTake(const StorageFolder &folder);
 
 private:
+    enum class Strangers { Respect, Break };
+
+    Refusal takeAll(const StorageFolder &folder, Strangers strangers);
+    /** @param logbook what the lock stands for, as it is called in the refusal */
+    Refusal takeOne(const QString &path, const QString &logbook, Strangers strangers);
+    bool mayRemove(const LockFile &found, Strangers strangers) const;
+    static Refusal refusal(const LockFile &found, const QString &path, const QString &logbook);
+    void release();
+
     std::vector<std::unique_ptr<QLockFile>> m_locks;
+    std::optional<QByteArray> m_refused; ///< content of the lock that the user was told of
 };
 
 } // namespace Host

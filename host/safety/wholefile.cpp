@@ -50,9 +50,21 @@ QString kindProblem(const QFileInfo &file)
 /** Grants no more than these permissions; a disk without permissions may refuse to change those that it
  * shows.
  */
-bool restrict(QSaveFile &file, QFile::Permissions permissions)
+bool restrict(QFileDevice &file, QFile::Permissions permissions)
 {
     return file.setPermissions(permissions) || !(file.permissions() & Classes & ~permissions);
+}
+
+/** Writes everything. A disk that takes only a part says why when it is given the rest. */
+bool writeAll(QFileDevice &file, const QByteArray &bytes)
+{
+    for (qint64 done = 0; done < bytes.size();) {
+        const qint64 taken = file.write(bytes.constData() + done, bytes.size() - done);
+        if (taken <= 0)
+            return false;
+        done += taken;
+    }
+    return file.flush() || file.flush();
 }
 
 QString synced(QFileDevice &file)
@@ -94,7 +106,7 @@ QString WholeFile::write(const QString &path, const QByteArray &bytes,
 {
     QSaveFile file(path);
     if (!file.open(QFile::WriteOnly) || (permissions && !restrict(file, *permissions)) ||
-        file.write(bytes) != bytes.size() || !file.flush()) // commit() would forget the reason
+        !writeAll(file, bytes)) // before commit(), which would forget the reason
         return clause(file.errorString());
     QString problem = synced(file);
     if (!problem.isEmpty())

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/safety/recovery.h"
 #include "host/safety/wholefile.h"
-#include "tests/brokendisk.h"
+#include "tests/host/logbookfiles.h"
 #include "tests/host/support/logbookfolder.h"
 
 #include <QElapsedTimer>
 #include <QTest>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -136,7 +137,7 @@ void ExamineTest::nothingBesideCopiesThatCannotBeListedIsUnreadable()
 {
     m_log->copy(LogbookFolder::document("a"));
     QFile::setPermissions(m_log->root(), QFile::Permissions(0x7777));
-    const Permissions closed(m_log->file(u"backups"_s), {});
+    const Refusal closed(m_log->file(u"backups"_s), 0);
     QVERIFY(closed.works());
     QCOMPARE(state().kind, FileState::Unreadable);
     QCOMPARE(state().problem, u"it is missing, and the folder of its copies cannot be read"_s);
@@ -220,7 +221,7 @@ void ExamineTest::aFileWithoutPermissionIsUnreadable()
 {
     m_log->save(LogbookFolder::document("a"));
     QFile::setPermissions(m_log->root(), QFile::Permissions(0x7777));
-    const Permissions closed(m_log->dataFile(), {});
+    const Refusal closed(m_log->dataFile(), 0);
     QVERIFY(closed.works());
     QCOMPARE(state().kind, FileState::Unreadable);
     QCOMPARE(state().problem, u"permission denied"_s);
@@ -230,7 +231,7 @@ void ExamineTest::aFileInAClosedFolderIsUnreadable()
 {
     m_log->save(LogbookFolder::document("a"));
     QFile::setPermissions(m_log->root(), QFile::Permissions(0x7777));
-    const Permissions closed(m_log->path(), {});
+    const Refusal closed(m_log->path(), 0);
     QVERIFY(closed.works());
     QCOMPARE(state().kind, FileState::Unreadable);
     QCOMPARE(state().problem, u"permission denied"_s);

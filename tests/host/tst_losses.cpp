@@ -2,6 +2,7 @@
 #include "host/data/cataloguefile.h"
 #include "host/data/losses.h"
 #include "host/safety/wholefile.h"
+#include "tests/host/logbookfiles.h"
 #include "tests/host/support/facts.h"
 #include "tests/host/support/files.h"
 #include "tests/host/support/mutations.h"
@@ -10,8 +11,6 @@
 #include <QRegularExpression>
 #include <QStringEncoder>
 #include <QTest>
-
-#include <ctime>
 
 using namespace Host;
 using namespace Qt::Literals::StringLiterals;
@@ -58,28 +57,6 @@ QStringList lossesOf(const QByteArray &document)
     const CatalogueFile::Saved saved = CatalogueFile::loadAndSave(document);
     return saved.problem.isEmpty() ? losses(document, saved.document) : QStringList{saved.problem};
 }
-
-/** While it lives, the process is in another time zone. */
-class Zone
-{
-    Q_DISABLE_COPY_MOVE(Zone)
-
-public:
-    explicit Zone(const QByteArray &name)
-        : m_before(qgetenv("TZ"))
-    {
-        set(name);
-    }
-    ~Zone() { set(m_before); }
-
-private:
-    static void set(const QByteArray &name)
-    {
-        qputenv("TZ", name);
-        tzset();
-    }
-    QByteArray m_before;
-};
 
 } // namespace
 
