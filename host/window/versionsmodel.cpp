@@ -80,6 +80,8 @@ int VersionsModel::columnCount(const QModelIndex &parent) const
 
 QVariant VersionsModel::data(const QModelIndex &index, int role) const
 {
+    if (!index.isValid())
+        return QVariant();
     if (role == Qt::DisplayRole)
         return text(index.row(), index.column());
     if (role == Qt::TextAlignmentRole && index.column() != Title)
@@ -124,7 +126,7 @@ QString VersionsModel::text(int row, int column) const
 
 QVariant VersionsModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= Count)
         return QVariant();
     const QString titles[] = {tr("Version"), tr("Size"),    tr("Batteries"),
                               tr("Models"),  tr("Flights"), tr("Discharges")};
@@ -133,6 +135,8 @@ QVariant VersionsModel::headerData(int section, Qt::Orientation orientation, int
 
 Qt::ItemFlags VersionsModel::flags(const QModelIndex &index) const
 {
+    if (!index.isValid()) // a view asks for what is between the rows, too
+        return Qt::NoItemFlags;
     return contents(index.row()).problem.isEmpty() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable
                                                    : Qt::NoItemFlags;
 }
