@@ -3,19 +3,25 @@
 
 #include "host/app/commandline.h"
 #include "host/app/console.h"
+#include "host/data/cataloguefile.h"
 #include "host/data/losses.h"
 #include "host/demo/demo.h"
 #include "host/safety/backups.h"
 #include "host/safety/folderlock.h"
 #include "host/safety/instanceserver.h"
 #include "host/safety/recovery.h"
+#include "host/safety/wholefile.h"
 #include "host/window/mainwindow.h"
 #include "host/window/questions.h"
 #include "host/window/recoveryquestion.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
 #include <QImageWriter>
 #include <QPixmap>
+#include <QTemporaryDir>
 
 #include <cstdlib>
 #include <memory>
@@ -41,6 +47,13 @@ QString firstFew(const QStringList &losses)
                      : tr(QT_TRANSLATE_NOOP("Startup", "%1 and %2 more")).arg(first, QString::number(more));
 }
 
+/** Whether a file is there that is no picture, such as the logbook itself. */
+bool isOtherFile(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.isFile() && file.size() > 0 && !QImageReader(path, "png").canRead();
+}
+
 /** The way into the logbook. A step that ends it gives the program's exit status. */
 class Startup
 {
@@ -63,35 +76,36 @@ private:
     Status recover(const FileState &state);
     QString describe(const FileState &state) const;
     int draw();
-    int openWindow();
-    QString keepWhatWouldBeLost(MainWindow &window, const FileState &state);
+    int draw(const StorageFolder &folder);
+    int drawSample();
+    int openWindow(const FileState &state);
+    QString keepWhatWouldBeLost(const FileState &state);
 
     const CommandLine &m_commandLine;
     Questions &m_questions;
     StorageFolder m_folder;
     std::shared_ptr<FolderLock> m_lock = std::make_shared<FolderLock>();
+    QString m_lossesMessage; ///< what the next save will drop; empty when that is nothing
 };
 
 int Startup::run()
 {
-    const QString problem = m_folder.problem();
-    if (!problem.isEmpty())
-        return refuse(problem);
     const bool drawsOnly = !m_commandLine.screenshot.isEmpty();
-    if (!drawsOnly || m_commandLine.demo) { // to draw a logbook it is only read: no lock, and nothing is made
-        if (const Status ended = takeFolder())
-            return *ended;
-    }
+    if (drawsOnly && !m_commandLine.resetDemo)
+        return draw(); // a logbook that is drawn is only read: no lock, and nothing is made
+    if (const Status ended = takeFolder())
+        return *ended;
     if (drawsOnly)
         return draw();
-    const FileState state = Recovery::examine(m_folder);
-    if (state.kind == FileState::Unreadable)
-        return refuse(describe(state));
+    FileState state = Recovery::examine(m_folder);
     if (state.kind == FileState::Missing || state.kind == FileState::Damaged) {
         if (const Status ended = recover(state))
             return *ended;
+        state = Recovery::examine(m_folder);
     }
-    return openWindow();
+    if (state.kind != FileState::Whole && state.kind != FileState::New)
+        return refuse(describe(state));
+    return openWindow(state);
 }
 
 int Startup::refuse(const QString &problem)
@@ -104,6 +118,9 @@ int Startup::refuse(const QString &problem)
 /** Makes the folder ours, and ready to be looked into. */
 Startup::Status Startup::takeFolder()
 {
+    const QString problem = m_folder.problem();
+    if (!problem.isEmpty())
+        return refuse(problem);
     const FolderLock::Refusal refusal = m_lock->take(m_folder);
     if (!refusal.problem.isEmpty()) {
         if (const Status ended = takeOver(refusal))
@@ -138,12 +155,12 @@ QString Startup::describe(const FileState &state) const
     switch (state.kind) {
     case FileState::Missing:
         return tr(QT_TRANSLATE_NOOP("Startup",
-                                    "The logbook file “%1” is missing, but copies of it are there. "
-                                    "Nothing was changed. Restore one of the copies."))
+                                    "The logbook file “%1” is missing, but earlier versions of it are "
+                                    "there. Nothing was changed. Restore one of them."))
             .arg(m_folder.dataFile());
     case FileState::Damaged:
         return tr(QT_TRANSLATE_NOOP("Startup", "The logbook file “%1” is damaged: %2. Nothing was changed. "
-                                               "Restore one of its copies."))
+                                               "Restore one of its copies, or start with an empty logbook."))
             .arg(m_folder.dataFile(), state.problem);
     default:
         return tr(QT_TRANSLATE_NOOP("Startup",
@@ -160,6 +177,10 @@ Startup::Status Startup::recover(const FileState &state)
     const std::optional<QByteArray> document = askForReplacement(m_questions, m_folder, state);
     if (!document)
         return EXIT_FAILURE;
+    if (!WholeFile::isWhole(*document)) // another program has been at it since it was offered
+        return refuse(tr(QT_TRANSLATE_NOOP(
+            "Startup", "The version that you chose cannot be read any more. Nothing was changed. Start the "
+                       "program again, and choose another one.")));
     Backups::keepNewestWhole(m_folder); // a copy made before a damage is never thinned out
     QString aside;
     const QString reason = Recovery::replace(m_folder, *document, QDateTime::currentDateTimeUtc(), &aside);
@@ -174,25 +195,57 @@ Startup::Status Startup::recover(const FileState &state)
 int Startup::draw()
 {
     const FileState state = Recovery::examine(m_folder);
+    if (state.kind == FileState::New && m_commandLine.demo)
+        return drawSample();
     if (state.kind != FileState::Whole && state.kind != FileState::New)
         return refuse(describe(state));
-    QImageWriter writer(m_commandLine.screenshot, "png");
-    if (writer.write(MainWindow::picture(m_folder).toImage()))
+    return draw(m_folder);
+}
+
+/** The sample logbook before it was ever opened. */
+int Startup::drawSample()
+{
+    const QTemporaryDir scratch;
+    if (!scratch.isValid())
+        return refuse(
+            tr(QT_TRANSLATE_NOOP("Startup", "The sample logbook cannot be drawn: %1. Free some space, or see "
+                                            "that the program can write in “%2”."))
+                .arg(scratch.errorString(), QDir::tempPath()));
+    const StorageFolder folder(scratch.path());
+    const QString problem = prepareDemo(folder, false);
+    return problem.isEmpty() ? draw(folder) : refuse(problem);
+}
+
+int Startup::draw(const StorageFolder &folder)
+{
+    const QString path = m_commandLine.screenshot;
+    if (isOtherFile(path))
+        return refuse(
+            tr(QT_TRANSLATE_NOOP("Startup", "The picture “%1” was not written: there is a file of that name, "
+                                            "and it is no picture. Choose another name."))
+                .arg(path));
+    QImageWriter writer(path, "png");
+    if (writer.write(MainWindow::picture(folder).toImage()))
         return EXIT_SUCCESS;
     return refuse(
         tr(QT_TRANSLATE_NOOP("Startup", "The picture “%1” cannot be written: %2. Choose another name."))
-            .arg(m_commandLine.screenshot, writer.errorString()));
+            .arg(path, writer.errorString()));
 }
 
-int Startup::openWindow()
+int Startup::openWindow(const FileState &state)
 {
-    const FileState state = Recovery::examine(m_folder);
+    const QString problem = keepWhatWouldBeLost(state);
+    if (!problem.isEmpty())
+        return refuse(problem);
     MainWindow window(m_questions);
     QObject::connect(&window, &MainWindow::told, &Console::complain);
     window.open(m_folder, std::move(m_lock));
-    const QString problem = keepWhatWouldBeLost(window, state);
-    if (!problem.isEmpty())
-        return refuse(problem);
+    if (!m_lossesMessage.isEmpty())
+        window.tell(u"losses"_s, m_lossesMessage);
+    if (state.kind == FileState::New && m_commandLine.dataGiven)
+        window.tell(u"new"_s,
+                    tr(QT_TRANSLATE_NOOP("Startup", "A new logbook begins in “%1”: there was none."))
+                        .arg(m_folder.path()));
     const InstanceServer server(m_folder);
     QObject::connect(&server, &InstanceServer::raiseRequested, &window, &MainWindow::raiseAndActivate);
     window.show();
@@ -200,11 +253,17 @@ int Startup::openWindow()
 }
 
 /** Puts a file aside that holds more than the next save would write. @return why it could not be done. */
-QString Startup::keepWhatWouldBeLost(MainWindow &window, const FileState &state)
+QString Startup::keepWhatWouldBeLost(const FileState &state)
 {
     if (state.kind != FileState::Whole)
         return QString();
-    const QStringList lost = losses(state.bytes, window.openedAs());
+    const CatalogueFile::Saved saved = CatalogueFile::loadAndSave(state.bytes);
+    if (!saved.problem.isEmpty())
+        return tr(QT_TRANSLATE_NOOP(
+                      "Startup", "The logbook file “%1” cannot be checked before it is opened: %2. Nothing "
+                                 "was changed. Free some space, or see that the program can write in “%3”."))
+            .arg(m_folder.dataFile(), saved.problem, QDir::tempPath());
+    const QStringList lost = losses(state.bytes, saved.document);
     if (lost.isEmpty())
         return QString();
     QString aside;
@@ -217,12 +276,11 @@ QString Startup::keepWhatWouldBeLost(MainWindow &window, const FileState &state)
                       "and no copy of it can be put aside: %2. Nothing was changed. Free some space, and "
                       "start the program again."))
             .arg(m_folder.dataFile(), reason);
-    window.tell(u"losses"_s,
-                tr(QT_TRANSLATE_NOOP(
-                       "Startup",
-                       "The logbook file holds what this version of Voltbok does not understand, and drops "
-                       "when it saves: %1. The file as it is now is kept as “%2”."))
-                    .arg(firstFew(lost), aside));
+    m_lossesMessage =
+        tr(QT_TRANSLATE_NOOP("Startup",
+                             "The logbook file holds what this version of Voltbok does not understand, and "
+                             "drops when it saves: %1. The file as it is now is kept as “%2”."))
+            .arg(firstFew(lost), aside);
     return QString();
 }
 

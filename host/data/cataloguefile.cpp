@@ -5,6 +5,7 @@
 #include "records/modelwidget.h"
 #include "storage/dataprocessor.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QMetaObject>
 #include <QTemporaryDir>
@@ -14,13 +15,18 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 
+QString unwritten()
+{
+    return QCoreApplication::translate("CatalogueFile", "the disk took only a part of it");
+}
+
 /** A folder for one document that nobody else sees. */
 class Scratch
 {
 public:
     QString path() const { return m_folder.path(); }
-    bool works() const { return m_folder.isValid(); }
-    QString problem() const { return m_folder.errorString(); }
+    /** Why it cannot be used, a clause; empty when it can. */
+    QString problem() const { return m_folder.isValid() ? QString() : m_folder.errorString(); }
 
     QString put(const QByteArray &document)
     {
@@ -30,13 +36,20 @@ public:
         return written ? QString() : file.errorString();
     }
 
+    /** What was saved here. A save is silent: one that was cut off, or left no file, is found out by its end.
+     */
     CatalogueFile::Saved take()
     {
         QFile file(dataFile());
         if (!file.open(QFile::ReadOnly))
             return {{}, file.errorString()};
-        return {file.readAll(), {}};
+        const QByteArray document = file.readAll();
+        const bool isWhole = document.endsWith("</Voltbok>\n"_ba) || document.endsWith("<Voltbok/>\n"_ba);
+        return isWhole ? CatalogueFile::Saved{document, {}} : CatalogueFile::Saved{{}, unwritten()};
     }
+
+    /** Empties the folder, so that what was put there is not taken for what was saved. */
+    void clear() { QFile::remove(dataFile()); }
 
 private:
     QString dataFile() const { return m_folder.filePath(u"voltbok.xml"_s); }
@@ -44,16 +57,17 @@ private:
     QTemporaryDir m_folder;
 };
 
-void loadAndSaveIn(const QString &folder)
+void loadAndSaveIn(Scratch &scratch)
 {
     DataProcessor processor;
-    processor.setBasePath(folder);
+    processor.setBasePath(scratch.path());
     QList<QString> locations;
     QList<ModelWidget *> models;
     QList<BatteryWidget *> batteries;
     processor.getLocationsFromData(locations);
     processor.getModelWidgetsFromData(models);
     processor.getBatteryWidgetsFromData(batteries);
+    scratch.clear();
     processor.addData(batteries, models, locations);
     qDeleteAll(batteries);
     qDeleteAll(models);
@@ -64,12 +78,12 @@ void loadAndSaveIn(const QString &folder)
 CatalogueFile::Saved CatalogueFile::loadAndSave(const QByteArray &document)
 {
     Scratch scratch;
-    if (!scratch.works())
-        return {{}, scratch.problem()};
-    const QString problem = scratch.put(document);
+    QString problem = scratch.problem();
+    if (problem.isEmpty())
+        problem = scratch.put(document);
     if (!problem.isEmpty())
         return {{}, problem};
-    loadAndSaveIn(scratch.path());
+    loadAndSaveIn(scratch);
     return scratch.take();
 }
 
@@ -82,13 +96,12 @@ CatalogueFile::Saved CatalogueFile::heldBy(QObject &logbook, const QString &fold
 {
     Scratch scratch;
     auto *processor = logbook.findChild<DataProcessor *>();
-    if (!scratch.works() || !processor)
+    if (!scratch.problem().isEmpty() || !processor)
         return {{}, scratch.problem()};
     processor->setBasePath(scratch.path());
-    const bool saved =
-        QMetaObject::invokeMethod(&logbook, "writeDataWithDataprocessor", Qt::DirectConnection);
+    QMetaObject::invokeMethod(&logbook, "writeDataWithDataprocessor", Qt::DirectConnection);
     processor->setBasePath(folder);
-    return saved ? scratch.take() : Saved{{}, scratch.problem()};
+    return scratch.take();
 }
 
 } // namespace Host

@@ -19,9 +19,10 @@ QByteArray sampleLogbook()
     return sample.open(QFile::ReadOnly) ? sample.readAll() : QByteArray();
 }
 
-QString put(const StorageFolder &folder)
+/** Puts the sample in the place of what is there, which is kept. @return why it was not put there, a clause.
+ */
+QString put(const StorageFolder &folder, const FileState &state)
 {
-    const FileState state = Recovery::examine(folder);
     const QDateTime now = QDateTime::currentDateTimeUtc();
     QString aside;
     if (state.kind == FileState::Unreadable)
@@ -37,9 +38,10 @@ QString put(const StorageFolder &folder)
 
 QString prepareDemo(const StorageFolder &folder, bool reset)
 {
-    if (QFile::exists(folder.dataFile()) && !reset)
-        return QString();
-    const QString problem = put(folder);
+    const FileState state = Recovery::examine(folder);
+    if (state.kind != FileState::New && !reset)
+        return QString(); // where it is missing or damaged, its copies are offered as for any logbook
+    const QString problem = put(folder, state);
     if (problem.isEmpty())
         return QString();
     return QCoreApplication::translate(

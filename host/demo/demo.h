@@ -8,8 +8,9 @@ namespace Host {
 class StorageFolder;
 
 /**
- * Puts the sample logbook into a folder, unless there is a logbook already and @p reset is false. A logbook
- * that has to go is kept: a whole one as a copy, any other under another name.
+ * Puts the sample logbook into a folder. Without @p reset only where there is neither a logbook nor a copy of
+ * one. A logbook that has to go is kept: a whole one as a copy, a damaged one under another name; one that
+ * cannot be read stays where it is.
  *
  * @return why it could not be done, in a whole sentence; empty when it was.
  */

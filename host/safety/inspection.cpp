@@ -31,6 +31,18 @@ bool isUtf16(const QByteArray &document)
            start == QByteArray("\0<", 2);
 }
 
+/** Whether a character of the document is zero; an XML reader takes it for a part of a name. */
+bool hasZero(const QByteArray &document)
+{
+    if (!isUtf16(document))
+        return document.contains('\0');
+    for (qsizetype i = 0; i + 1 < document.size(); i += 2) {
+        if (document.at(i) == 0 && document.at(i + 1) == 0)
+            return true;
+    }
+    return false;
+}
+
 /** Counts an element that begins on this level; the root is on level 1. */
 void count(Contents &contents, QStringView name, int level)
 {
@@ -38,11 +50,11 @@ void count(Contents &contents, QStringView name, int level)
         ++contents.batteries;
     else if (level == 2 && name == u"Model")
         ++contents.models;
-    else if (name == u"Location")
+    else if (level == 3 && name == u"Location")
         ++contents.locations;
-    else if (name == u"Cycle")
+    else if (level == 4 && name == u"Cycle")
         ++contents.discharges;
-    else if (name == u"LogData")
+    else if (level == 4 && name == u"LogData")
         ++contents.flights;
 }
 
@@ -51,7 +63,7 @@ void look(Contents &contents, const QXmlStreamReader &reader, int level)
 {
     if (reader.isDTD() && reader.text().contains(u'[')) {
         contents.declaresEntities = true;
-        contents.problem = translated(QT_TRANSLATE_NOOP("WholeFile", "it declares entities of its own"));
+        contents.problem = translated(QT_TRANSLATE_NOOP("WholeFile", "it brings a document type of its own"));
     }
     if (!reader.isStartElement())
         return;
@@ -71,10 +83,6 @@ Contents WholeFile::inspect(const QByteArray &document)
         contents.problem = translated(QT_TRANSLATE_NOOP("WholeFile", "it is empty"));
         return contents;
     }
-    if (document.contains('\0') && !isUtf16(document)) {
-        contents.problem = translated(QT_TRANSLATE_NOOP("WholeFile", "it contains zero bytes"));
-        return contents;
-    }
     QXmlStreamReader reader(document);
     int level = 0;
     while (!reader.atEnd() && contents.problem.isEmpty()) {
@@ -83,6 +91,8 @@ Contents WholeFile::inspect(const QByteArray &document)
         look(contents, reader, level);
         level -= reader.isEndElement() ? 1 : 0;
     }
+    if (!contents.declaresEntities && hasZero(document)) // looked for last: entities are the graver matter
+        contents.problem = translated(QT_TRANSLATE_NOOP("WholeFile", "it contains zero bytes"));
     if (contents.problem.isEmpty() && reader.hasError())
         contents.problem =
             translated(QT_TRANSLATE_NOOP("WholeFile", "line %1 cannot be understood (%2)"))

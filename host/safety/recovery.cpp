@@ -1,19 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/safety/recovery.h"
 
+#include "host/data/cataloguefile.h"
 #include "host/safety/backups.h"
 #include "host/safety/wholefile.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <optional>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
 namespace {
 
-QString missing()
+QString translated(const char *text)
 {
-    return QCoreApplication::translate("Recovery", "it is missing");
+    return QCoreApplication::translate("Recovery", text);
 }
 
 bool isThere(const QString &path)
@@ -22,26 +29,116 @@ bool isThere(const QString &path)
     return file.exists() || file.isSymLink();
 }
 
+bool leadsNowhere(const StorageFolder &folder)
+{
+    const QFileInfo file(folder.dataFile());
+    return file.isSymLink() && !file.exists();
+}
+
+/** The file that the data file's name stands for, also where that is a link and the file has been moved
+ * aside.
+ */
+QString targetOf(const StorageFolder &folder)
+{
+    constexpr int MostLinks = 40; // as many as a system follows
+    QFileInfo file(folder.dataFileTarget());
+    for (int links = 0; file.isSymLink() && links < MostLinks; ++links)
+        file.setFile(file.symLinkTarget());
+    return file.filePath();
+}
+
+/** StorageFolder::replacement(), also where the file that it replaces has been moved aside. */
+QString replacementFor(const StorageFolder &folder)
+{
+    return QFileInfo(targetOf(folder)).dir().filePath(QFileInfo(folder.replacement()).fileName());
+}
+
+/** Renames a file; the new name is free. @return why it has its old name still, a clause. */
+QString move(const QString &path, const QString &newPath)
+{
+    return QFile::rename(path, newPath)
+               ? QString()
+               : translated(QT_TRANSLATE_NOOP("Recovery", "“%1” cannot be renamed")).arg(path);
+}
+
+bool holds(const QString &path, const QByteArray &document)
+{
+    return QFileInfo(path).size() == document.size() && WholeFile::read(path).bytes == document;
+}
+
+/** Whether these bytes can be had again: from another file of the folder, or because they say nothing. */
+bool isKeptElsewhere(const StorageFolder &folder, const QByteArray &document)
+{
+    if (document == CatalogueFile::emptyDocument())
+        return true;
+    QStringList paths{folder.dataFile()};
+    paths += folder.asides();
+    const QList<Copy> copies = Backups::list(folder);
+    for (const Copy &copy : copies)
+        paths.append(folder.backups().filePath(copy.name));
+    return std::any_of(paths.cbegin(), paths.cend(),
+                       [&](const QString &path) { return holds(path, document); });
+}
+
+/** Removes replacements that were cut off while they were written: the file that they were for has its place
+ * still. */
+void removeLeftovers(const QFileInfo &replacement)
+{
+    static const QRegularExpression letters(QRegularExpression::anchoredPattern(u".*\\.[A-Za-z]{6}"_s));
+    const QStringList names = replacement.dir().entryList({replacement.fileName() + u".??????"_s},
+                                                          QDir::Files | QDir::Hidden | QDir::NoSymLinks);
+    for (const QString &name : names) {
+        if (letters.match(name).hasMatch())
+            QFile::remove(replacement.dir().filePath(name));
+    }
+}
+
+/** The rights that a new data file gets; nothing where no file tells. */
+std::optional<QFile::Permissions> permissionsFor(const StorageFolder &folder)
+{
+    const auto permissions = WholeFile::permissionsOf(folder.dataFile());
+    const QList<Copy> copies = permissions ? QList<Copy>() : Backups::list(folder);
+    return copies.isEmpty() ? permissions
+                            : WholeFile::permissionsOf(folder.backups().filePath(copies.first().name));
+}
+
 } // namespace
 
 void Recovery::finishInterrupted(const StorageFolder &folder)
 {
-    QFile replacement(folder.replacement());
-    if (!replacement.exists())
+    const QString path = targetOf(folder);
+    const QFileInfo replacement(replacementFor(folder));
+    removeLeftovers(replacement);
+    const WholeFile::Reading reading = WholeFile::read(replacement.filePath());
+    if (!reading.problem.isEmpty() || replacement.isSymLink())
+        return; // there is none, or it is nothing of ours
+    if (!isThere(path)) {
+        if (WholeFile::isWhole(reading.bytes))
+            QFile::rename(replacement.filePath(), path);
         return;
-    const bool wanted =
-        !isThere(folder.dataFile()) && WholeFile::isWhole(WholeFile::read(folder.replacement()).bytes);
-    if (!wanted || !replacement.rename(folder.dataFile()))
-        replacement.remove();
+    }
+    if (isKeptElsewhere(folder, reading.bytes))
+        QFile::remove(replacement.filePath());
+    else
+        QFile::rename(replacement.filePath(), folder.aside(QDateTime::currentDateTimeUtc()));
 }
 
 FileState Recovery::examine(const StorageFolder &folder)
 {
-    if (!isThere(folder.dataFile())) {
-        const bool isNew = Backups::list(folder).isEmpty() && folder.asides().isEmpty();
-        return isNew ? FileState() : FileState{FileState::Missing, missing(), {}};
-    }
     WholeFile::Reading reading = WholeFile::read(folder.dataFile());
+    if (reading.isMissing) {
+        const QFileInfo copies(folder.backups().path());
+        if (copies.isDir() && !(copies.isReadable() && copies.isExecutable()))
+            return {FileState::Unreadable,
+                    translated(QT_TRANSLATE_NOOP(
+                        "Recovery", "it is missing, and the folder of its copies cannot be read")),
+                    {}};
+        const bool isNew = Backups::list(folder).isEmpty() && folder.asides().isEmpty();
+        return isNew ? FileState()
+                     : FileState{FileState::Missing,
+                                 translated(QT_TRANSLATE_NOOP("Recovery", "it is missing")),
+                                 {}};
+    }
     if (!reading.problem.isEmpty())
         return {FileState::Unreadable, reading.problem, {}};
     const Contents contents = WholeFile::inspect(reading.bytes);
@@ -52,29 +149,29 @@ FileState Recovery::examine(const StorageFolder &folder)
 QString Recovery::replace(const StorageFolder &folder, const QByteArray &document, const QDateTime &now,
                           QString *aside)
 {
+    if (leadsNowhere(folder))
+        return WholeFile::read(folder.dataFile()).problem;
     const QString path = folder.dataFileTarget();
     const QString replacement = folder.replacement();
-    QString problem = WholeFile::write(replacement, document, WholeFile::permissionsOf(path));
+    // What has that name already may be the only one of its kind, or a link to anywhere.
+    QString problem = isThere(replacement) ? move(replacement, folder.aside(now)) : QString();
+    if (problem.isEmpty())
+        problem = WholeFile::write(replacement, document, permissionsFor(folder));
     if (!problem.isEmpty())
         return problem;
-    const bool wasThere = isThere(path);
-    const QString kept = folder.aside(now);
-    QFile old(path);
-    if (wasThere && !old.rename(kept)) {
-        QFile::remove(replacement);
-        return old.errorString();
-    }
-    QFile fresh(replacement);
-    if (!fresh.rename(path)) {
-        problem = fresh.errorString();
-        if (wasThere)
-            QFile::rename(kept, path);
-        QFile::remove(replacement);
-        return problem;
-    }
-    if (wasThere)
+
+    const QString kept = isThere(path) ? folder.aside(now) : QString();
+    problem = kept.isEmpty() ? QString() : move(path, kept);
+    const bool movedAside = !kept.isEmpty() && problem.isEmpty();
+    if (problem.isEmpty())
+        problem = move(replacement, path);
+    if (problem.isEmpty()) {
         *aside = kept;
-    return QString();
+        return QString();
+    }
+    if (!movedAside || QFile::rename(kept, path))
+        QFile::remove(replacement);
+    return problem;
 }
 
 QString Recovery::keepAside(const StorageFolder &folder, const QByteArray &document, const QDateTime &now,
@@ -82,7 +179,7 @@ QString Recovery::keepAside(const StorageFolder &folder, const QByteArray &docum
 {
     const QStringList asides = folder.asides();
     for (const QString &path : asides) {
-        if (WholeFile::read(path).bytes == document) {
+        if (holds(path, document)) {
             *aside = path;
             return QString();
         }

@@ -13,9 +13,9 @@ namespace Host {
 struct FileState
 {
     enum Kind {
-        New,       ///< there is none, and there are no whole copies: an empty logbook
+        New,       ///< there is none, and neither copies nor files put aside: an empty logbook
         Whole,     ///< one whole logbook
-        Missing,   ///< there is none, but there are whole copies
+        Missing,   ///< there is none, but copies of it or files that were put aside
         Damaged,   ///< it can be read, and is not one whole logbook
         Unreadable ///< it cannot be read: nothing may take its place
     };
@@ -29,8 +29,9 @@ struct FileState
 namespace Recovery {
 
 /**
- * Ends a replace() that was interrupted: a new file that has not come to its place yet is put there, one that
- * is not needed any more is removed. Only for the holder of the folder's lock.
+ * Ends a replace() that was interrupted: a new file that has not come to its place yet is put there. Where
+ * the old one still has that place, the new one is removed if its bytes are in another file, too, and put
+ * aside if not. Only for the holder of the folder's lock.
  */
 void finishInterrupted(const StorageFolder &folder);
 
@@ -38,10 +39,11 @@ void finishInterrupted(const StorageFolder &folder);
 FileState examine(const StorageFolder &folder);
 
 /**
- * Puts @p document in the place of the data file, which is kept under another name, whatever it is.
+ * Puts @p document in the place of the data file, which is kept under another name. Where the data file is a
+ * link, this is about the file that it leads to; a link that leads nowhere is left alone.
  *
  * The new file is written beside, the old one moved aside, the new one moved into its place; on any failure
- * all is as it was.
+ * all is as it was. It gets the rights of the old one; where that is missing, those of the newest copy.
  *
  * @param aside where the old file is kept; set when there was one and nothing failed.
  * @return why it could not be done, a clause; empty when it was.
@@ -50,8 +52,8 @@ QString replace(const StorageFolder &folder, const QByteArray &document, const Q
                 QString *aside);
 
 /**
- * Keeps a second file with the data file's present bytes, under a name that is never thinned out; one that
- * is there already will do.
+ * Keeps a second file with these bytes of the data file, under a name that is never thinned out; one that is
+ * there already will do.
  *
  * @param aside set to its path when nothing failed.
  * @return why it could not be kept, a clause; empty when it was.

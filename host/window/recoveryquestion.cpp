@@ -17,23 +17,39 @@ QString tr(const char *text)
 
 QString whatIsTheMatter(const StorageFolder &folder, const FileState &state)
 {
-    const QString text =
-        state.kind == FileState::Missing
-            ? tr(QT_TRANSLATE_NOOP("RecoveryQuestion",
-                                   "The logbook file “%1” is missing, but copies of it are there."))
-            : tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "The logbook file “%1” is damaged: %2."));
-    return state.kind == FileState::Missing ? text.arg(folder.dataFile())
-                                            : text.arg(folder.dataFile(), state.problem);
+    if (state.kind == FileState::Missing)
+        return tr(QT_TRANSLATE_NOOP(
+                      "RecoveryQuestion",
+                      "The logbook file “%1” is missing, but earlier versions of it are there."))
+            .arg(folder.dataFile());
+    return tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "The logbook file “%1” is damaged: %2."))
+        .arg(folder.dataFile(), state.problem);
 }
 
 QString whatFollows(const FileState &state)
 {
     if (state.kind == FileState::Missing)
-        return QString();
-    return tr(QT_TRANSLATE_NOOP(
-        "RecoveryQuestion",
-        "Whatever you choose, the damaged file is kept in the same folder, under a name that "
-        "begins with “voltbok-broken-”. "));
+        return tr(QT_TRANSLATE_NOOP(
+            "RecoveryQuestion",
+            "If you keep it on a disk or in a synchronised folder that is not there now, quit and bring it "
+            "back first."));
+    return tr(QT_TRANSLATE_NOOP("RecoveryQuestion",
+                                "Quitting leaves the damaged file as it is. Otherwise it is kept in the same "
+                                "folder, under a name that begins with “voltbok-broken-”."));
+}
+
+QString whatToChoose(const VersionsModel &versions, int first)
+{
+    if (first < 0)
+        return tr(QT_TRANSLATE_NOOP(
+            "RecoveryQuestion", "No whole copy of it was found. Quit and look for one elsewhere before you "
+                                "start with an empty logbook."));
+    if (!versions.isCopy(first))
+        return tr(QT_TRANSLATE_NOOP("RecoveryQuestion",
+                                    "No whole copy of it was found. Choose what to go on with only after a "
+                                    "look at what it holds."));
+    return tr(
+        QT_TRANSLATE_NOOP("RecoveryQuestion", "Choose the version to go on with; the newest is on top."));
 }
 
 /** What the loaders find before the damage; nothing where loading is dangerous or finds no more than an empty
@@ -54,21 +70,21 @@ std::optional<QByteArray> askForReplacement(Questions &questions, const StorageF
     VersionsModel versions(folder);
     versions.add(tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "What can still be read of the damaged file")),
                  salvage(state));
-    const int newest = versions.firstWhole();
+    const int first = versions.firstWhole();
 
     enum { Quit, StartEmpty, Restore };
     Question question;
     question.text = whatIsTheMatter(folder, state);
-    question.details = whatFollows(state);
+    question.details = whatFollows(state) + u' ' + whatToChoose(versions, first);
     question.answers = QStringList{tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "Quit")),
                                    tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "Start with an Empty Logbook"))};
-    if (newest >= 0) {
-        question.details += tr(
-            QT_TRANSLATE_NOOP("RecoveryQuestion", "Choose the version to go on with; the newest is on top."));
+    question.preferred = Quit;
+    question.refusal = Quit;
+    if (first >= 0) {
         question.answers.append(tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "Restore")));
-        question.preferred = Restore;
+        question.preferred = versions.isCopy(first) ? Restore : Quit;
         question.choices = &versions;
-        question.chosen = newest;
+        question.chosen = first;
     }
     const Answer answer = questions.ask(question);
     if (answer.button == StartEmpty)

@@ -22,6 +22,7 @@ VersionsModel::VersionsModel(const StorageFolder &folder, QObject *parent)
                            {},
                            copy.size,
                            {}});
+    m_copies = m_versions.size();
     const QStringList asides = folder.asides();
     for (const QString &path : asides) {
         const QFileInfo file(path);
@@ -58,8 +59,12 @@ QByteArray VersionsModel::document(int row) const
 const Contents &VersionsModel::contents(int row) const
 {
     const Version &version = m_versions.at(row);
-    if (!version.contents)
-        version.contents = WholeFile::inspect(document(row));
+    if (version.contents)
+        return *version.contents;
+    const WholeFile::Reading reading =
+        version.path.isEmpty() ? WholeFile::Reading{version.document, {}} : WholeFile::read(version.path);
+    version.isReadable = reading.problem.isEmpty();
+    version.contents = version.isReadable ? WholeFile::inspect(reading.bytes) : Contents{reading.problem};
     return *version.contents;
 }
 
@@ -75,6 +80,8 @@ int VersionsModel::columnCount(const QModelIndex &parent) const
 
 QVariant VersionsModel::data(const QModelIndex &index, int role) const
 {
+    if (!index.isValid())
+        return QVariant();
     if (role == Qt::DisplayRole)
         return text(index.row(), index.column());
     if (role == Qt::TextAlignmentRole && index.column() != Title)
@@ -84,23 +91,34 @@ QVariant VersionsModel::data(const QModelIndex &index, int role) const
     return QVariant();
 }
 
-QString VersionsModel::text(int row, int column) const
+QString VersionsModel::title(int row) const
 {
     const Version &version = m_versions.at(row);
+    if (contents(row).problem.isEmpty())
+        return version.title;
+    return version.isReadable ? tr("%1 (damaged)").arg(version.title)
+                              : tr("%1 (cannot be read)").arg(version.title);
+}
+
+QString VersionsModel::text(int row, int column) const
+{
     const QLocale locale;
+    if (column == Title)
+        return title(row);
+    if (column == Size)
+        return locale.formattedDataSize(m_versions.at(row).size, 1, QLocale::DataSizeSIFormat);
+    const Contents &held = contents(row);
+    if (!held.problem.isEmpty())
+        return QString(); // what was counted up to the damage is no figure
     switch (column) {
-    case Title:
-        return contents(row).problem.isEmpty() ? version.title : tr("%1 (damaged)").arg(version.title);
-    case Size:
-        return locale.formattedDataSize(version.size, 1, QLocale::DataSizeSIFormat);
     case Batteries:
-        return locale.toString(contents(row).batteries);
+        return locale.toString(held.batteries);
     case Models:
-        return locale.toString(contents(row).models);
+        return locale.toString(held.models);
     case Flights:
-        return locale.toString(contents(row).flights);
+        return locale.toString(held.flights);
     case Discharges:
-        return locale.toString(contents(row).discharges);
+        return locale.toString(held.discharges);
     default:
         return QString();
     }
@@ -108,7 +126,7 @@ QString VersionsModel::text(int row, int column) const
 
 QVariant VersionsModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= Count)
         return QVariant();
     const QString titles[] = {tr("Version"), tr("Size"),    tr("Batteries"),
                               tr("Models"),  tr("Flights"), tr("Discharges")};
@@ -117,6 +135,8 @@ QVariant VersionsModel::headerData(int section, Qt::Orientation orientation, int
 
 Qt::ItemFlags VersionsModel::flags(const QModelIndex &index) const
 {
+    if (!index.isValid()) // a view asks for what is between the rows, too
+        return Qt::NoItemFlags;
     return contents(index.row()).problem.isEmpty() ? Qt::ItemIsEnabled | Qt::ItemIsSelectable
                                                    : Qt::NoItemFlags;
 }

@@ -33,6 +33,9 @@ public:
 
     /** The first version that is whole; -1 when none is. */
     int firstWhole() const;
+    /** Whether a version is one of the copies: the others are what an accident has left. */
+    bool isCopy(int row) const { return row < m_copies; }
+    /** What a version holds now; empty when it cannot be read. */
     QByteArray document(int row) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -49,12 +52,15 @@ private:
         QByteArray document; // of one that is in no file
         qint64 size = 0;
         mutable std::optional<Contents> contents;
+        mutable bool isReadable = true;
     };
 
     const Contents &contents(int row) const;
+    QString title(int row) const;
     QString text(int row, int column) const;
 
     QList<Version> m_versions;
+    qsizetype m_copies = 0;
 };
 
 } // namespace Host
