@@ -5,12 +5,13 @@
 #include "host/window/flowlayout.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QStringList>
-#include <QStyle>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -22,7 +23,7 @@ namespace {
 QToolButton *makeClosing(QWidget *message)
 {
     auto *closing = new QToolButton(message);
-    closing->setIcon(message->style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    closing->setText(u"×"_s); // a style's own icon may be dark on a dark palette
     closing->setAutoRaise(true);
     closing->setFocusPolicy(Qt::StrongFocus); // a tool button could not be reached by keyboard
     closing->setAccessibleName(MessageBar::tr("Close this message"));
@@ -34,12 +35,39 @@ QToolButton *makeClosing(QWidget *message)
 } // namespace
 
 MessageBar::MessageBar(QWidget *parent)
-    : QWidget(parent)
-    , m_layout(new QVBoxLayout(this))
+    : QScrollArea(parent)
 {
+    auto *messages = new QWidget;
+    m_layout = new QVBoxLayout(messages);
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
+    setWidget(messages);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus); // only what is in it
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     hide();
+}
+
+bool MessageBar::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool handled = QScrollArea::eventFilter(watched, event);
+    if (watched == widget() && event->type() == QEvent::LayoutRequest)
+        fit();
+    return handled;
+}
+
+void MessageBar::resizeEvent(QResizeEvent *event)
+{
+    QScrollArea::resizeEvent(event);
+    fit();
+}
+
+void MessageBar::fit()
+{
+    const int height = m_layout->hasHeightForWidth() ? m_layout->totalHeightForWidth(viewport()->width())
+                                                     : m_layout->totalSizeHint().height();
+    setFixedHeight(qMin(height, screen()->availableSize().height() / 3));
 }
 
 void MessageBar::tell(const QString &matter, const QString &text, const QList<Action> &actions)
@@ -77,7 +105,7 @@ void MessageBar::clear()
 
 QWidget *MessageBar::makeMessage(const QString &text, const QList<Action> &actions)
 {
-    auto *message = new QFrame(this);
+    auto *message = new QFrame(widget());
     message->setObjectName(u"message"_s);
     message->setAccessibleName(text);
     message->setFrameShape(QFrame::StyledPanel);

@@ -3,8 +3,8 @@
 
 #include <QHash>
 #include <QList>
+#include <QScrollArea>
 #include <QString>
-#include <QWidget>
 
 #include <functional>
 
@@ -12,8 +12,11 @@ class QBoxLayout;
 
 namespace Host {
 
-/** The messages that need no answer, one below the other, each with buttons where they help. */
-class MessageBar final : public QWidget
+/**
+ * The messages that need no answer, one below the other, each with buttons where they help. As high as they
+ * are; only where they would take too much of the screen they scroll.
+ */
+class MessageBar final : public QScrollArea
 {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(MessageBar)
@@ -39,16 +42,22 @@ public:
     /** Takes all messages away. */
     void clear();
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 Q_SIGNALS:
     /** A message is shown that was not shown before. */
     void told(const QString &text);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void fit();
     QWidget *makeMessage(const QString &text, const QList<Action> &actions);
 
     QHash<QString, QString> m_texts;
     QHash<QString, QWidget *> m_messages;
-    QBoxLayout *m_layout;
+    QBoxLayout *m_layout = nullptr;
 };
 
 } // namespace Host

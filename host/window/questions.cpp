@@ -15,6 +15,8 @@
 #include <QStyle>
 #include <QTableView>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Host {
 namespace {
 
@@ -49,6 +51,7 @@ QuestionBox::QuestionBox(const Question &question, QStyle::StandardPixmap icon)
     const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
     picture->setPixmap(style()->standardIcon(icon, nullptr, this).pixmap(size));
     m_layout->addWidget(picture, 0, 0, Qt::AlignTop);
+    m_layout->setColumnStretch(1, 1);
     QFont strong = font();
     strong.setBold(!question.details.isEmpty());
     addText(question.text)->setFont(strong);
@@ -88,15 +91,19 @@ void QuestionBox::addChoices(const Question &question)
     const QFontMetrics metrics = m_choices->fontMetrics();
     QHeaderView *header = m_choices->horizontalHeader();
     header->setHighlightSections(false);
-    header->setSectionResizeMode(0, QHeaderView::Stretch);
-    int width = metrics.horizontalAdvance(u'0') * 32;
+    const int nameWidth = metrics.horizontalAdvance(u'0') * 32;
+    int width = nameWidth;
     for (int column = 1; column < question.choices->columnCount(); ++column) {
-        m_choices->setColumnWidth(column, header->sectionSizeHint(column));
-        width += header->sectionSizeHint(column);
+        const int hint = qMax(header->sectionSizeHint(column), metrics.horizontalAdvance(u"0000 bytes0"_s));
+        m_choices->setColumnWidth(column, hint);
+        width += hint;
     }
-    const QSize available = screen()->availableSize();
+    const QSize available = screen()->availableSize() * 9 / 10;
+    m_choices->setColumnWidth(0, nameWidth);
+    if (width <= available.width()) // else the table scrolls
+        header->setSectionResizeMode(0, QHeaderView::Stretch);
     m_choices->setMinimumSize(
-        qMin(width, available.width() * 4 / 5),
+        qMin(width, available.width()),
         qMin(8 * m_choices->verticalHeader()->defaultSectionSize(), available.height() / 4));
     m_layout->addWidget(m_choices, m_layout->rowCount(), 0, 1, 2);
     m_layout->setRowStretch(m_layout->rowCount() - 1, 1);

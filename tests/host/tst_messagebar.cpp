@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 #include <QToolButton>
@@ -221,11 +222,13 @@ void MessageBarTest::itFitsIntoANarrowWindow()
     QCOMPARE(m_window->width(), 350);
     const auto *label = m_bar->findChild<QLabel *>();
     QVERIFY(label->height() >= label->heightForWidth(label->width()));
-    const QRect inside = m_bar->rect();
+    const QWidget *messages = m_bar->widget();
+    QVERIFY(m_bar->height() <= m_window->screen()->availableSize().height() / 3);
+    QVERIFY(messages->width() <= m_bar->width());
     for (const QString &caption : {u"Try Again"_s, u"Restore Last State"_s, u"Keep Elsewhere…"_s}) {
         const QPushButton *found = button(caption);
         QVERIFY(found->width() >= found->sizeHint().width());
-        QVERIFY(inside.contains(QRect(found->mapTo(m_bar, QPoint()), found->size())));
+        QVERIFY(messages->rect().contains(QRect(found->mapTo(messages, QPoint()), found->size())));
         QVERIFY(found->mapTo(m_bar, QPoint()).y() >= label->mapTo(m_bar, QPoint(0, label->height())).y());
     }
 }
