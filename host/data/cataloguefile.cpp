@@ -31,9 +31,9 @@ public:
     QString put(const QByteArray &document)
     {
         QFile file(dataFile());
-        const bool written =
-            file.open(QFile::WriteOnly) && file.write(document) == document.size() && file.flush();
-        return written ? QString() : file.errorString();
+        if (!file.open(QFile::WriteOnly))
+            return file.errorString();
+        return file.write(document) == document.size() && file.flush() ? QString() : unwritten();
     }
 
     /** What was saved here. A save is silent: one that was cut off, or left no file, is found out by its end.

@@ -3,6 +3,7 @@
 
 #include "host/data/cataloguefile.h"
 #include "host/safety/backups.h"
+#include "host/safety/runtimefolder.h"
 #include "host/safety/wholefile.h"
 
 #include <QCoreApplication>
@@ -35,22 +36,10 @@ bool leadsNowhere(const StorageFolder &folder)
     return file.isSymLink() && !file.exists();
 }
 
-/** The file that the data file's name stands for, also where that is a link and the file has been moved
- * aside.
- */
-QString targetOf(const StorageFolder &folder)
-{
-    constexpr int MostLinks = 40; // as many as a system follows
-    QFileInfo file(folder.dataFileTarget());
-    for (int links = 0; file.isSymLink() && links < MostLinks; ++links)
-        file.setFile(file.symLinkTarget());
-    return file.filePath();
-}
-
 /** StorageFolder::replacement(), also where the file that it replaces has been moved aside. */
 QString replacementFor(const StorageFolder &folder)
 {
-    return QFileInfo(targetOf(folder)).dir().filePath(QFileInfo(folder.replacement()).fileName());
+    return QFileInfo(canonicalDataFile(folder)).dir().filePath(QFileInfo(folder.replacement()).fileName());
 }
 
 /** Renames a file; the new name is free. @return why it has its old name still, a clause. */
@@ -106,7 +95,7 @@ std::optional<QFile::Permissions> permissionsFor(const StorageFolder &folder)
 
 void Recovery::finishInterrupted(const StorageFolder &folder)
 {
-    const QString path = targetOf(folder);
+    const QString path = canonicalDataFile(folder);
     const QFileInfo replacement(replacementFor(folder));
     removeLeftovers(replacement);
     const WholeFile::Reading reading = WholeFile::read(replacement.filePath());

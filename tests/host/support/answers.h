@@ -26,6 +26,15 @@ public:
     /** Presses return: the preferred answer, about the row that is chosen at first. */
     void pressReturn() { m_next.append({QString(), -1}); }
 
+    /** Forgets everything. */
+    void reset()
+    {
+        asked.clear();
+        told.clear();
+        m_next.clear();
+        whenAsked = {};
+    }
+
     Host::Answer ask(const Host::Question &question) override
     {
         asked.append(remember(question));

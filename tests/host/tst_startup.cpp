@@ -1,0 +1,317 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/data/cataloguefile.h"
+#include "tests/brokendisk.h"
+#include "tests/host/logbookfiles.h"
+#include "tests/host/support/logbookfolder.h"
+#include "tests/host/support/started.h"
+
+#include <QTest>
+
+#include <sys/stat.h>
+
+#include <memory>
+
+using namespace Host;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString Restore = u"Restore"_s;
+const QString StartEmpty = u"Start with an Empty Logbook"_s;
+
+/** With an element in its first battery that no save writes. */
+QByteArray strange()
+{
+    return Files::sample().replace("<Cycles>42</Cycles>", "<Cycles>42</Cycles><Chemistry>LiPo</Chemistry>");
+}
+
+} // namespace
+
+class StartupTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void aWholeLogbookOpensWithoutAWord();
+    void aDamagedFileIsReplacedByTheNewestCopy();
+    void aDamagedFileIsReplacedByTheChosenCopy();
+    void aDamagedFileIsReplacedByAnEmptyLogbook();
+    void aDamagedFileStaysWhereItIsWhenTheUserQuits();
+    void aMissingFileIsRestoredFromACopy();
+    void aMissingFileIsReplacedByAnEmptyLogbook();
+    void aMissingFileStaysMissingWhenTheUserQuits();
+    void aRestoreThatFailsChangesNothing();
+    void aVersionThatIsGoneMeanwhileChangesNothing();
+    void anInterruptedRestoreIsFinished();
+    void whatIsNotUnderstoodIsPutAsideOnce();
+    void whatIsNotUnderstoodIsNotOpenedWhereItCannotBePutAside();
+    void whatCannotBeCheckedIsNotOpened();
+    void whatCannotBeReadIsToldAndNeverReplaced_data();
+    void whatCannotBeReadIsToldAndNeverReplaced();
+
+private:
+    CommandLine commandLine() const
+    {
+        CommandLine result;
+        result.storagePath = m_log->path();
+        return result;
+    }
+    Started run() { return Started::run(commandLine(), m_answers); }
+    QByteArray data() const { return Files::read(m_log->dataFile()); }
+    QByteArrayList asides() const
+    {
+        QByteArrayList contents;
+        const QStringList paths = m_log->folder().asides();
+        for (const QString &path : paths)
+            contents.append(Files::read(path));
+        return contents;
+    }
+
+    QTemporaryDir m_runtime;
+    std::unique_ptr<LogbookFolder> m_log;
+    Answers m_answers;
+};
+
+void StartupTest::initTestCase()
+{
+    QFile::setPermissions(m_runtime.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtime.path()));
+}
+
+void StartupTest::init()
+{
+    m_log = std::make_unique<LogbookFolder>();
+    m_answers.reset();
+}
+
+void StartupTest::aWholeLogbookOpensWithoutAWord()
+{
+    m_log->save(Files::sample());
+    const Started started = run();
+    QCOMPARE(started.status, 0);
+    QVERIFY(started.hasWindow);
+    QCOMPARE(started.messages, QStringList());
+    QVERIFY(started.batteries > 0);
+    QVERIFY(data() == Files::sample());
+    QCOMPARE(m_answers.asked.size() + m_answers.told.size(), 0);
+    QVERIFY(asides().isEmpty());
+}
+
+void StartupTest::aDamagedFileIsReplacedByTheNewestCopy()
+{
+    m_log->copy(LogbookFolder::document("old"));
+    m_log->copy(LogbookFolder::document("new"));
+    m_log->save("half");
+    m_answers.pressReturn();
+    const Started started = run();
+    QCOMPARE(started.status, 0);
+    QVERIFY(started.hasWindow);
+    QCOMPARE(data(), LogbookFolder::document("new"));
+    QCOMPARE(asides(), QByteArrayList{"half"});
+    QCOMPARE(m_log->folder().backups().entryList({u"*-kept-*"_s}).size(), 1); // made before the damage
+}
+
+void StartupTest::aDamagedFileIsReplacedByTheChosenCopy()
+{
+    m_log->copy(LogbookFolder::document("old"));
+    m_log->copy(LogbookFolder::document("new"));
+    m_log->save("half");
+    m_answers.press(Restore, 1);
+    QCOMPARE(run().status, 0);
+    QCOMPARE(data(), LogbookFolder::document("old"));
+    QCOMPARE(asides(), QByteArrayList{"half"});
+}
+
+void StartupTest::aDamagedFileIsReplacedByAnEmptyLogbook()
+{
+    m_log->copy(LogbookFolder::document("old"));
+    m_log->save("half");
+    m_answers.press(StartEmpty);
+    const Started started = run();
+    QCOMPARE(started.status, 0);
+    QVERIFY(started.hasWindow);
+    QCOMPARE(data(), CatalogueFile::emptyDocument());
+    QCOMPARE(asides(), QByteArrayList{"half"});
+}
+
+void StartupTest::aDamagedFileStaysWhereItIsWhenTheUserQuits()
+{
+    m_log->copy(LogbookFolder::document("old"));
+    m_log->save("half");
+    const auto before = m_log->snapshot();
+    const Started started = run();
+    QCOMPARE(started.status, 1);
+    QVERIFY(!started.hasWindow);
+    QCOMPARE(m_answers.asked.size(), 1);
+    QCOMPARE(m_log->snapshot(), before); // the lock is gone, too
+}
+
+void StartupTest::aMissingFileIsRestoredFromACopy()
+{
+    m_log->copy(LogbookFolder::document("old"));
+    m_answers.pressReturn();
+    const Started started = run();
+    QCOMPARE(started.status, 0);
+    QCOMPARE(m_answers.asked.size(), 1);
+    QCOMPARE(data(), LogbookFolder::document("old"));
+    QVERIFY(asides().isEmpty());
+}
+
+void StartupTest::aMissingFileIsReplacedByAnEmptyLogbook()
+{
+    m_log->copy(LogbookFolder::document("old"));
+    m_answers.press(StartEmpty);
+    QCOMPARE(run().status, 0);
+    QCOMPARE(data(), CatalogueFile::emptyDocument());
+}
+
+void StartupTest::aMissingFileStaysMissingWhenTheUserQuits()
+{
+    m_log->copy(LogbookFolder::document("old"));
+    const auto before = m_log->snapshot();
+    const Started started = run();
+    QCOMPARE(started.status, 1);
+    QVERIFY(!started.hasWindow);
+    QCOMPARE(m_log->snapshot(), before);
+}
+
+void StartupTest::aRestoreThatFailsChangesNothing()
+{
+    const QByteArray large = LogbookFolder::document(QByteArray(20'000, 'x'));
+    m_log->copy(large);
+    m_log->save("half");
+    m_answers.pressReturn();
+    {
+        const FullDisk disk(10'000); // enough for a lock
+        const Started started = run();
+        QCOMPARE(started.status, 1);
+        QVERIFY(!started.hasWindow);
+    }
+    QCOMPARE(m_answers.told.size(), 1);
+    QVERIFY2(m_answers.told.constFirst().contains(u"the file would be too large. All is as it was."_s),
+             qPrintable(m_answers.told.constFirst()));
+    QCOMPARE(m_log->snapshot().values(), (QList<QByteArray>{large, "half"}));
+}
+
+void StartupTest::aVersionThatIsGoneMeanwhileChangesNothing()
+{
+    const QString copy = m_log->copy(LogbookFolder::document("old"));
+    m_log->save("half");
+    m_answers.pressReturn();
+    m_answers.whenAsked = [&] { Files::write(copy, "damaged now"); };
+    const Started started = run();
+    QCOMPARE(started.status, 1);
+    QVERIFY(!started.hasWindow);
+    QCOMPARE(m_log->snapshot().values(), (QList<QByteArray>{"damaged now", "half"}));
+    QVERIFY(m_answers.told.value(0).contains(u"cannot be read any more"_s));
+}
+
+void StartupTest::anInterruptedRestoreIsFinished()
+{
+    Files::write(m_log->file(u"voltbok-new.xml"_s), LogbookFolder::document("new"));
+    Files::write(m_log->file(u"voltbok-broken-20261120-120000-000Z.xml"_s), "half");
+    const Started started = run();
+    QCOMPARE(started.status, 0);
+    QVERIFY(started.hasWindow);
+    QCOMPARE(m_answers.asked.size(), 0);
+    QCOMPARE(data(), LogbookFolder::document("new"));
+}
+
+void StartupTest::whatIsNotUnderstoodIsPutAsideOnce()
+{
+    m_log->save(strange());
+    QByteArray held;
+    const Started started = Started::run(commandLine(), m_answers, [&](MainWindow &window) {
+        held = CatalogueFile::heldBy(*window.findChild<VoltbokGui *>(), m_log->path()).document;
+    });
+    QCOMPARE(started.status, 0);
+    QCOMPARE(held, CatalogueFile::loadAndSave(strange()).document); // what is understood
+    QCOMPARE(asides(), QByteArrayList{strange()});
+    QVERIFY(data() == strange()); // nothing was changed: nothing is saved
+    QCOMPARE(started.messages.size(), 1);
+    const QString message = started.messages.constFirst();
+    QVERIFY2(message.contains(u"the element “Chemistry” in line 18"_s), qPrintable(message));
+    QVERIFY2(message.contains(u"and"_s) && message.contains(u" more"_s), qPrintable(message));
+    QVERIFY2(message.contains(m_log->folder().asides().constFirst()), qPrintable(message));
+
+    QCOMPARE(run().messages, started.messages);
+    QCOMPARE(asides().size(), 1);
+}
+
+void StartupTest::whatIsNotUnderstoodIsNotOpenedWhereItCannotBePutAside()
+{
+    // The file is a link into a folder that nothing can be added to.
+    const QDir sync(QDir(m_log->root()).filePath(u"sync"_s));
+    QVERIFY(sync.mkpath(u"."_s));
+    Files::write(sync.filePath(u"voltbok.xml"_s), strange());
+    QVERIFY(QFile::link(sync.filePath(u"voltbok.xml"_s), m_log->dataFile()));
+    qputenv("XDG_CACHE_HOME", QFile::encodeName(m_log->root())); // where another user's locks go
+    QFile::setPermissions(sync.filePath(u"voltbok.xml"_s), QFile::Permissions(0x6666));
+    QFile::setPermissions(m_log->root(), QFile::Permissions(0x7777));
+    QFile::setPermissions(m_log->path(), QFile::Permissions(0x7777));
+    const auto before = m_log->snapshot();
+    {
+        const Refusal closed(sync.path(), 0555);
+        QVERIFY(closed.works());
+        const Started started = run();
+        QCOMPARE(started.status, 1);
+        QVERIFY(!started.hasWindow);
+    }
+    QVERIFY2(m_answers.told.value(0).contains(u"no copy of it can be put aside: permission denied. Nothing "
+                                              "was changed."_s),
+             qPrintable(m_answers.told.value(0)));
+    qunsetenv("XDG_CACHE_HOME");
+    QCOMPARE(m_log->snapshot(), before);
+}
+
+void StartupTest::whatCannotBeCheckedIsNotOpened()
+{
+    m_log->save(Files::sample());
+    const auto before = m_log->snapshot();
+    {
+        const FullDisk disk(10'000);
+        const Started started = run();
+        QCOMPARE(started.status, 1);
+        QVERIFY(!started.hasWindow);
+    }
+    QVERIFY2(m_answers.told.value(0).contains(u"cannot be checked before it is opened: "_s),
+             qPrintable(m_answers.told.value(0)));
+    QCOMPARE(m_log->snapshot(), before);
+}
+
+void StartupTest::whatCannotBeReadIsToldAndNeverReplaced_data()
+{
+    QTest::addColumn<QByteArray>("kind");
+    for (const char *kind : {"pipe", "folder", "link to nothing", "device", "large"})
+        QTest::newRow(kind) << QByteArray(kind);
+}
+
+void StartupTest::whatCannotBeReadIsToldAndNeverReplaced()
+{
+    QFETCH(QByteArray, kind);
+    m_log->copy(LogbookFolder::document("old"));
+    const QString path = m_log->dataFile();
+    if (kind == "pipe")
+        QCOMPARE(mkfifo(QFile::encodeName(path), 0600), 0);
+    else if (kind == "folder")
+        QVERIFY(QDir().mkdir(path));
+    else if (kind == "large")
+        QVERIFY(QFile(path).open(QFile::WriteOnly) && QFile::resize(path, 300'000'000));
+    else
+        QVERIFY(QFile::link(kind == "device" ? u"/dev/zero"_s : u"/nowhere/voltbok.xml"_s, path));
+    const QStringList before = QDir(m_log->path()).entryList(QDir::AllEntries | QDir::System);
+    m_answers.pressReturn();
+    const Started started = run();
+    QCOMPARE(started.status, 1);
+    QVERIFY(!started.hasWindow);
+    QCOMPARE(m_answers.asked.size(), 0);
+    QCOMPARE(m_answers.told.size(), 1);
+    QVERIFY2(m_answers.told.constFirst().contains(u"cannot be read: it is "_s),
+             qPrintable(m_answers.told.constFirst()));
+    QCOMPARE(QDir(m_log->path()).entryList(QDir::AllEntries | QDir::System), before);
+}
+
+QTEST_MAIN(StartupTest)
+#include "tst_startup.moc"
