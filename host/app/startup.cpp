@@ -21,7 +21,6 @@
 #include <QImageReader>
 #include <QImageWriter>
 #include <QPixmap>
-#include <QTemporaryDir>
 
 #include <cstdlib>
 #include <memory>
@@ -70,14 +69,13 @@ public:
 private:
     using Status = std::optional<int>;
 
+    bool mustMakeDemo() const;
     int refuse(const QString &problem);
     Status takeFolder();
     Status takeOver(const FolderLock::Refusal &refusal);
     Status recover(const FileState &state);
     QString describe(const FileState &state) const;
     int draw();
-    int draw(const StorageFolder &folder);
-    int drawSample();
     int openWindow(const FileState &state);
     QString keepWhatWouldBeLost(const FileState &state);
 
@@ -91,7 +89,7 @@ private:
 int Startup::run()
 {
     const bool drawsOnly = !m_commandLine.screenshot.isEmpty();
-    if (drawsOnly && !m_commandLine.resetDemo)
+    if (drawsOnly && !mustMakeDemo())
         return draw(); // a logbook that is drawn is only read: no lock, and nothing is made
     if (const Status ended = takeFolder())
         return *ended;
@@ -106,6 +104,12 @@ int Startup::run()
     if (state.kind != FileState::Whole && state.kind != FileState::New)
         return refuse(describe(state));
     return openWindow(state);
+}
+
+bool Startup::mustMakeDemo() const
+{
+    return m_commandLine.resetDemo ||
+           (m_commandLine.demo && Recovery::examine(m_folder).kind == FileState::New);
 }
 
 int Startup::refuse(const QString &problem)
@@ -195,29 +199,8 @@ Startup::Status Startup::recover(const FileState &state)
 int Startup::draw()
 {
     const FileState state = Recovery::examine(m_folder);
-    if (state.kind == FileState::New && m_commandLine.demo)
-        return drawSample();
     if (state.kind != FileState::Whole && state.kind != FileState::New)
         return refuse(describe(state));
-    return draw(m_folder);
-}
-
-/** The sample logbook before it was ever opened. */
-int Startup::drawSample()
-{
-    const QTemporaryDir scratch;
-    if (!scratch.isValid())
-        return refuse(
-            tr(QT_TRANSLATE_NOOP("Startup", "The sample logbook cannot be drawn: %1. Free some space, or see "
-                                            "that the program can write in “%2”."))
-                .arg(scratch.errorString(), QDir::tempPath()));
-    const StorageFolder folder(scratch.path());
-    const QString problem = prepareDemo(folder, false);
-    return problem.isEmpty() ? draw(folder) : refuse(problem);
-}
-
-int Startup::draw(const StorageFolder &folder)
-{
     const QString path = m_commandLine.screenshot;
     if (isOtherFile(path))
         return refuse(
@@ -225,7 +208,7 @@ int Startup::draw(const StorageFolder &folder)
                                             "and it is no picture. Choose another name."))
                 .arg(path));
     QImageWriter writer(path, "png");
-    if (writer.write(MainWindow::picture(folder).toImage()))
+    if (writer.write(MainWindow::picture(m_folder).toImage()))
         return EXIT_SUCCESS;
     return refuse(
         tr(QT_TRANSLATE_NOOP("Startup", "The picture “%1” cannot be written: %2. Choose another name."))

@@ -80,11 +80,6 @@ void MainWindow::goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock>
          tr("The logbook is now kept in “%1”. Open this folder the next time, too.").arg(folder.path()));
 }
 
-QByteArray MainWindow::openedAs() const
-{
-    return m_care->openedAs();
-}
-
 void MainWindow::tell(const QString &matter, const QString &text)
 {
     m_messages->tell(matter, text);

@@ -33,9 +33,6 @@ public:
      */
     void open(const StorageFolder &folder, std::shared_ptr<FolderLock> lock);
 
-    /** What a save would have written when the folder was opened, before anything was changed. */
-    QByteArray openedAs() const;
-
     /** Tells something that needs no answer; see MessageBar::tell(). */
     void tell(const QString &matter, const QString &text);
 

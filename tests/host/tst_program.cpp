@@ -297,7 +297,7 @@ void ProgramTest::whatIsNoLogbookIsSaidAndLeftAlone_data()
     QTest::newRow("another kind of document") << OddFiles::Html << u"html"_s;
     QTest::newRow("cut") << OddFiles::Cut << u"damaged"_s;
     QTest::newRow("a zero byte") << OddFiles::ZeroByte << u"zero byte"_s;
-    QTest::newRow("declarations") << OddFiles::Declarations << u"declares"_s;
+    QTest::newRow("declarations") << OddFiles::Declarations << u"document type"_s;
     QTest::newRow("not readable") << OddFiles::Unreadable << u"ermission"_s;
     QTest::newRow("a pipe") << OddFiles::Pipe << u"not a regular file"_s;
     QTest::newRow("a folder") << OddFiles::Folder << u"folder"_s;

@@ -78,13 +78,13 @@ void WholeFileTest::aDocumentIsWholeWhenItIsOneLogbook_data()
     row("cut off", document.left(document.size() - 4), "line");
     row("empty", {}, "it is empty");
     row("no XML", "hello", "line 1");
-    row("something behind the end", document + "<Voltbok/>", "it is damaged");
+    row("something behind the end", document + "<Voltbok/>", "line 6");
     row("zeros", QByteArray(4096, '\0'), "it contains zero bytes");
     row("one zero in a name", QByteArray(document).replace("Location ", QByteArray("Loca\0ion ", 9)),
         "it contains zero bytes");
     row("a page", "<html/>", "it is not a logbook: its root element is “html”");
     row("entities of its own", "<!DOCTYPE Voltbok [<!ENTITY a \"b\">]><Voltbok/>",
-        "it declares entities of its own");
+        "it brings a document type of its own");
 }
 
 void WholeFileTest::aDocumentIsWholeWhenItIsOneLogbook()

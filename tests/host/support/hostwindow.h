@@ -14,6 +14,8 @@
 
 #include <QComboBox>
 
+#include <unistd.h>
+
 #include <memory>
 
 /** The program's window on show over a logbook in a folder of its own; for tests that use it as a pilot does.
@@ -28,11 +30,23 @@ public:
         RotavexPlugin::rotavexSettings->clear();
         QFile::setPermissions(m_place.path(),
                               QFile::Permissions(0x7777)); // for tests that become another user
+        makeRuntimeFolder();
         QDir().mkdir(path());
         QFile::setPermissions(path(), QFile::Permissions(0x7777));
         if (!document.isEmpty())
             put(document);
         restart();
+    }
+
+    /** The run-time folder of the other user, who finds no place for the second lock in root's home. */
+    void makeRuntimeFolder()
+    {
+        constexpr uid_t Nobody = 65534;
+        const QString run = m_place.filePath(QStringLiteral("run"));
+        QDir().mkdir(run, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        if (geteuid() == 0 && chown(QFile::encodeName(run), Nobody, Nobody) != 0)
+            qFatal("The tests cannot give a folder away.");
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(run));
     }
 
     /** Two batteries, one of them charged, two models that fly both, one location. */
