@@ -42,9 +42,6 @@ public:
     /** Saves what is not saved yet, and copies it. */
     ~SaveCare() override;
 
-    /** What a save would have written when the file was opened or restored, before anything was changed. */
-    QByteArray openedAs() const { return m_openedAs; }
-
     /** Saves what is not saved yet; asks where it cannot be saved. @return whether the window may be closed.
      */
     bool mayClose();
@@ -91,8 +88,8 @@ private:
     const LogbookAccess m_logbook;
     MessageBar &m_messages;
     Questions &m_questions;
-    QByteArray m_openedAs;
-    QByteArray m_unsaved; // what the window held when a save failed
+    QByteArray m_openedAs; // what a save would have written when the file was opened or restored
+    QByteArray m_unsaved;  // what the window held when a save failed
     Loss m_loss = Loss::None;
     bool m_endsWhenWhole = false; // the loss: nothing but the file itself is in the way
     bool m_byOthers = false;      // the file's content is somebody else's
