@@ -239,13 +239,15 @@ void KilledProgramTest::nothingThatWasAcknowledgedIsLostByAKill()
         "%d kills in %lld s, %d with something owed; %d acknowledged changes; %d broken files, %d recoveries",
         tally.kills, static_cast<long long>(clock.elapsed() / 1000), tally.owing, tally.saves, tally.broken,
         tally.recoveries);
-    QVERIFY2(tally.faults.isEmpty(), qPrintable(tally.faults.join(u'\n')));
+    for (const QString &problem : std::as_const(tally.faults))
+        qWarning("%s", qPrintable(problem)); // all of them: a failure's own text is cut
+    QVERIFY(tally.faults.isEmpty());
     QCOMPARE(tally.kills, Kills);
     QVERIFY(tally.owing >= Kills / 2);
     QVERIFY(tally.saves >= 10 * Kills);
     QVERIFY(tally.broken >= Kills / 20);
     QCOMPARE(tally.recoveries, tally.broken);
-    QCOMPARE(Harness::sharedLeftovers(), leftBefore);
+    QTRY_COMPARE_WITH_TIMEOUT(Harness::sharedLeftovers(leftBefore), QStringList(), 20\'000);
 }
 
 QTEST_GUILESS_MAIN(KilledProgramTest)
