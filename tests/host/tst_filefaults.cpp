@@ -128,7 +128,7 @@ void FileFaultsTest::cleanupTestCase()
 {
     m_screen.terminate();
     QVERIFY(m_screen.waitForFinished());
-    QCOMPARE(Harness::sharedLeftovers(), m_leftBefore);
+    QTRY_COMPARE_WITH_TIMEOUT(Harness::sharedLeftovers(m_leftBefore), QStringList(), 20'000);
 }
 
 void FileFaultsTest::whateverOperationFailsNothingIsLostAndNothingIsSilent_data()
@@ -186,7 +186,9 @@ void FileFaultsTest::whateverOperationFailsNothingIsLostAndNothingIsSilent()
     qInfo("%s: %lld operations, %lld runs, %d struck, %lld s", qPrintable(scenario.name),
           static_cast<long long>(operations.size()), static_cast<long long>(faults.size()), struck,
           static_cast<long long>(clock.elapsed() / 1000));
-    QVERIFY2(problems.isEmpty(), qPrintable(u'\n' + problems.join(u'\n')));
+    for (const QString &problem : std::as_const(problems))
+        qWarning("%s", qPrintable(problem)); // all of them: a failure's own text is cut
+    QVERIFY(problems.isEmpty());
     // An operation of the thread that copies may have been one of fewer this time.
     QVERIFY(struck >= faults.size() * 95 / 100);
 }

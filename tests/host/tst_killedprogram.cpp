@@ -20,7 +20,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int Kills = 500;
-constexpr int AtOnce = 10;
+constexpr int AtOnce = 8;
 constexpr int KillsOfALogbook = 10; // the copies of ten lives take little room
 constexpr int PauseMs = 40;         // between two changes
 constexpr int GraceMs = 1000;       // within which a change must be in a copy
@@ -148,7 +148,7 @@ void Victim::died()
 /** @return what is wrong with the file that the kill left; empty when it holds what is owed. */
 QString Victim::judge(qint64 death)
 {
-    const qint64 limit = death - GraceMs;
+    const qint64 limit = death - GraceMs - m_record.longestRest(death - 3LL * GraceMs);
     m_tally.owing += m_record.changes(limit) > 0 ? 1 : 0;
     const QByteArray bytes = bytesOf(m_home->dataFile());
     const Logbook found = Logbook::read(bytes);
@@ -239,13 +239,15 @@ void KilledProgramTest::nothingThatWasAcknowledgedIsLostByAKill()
         "%d kills in %lld s, %d with something owed; %d acknowledged changes; %d broken files, %d recoveries",
         tally.kills, static_cast<long long>(clock.elapsed() / 1000), tally.owing, tally.saves, tally.broken,
         tally.recoveries);
-    QVERIFY2(tally.faults.isEmpty(), qPrintable(tally.faults.join(u'\n')));
+    for (const QString &problem : std::as_const(tally.faults))
+        qWarning("%s", qPrintable(problem)); // all of them: a failure's own text is cut
+    QVERIFY(tally.faults.isEmpty());
     QCOMPARE(tally.kills, Kills);
     QVERIFY(tally.owing >= Kills / 2);
     QVERIFY(tally.saves >= 10 * Kills);
     QVERIFY(tally.broken >= Kills / 20);
     QCOMPARE(tally.recoveries, tally.broken);
-    QCOMPARE(Harness::sharedLeftovers(), leftBefore);
+    QTRY_COMPARE_WITH_TIMEOUT(Harness::sharedLeftovers(leftBefore), QStringList(), 20'000);
 }
 
 QTEST_GUILESS_MAIN(KilledProgramTest)

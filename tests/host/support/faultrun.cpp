@@ -148,6 +148,15 @@ bool FaultRun::isCopied() const
                                     bytesOf(m_home.dataFile());
 }
 
+bool FaultRun::isAsItWas() const
+{
+    for (const auto &[path, bytes] : m_before) {
+        if (path == m_home.dataFile())
+            return bytesOf(path) == bytes;
+    }
+    return !QFile::exists(m_home.dataFile());
+}
+
 void FaultRun::lookWhetherSettled()
 {
     const bool settled = isSaved() && isCopied();
@@ -217,6 +226,8 @@ void FaultRun::judgeRecords()
     const QStringList notInFile = m_record.missing(file);
     if (file.whole && notInFile.isEmpty())
         return;
+    if (m_process.exitStatus() == QProcess::NormalExit && m_process.exitCode() != 0 && !isAsItWas())
+        m_problems.append(u"refused, and the file is not as it was"_s);
     if (file.whole && m_fault.kills()) {
         m_problems.append(u"not in the file: "_s + notInFile.join(u", "));
         return;

@@ -69,6 +69,7 @@ private:
     void finished();
     bool isSaved() const;
     bool isCopied() const;
+    bool isAsItWas() const;
     void judge();
     void judgeCopies();
     void judgeRecords();

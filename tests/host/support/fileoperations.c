@@ -258,19 +258,19 @@ int unlinkat(int directory, const char *path, int flags)
 int rename(const char *from, const char *to)
 {
     REAL(int, rename, const char *, const char *);
-    PATH(AT_FDCWD, to, -1, "rename", "scp", real(from, to));
+    PATH(AT_FDCWD, to, -1, "rename", "cp", real(from, to));
 }
 
 int renameat(int fromDirectory, const char *from, int toDirectory, const char *to)
 {
     REAL(int, renameat, int, const char *, int, const char *);
-    PATH(toDirectory, to, -1, "rename", "scp", real(fromDirectory, from, toDirectory, to));
+    PATH(toDirectory, to, -1, "rename", "cp", real(fromDirectory, from, toDirectory, to));
 }
 
 int renameat2(int fromDirectory, const char *from, int toDirectory, const char *to, unsigned int flags)
 {
     REAL(int, renameat2, int, const char *, int, const char *, unsigned int);
-    PATH(toDirectory, to, -1, "rename", "scp", real(fromDirectory, from, toDirectory, to, flags));
+    PATH(toDirectory, to, -1, "rename", "cp", real(fromDirectory, from, toDirectory, to, flags));
 }
 
 int link(const char *from, const char *to)

@@ -80,7 +80,7 @@ QStringList Harness::complaints(const QByteArray &standardError)
     return QString::fromUtf8(standardError).split(u'\n').filter(u"voltbok: "_s);
 }
 
-QStringList Harness::sharedLeftovers()
+QStringList Harness::sharedLeftovers(const QStringList &before)
 {
     // What it would be called: a lock, a socket, a temporary folder.
     const QStringList patterns{u"voltbok-*.lock"_s, u"voltbok.*"_s, u"Voltbok*"_s, u"org.voltbok*"_s};
@@ -89,5 +89,6 @@ QStringList Harness::sharedLeftovers()
         for (const QString &name : QDir(place).entryList(patterns, QDir::AllEntries | QDir::System))
             names.append(place + u'/' + name);
     }
+    names.removeIf([&](const QString &name) { return before.contains(name); });
     return names;
 }

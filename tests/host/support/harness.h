@@ -40,7 +40,7 @@ QByteArray command(const QStringList &words);
 /** What the program has said in lines of its own on standard error. */
 QStringList complaints(const QByteArray &standardError);
 
-/** What programs have left in the places that all of them share. */
-QStringList sharedLeftovers();
+/** What is in the places that all programs share and was not there @p before; other tests may be at work. */
+QStringList sharedLeftovers(const QStringList &before = {});
 
 } // namespace Harness

@@ -139,3 +139,13 @@ int Record::changes(qint64 time) const
         return event.isDone() && event.time <= time && Changes.contains(event.words.value(0));
     }));
 }
+
+qint64 Record::longestRest(qint64 time) const
+{
+    qint64 longest = 0;
+    for (qsizetype i = 1; i < m_events.size(); ++i) {
+        if (m_events.at(i).time >= time)
+            longest = qMax(longest, m_events.at(i).time - m_events.at(i - 1).time);
+    }
+    return longest;
+}

@@ -36,6 +36,10 @@ public:
      */
     QStringList missing(const Logbook &found, qint64 time = std::numeric_limits<qint64>::max()) const;
 
+    /** The longest time without a report since @p time, in ms: a machine that is busy with other things lets
+     * every thread wait. */
+    qint64 longestRest(qint64 time) const;
+
     /** How many changes were acknowledged until @p time. */
     int changes(qint64 time = std::numeric_limits<qint64>::max()) const;
 
