@@ -32,5 +32,8 @@ void charts(Report &report, const Plan &plan);
 void memory(Report &report, const Plan &plan);
 /** A program with the window against one with an empty main window, from start to first painted frame. */
 void startup(Report &report, const Plan &plan);
+/** What the program's care for the file costs the window's thread, against the window's own save and reload.
+ */
+void care(Report &report, const Plan &plan);
 
 } // namespace Benchmarks

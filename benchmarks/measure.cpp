@@ -31,13 +31,23 @@ public:
     void PrintHeader(const Run & /*run*/) override {}
 };
 
+double secondsOf(clockid_t clock)
+{
+    timespec now = {};
+    clock_gettime(clock, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
 } // namespace
 
 double Measure::processorTime()
 {
-    timespec now = {};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+    return secondsOf(CLOCK_PROCESS_CPUTIME_ID);
+}
+
+double Measure::threadProcessorTime()
+{
+    return secondsOf(CLOCK_THREAD_CPUTIME_ID);
 }
 
 double Measure::childrenProcessorTime()

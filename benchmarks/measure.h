@@ -20,6 +20,18 @@ double processorTime();
 /** Processor seconds that the children of this process have used; counts those that have ended. */
 double childrenProcessorTime();
 
+/** Processor seconds that this thread has used. */
+double threadProcessorTime();
+
+/** Processor seconds that @p work takes in this thread, whatever others do meanwhile. */
+template <typename Work>
+double threadSeconds(Work work)
+{
+    const double start = threadProcessorTime();
+    work();
+    return threadProcessorTime() - start;
+}
+
 /** Processor seconds that @p work takes. */
 template <typename Work>
 double seconds(Work work)

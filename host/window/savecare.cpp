@@ -196,8 +196,7 @@ QString SaveCare::lossText(Loss loss)
     case Loss::Everything:
         return tr(
             "The logbook could not be saved in “%1”: %2. This window shows less than you have recorded. "
-            "Restore the last state, or keep it in another folder; then enter your last change again. "
-            "Until then nothing else can be entered.");
+            "Restore the last state, or keep it in another folder; then enter your last change again.");
     case Loss::None:
         break;
     }
