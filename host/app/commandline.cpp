@@ -108,7 +108,7 @@ QString misunderstanding(const QCommandLineParser &parser, const QStringList &ar
         return needsValue(spelled(arguments, unknown.first()));
     if (!unknown.isEmpty())
         return Text::tr("“%1” is not an option of this program.").arg(spelled(arguments, unknown.first()));
-    const QString last = arguments.last();
+    const QString &last = arguments.last();
     if (nameOf(last) == "data"_L1 || nameOf(last) == "screenshot"_L1)
         return needsValue(last);
     for (const QString &argument : arguments) {

@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
+#include <system_error>
 #include <tuple>
 
 using namespace Qt::Literals::StringLiterals;
@@ -26,11 +28,27 @@ bool isNewer(const Copy &a, const Copy &b)
     return std::tie(a.number, a.time, a.name) > std::tie(b.number, b.time, b.name);
 }
 
-/** One more than the highest number in any name there, be it a regular file or not: the name is then free. */
-quint64 nextNumber(const QDir &folder)
+/**
+ * The names of everything in the folder of the copies; nothing where it cannot be listed. QDir does not tell
+ * that from an empty folder, whose next copy would be number one.
+ */
+std::optional<QStringList> namesIn(const QDir &folder)
+{
+    QStringList names;
+    std::error_code error;
+    std::filesystem::directory_iterator entry(folder.filesystemPath(), error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error))
+        names.append(QFile::decodeName(entry->path().filename().string().c_str()));
+    const bool isThere = error != std::errc::no_such_file_or_directory && error != std::errc::not_a_directory;
+    return error && isThere ? std::nullopt : std::optional(names);
+}
+
+/** One more than the highest number in any of these names, be it a regular file or not: the name is then
+ * free.
+ */
+quint64 nextNumber(const QStringList &names)
 {
     quint64 highest = 0;
-    const QStringList names = folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::System);
     for (const QString &name : names) {
         if (const std::optional<Copy> copy = Backups::parse(name))
             highest = qMax(highest, copy->number);
@@ -83,11 +101,19 @@ QString keep(const StorageFolder &folder, Copy copy)
 
 QList<Copy> Backups::list(const StorageFolder &folder)
 {
+    return listed(folder).value_or(QList<Copy>());
+}
+
+std::optional<QList<Copy>> Backups::listed(const StorageFolder &folder)
+{
+    const std::optional<QStringList> names = namesIn(folder.backups());
+    if (!names)
+        return std::nullopt;
     QList<Copy> copies;
-    const QFileInfoList files = folder.backups().entryInfoList(RegularFiles, QDir::Unsorted);
-    for (const QFileInfo &file : files) {
-        std::optional<Copy> copy = parse(file.fileName());
-        if (!copy || !file.isFile())
+    for (const QString &name : *names) {
+        std::optional<Copy> copy = parse(name);
+        const QFileInfo file(folder.backups().filePath(name));
+        if (!copy || !file.isFile() || file.isSymLink()) // what a link leads to is not ours
             continue;
         copy->size = file.size();
         copies.append(*std::move(copy));
@@ -136,6 +162,9 @@ QString Backups::add(const StorageFolder &folder, const QByteArray &document, co
     QString problem = makeFolder(folder.backups(), folderPermissions(permissions));
     if (!problem.isEmpty())
         return problem;
+    const std::optional<QStringList> names = namesIn(folder.backups());
+    if (!names)
+        return QCoreApplication::translate("Backups", "the copies that are there cannot be listed");
     QByteArray before;
     const std::optional<Copy> newest = newestWhole(folder, &before);
     if (newest && before == document)
@@ -145,7 +174,7 @@ QString Backups::add(const StorageFolder &folder, const QByteArray &document, co
     if (!problem.isEmpty())
         return problem;
     Copy copy;
-    copy.number = nextNumber(folder.backups());
+    copy.number = nextNumber(*names);
     copy.time = now;
     return WholeFile::write(folder.backups().filePath(fileName(copy)), document, permissions);
 }

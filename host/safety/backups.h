@@ -46,6 +46,9 @@ QString fileName(const Copy &copy);
  * count. */
 QList<Copy> list(const StorageFolder &folder);
 
+/** The same; nothing where the folder of the copies is there and cannot be listed. */
+std::optional<QList<Copy>> listed(const StorageFolder &folder);
+
 /**
  * The names of the copies that may go, of those in @p newestFirst.
  *

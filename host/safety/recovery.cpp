@@ -43,11 +43,10 @@ QString replacementFor(const StorageFolder &folder)
 }
 
 /** Renames a file; the new name is free. @return why it has its old name still, a clause. */
-QString move(const QString &path, const QString &newPath)
+QString moved(const QString &from, const QString &to)
 {
-    return QFile::rename(path, newPath)
-               ? QString()
-               : translated(QT_TRANSLATE_NOOP("Recovery", "“%1” cannot be renamed")).arg(path);
+    QFile file(from);
+    return file.rename(to) ? QString() : WholeFile::clause(file.errorString());
 }
 
 bool holds(const QString &path, const QByteArray &document)
@@ -116,13 +115,13 @@ FileState Recovery::examine(const StorageFolder &folder)
 {
     WholeFile::Reading reading = WholeFile::read(folder.dataFile());
     if (reading.isMissing) {
-        const QFileInfo copies(folder.backups().path());
-        if (copies.isDir() && !(copies.isReadable() && copies.isExecutable()))
+        const std::optional<QList<Copy>> copies = Backups::listed(folder);
+        if (!copies)
             return {FileState::Unreadable,
                     translated(QT_TRANSLATE_NOOP(
                         "Recovery", "it is missing, and the folder of its copies cannot be read")),
                     {}};
-        const bool isNew = Backups::list(folder).isEmpty() && folder.asides().isEmpty();
+        const bool isNew = copies->isEmpty() && folder.asides().isEmpty();
         return isNew ? FileState()
                      : FileState{FileState::Missing,
                                  translated(QT_TRANSLATE_NOOP("Recovery", "it is missing")),
@@ -141,19 +140,21 @@ QString Recovery::replace(const StorageFolder &folder, const QByteArray &documen
     if (leadsNowhere(folder))
         return WholeFile::read(folder.dataFile()).problem;
     const QString path = folder.dataFileTarget();
+    if (isThere(path) && !QFileInfo(path).isFile()) // a device must not be moved, whatever led here
+        return translated(QT_TRANSLATE_NOOP("Recovery", "it is not a regular file"));
     const QString replacement = folder.replacement();
     // What has that name already may be the only one of its kind, or a link to anywhere.
-    QString problem = isThere(replacement) ? move(replacement, folder.aside(now)) : QString();
+    QString problem = isThere(replacement) ? moved(replacement, folder.aside(now)) : QString();
     if (problem.isEmpty())
         problem = WholeFile::write(replacement, document, permissionsFor(folder));
     if (!problem.isEmpty())
         return problem;
 
     const QString kept = isThere(path) ? folder.aside(now) : QString();
-    problem = kept.isEmpty() ? QString() : move(path, kept);
+    problem = kept.isEmpty() ? QString() : moved(path, kept);
     const bool movedAside = !kept.isEmpty() && problem.isEmpty();
     if (problem.isEmpty())
-        problem = move(replacement, path);
+        problem = moved(replacement, path);
     if (problem.isEmpty()) {
         *aside = kept;
         return QString();
