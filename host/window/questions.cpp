@@ -124,8 +124,8 @@ void QuestionBox::addButtons(const Question &question)
             button->setFocus();
         }
     }
-    buttons->setFocusProxy(
-        nullptr); // with one, Tab leaves out what comes before the first button that accepts
+    // With its proxy, Tab would leave out what comes before the first button that accepts.
+    buttons->setFocusProxy(nullptr);
     m_layout->addWidget(buttons, m_layout->rowCount(), 0, 1, 2);
     if (m_choices)
         m_choices->setFocus();
