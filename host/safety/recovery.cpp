@@ -12,7 +12,9 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <filesystem>
 #include <optional>
+#include <system_error>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,6 +32,13 @@ bool isThere(const QString &path)
     return file.exists() || file.isSymLink();
 }
 
+bool isNoRegularFile(const QString &path)
+{
+    std::error_code error;
+    const auto status = std::filesystem::status(QFileInfo(path).filesystemFilePath(), error);
+    return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status);
+}
+
 bool leadsNowhere(const StorageFolder &folder)
 {
     const QFileInfo file(folder.dataFile());
@@ -42,11 +51,17 @@ QString replacementFor(const StorageFolder &folder)
     return QFileInfo(canonicalDataFile(folder)).dir().filePath(QFileInfo(folder.replacement()).fileName());
 }
 
-/** Renames a file; the new name is free. @return why it has its old name still, a clause. */
+/**
+ * Renames a file; the new name is free. QFile would copy where it cannot rename, and show a part of the file
+ * under the new name meanwhile.
+ *
+ * @return why it has its old name still, a clause.
+ */
 QString moved(const QString &from, const QString &to)
 {
-    QFile file(from);
-    return file.rename(to) ? QString() : WholeFile::clause(file.errorString());
+    std::error_code error;
+    std::filesystem::rename(QFileInfo(from).filesystemFilePath(), QFileInfo(to).filesystemFilePath(), error);
+    return error ? WholeFile::clause(qt_error_string(error.value())) : QString();
 }
 
 bool holds(const QString &path, const QByteArray &document)
@@ -140,7 +155,7 @@ QString Recovery::replace(const StorageFolder &folder, const QByteArray &documen
     if (leadsNowhere(folder))
         return WholeFile::read(folder.dataFile()).problem;
     const QString path = folder.dataFileTarget();
-    if (isThere(path) && !QFileInfo(path).isFile()) // a device must not be moved, whatever led here
+    if (isNoRegularFile(path)) // a device must not be moved, whatever led here
         return translated(QT_TRANSLATE_NOOP("Recovery", "it is not a regular file"));
     const QString replacement = folder.replacement();
     // What has that name already may be the only one of its kind, or a link to anywhere.
@@ -159,7 +174,7 @@ QString Recovery::replace(const StorageFolder &folder, const QByteArray &documen
         *aside = kept;
         return QString();
     }
-    if (!movedAside || QFile::rename(kept, path))
+    if (!movedAside || moved(kept, path).isEmpty())
         QFile::remove(replacement);
     return problem;
 }

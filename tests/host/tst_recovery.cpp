@@ -38,6 +38,7 @@ private Q_SLOTS:
     void aFullFileSystemLeavesAllAsItWas();
     void aFolderThatCannotBeWrittenLeavesAllAsItWas();
     void aFileThatCannotBeMovedLeavesAllAsItWas();
+    void whatIsNoRegularFileIsNeverMoved();
     void aReplacementThatIsTakenByAFolderIsMovedAside();
     void aReplacementThatIsALinkIsNotFollowed();
     void aReplacementOfSomebodyElseIsKept();
@@ -147,8 +148,16 @@ void RecoveryTest::aFileThatCannotBeMovedLeavesAllAsItWas()
     QCOMPARE(seteuid(65534), 0);
     const QString problem = replace(Whole);
     QCOMPARE(seteuid(0), 0);
-    QCOMPARE(problem, u"“%1” cannot be renamed"_s.arg(m_log->dataFile()));
+    QCOMPARE(problem, u"operation not permitted"_s);
     QCOMPARE(m_log->snapshot(), before);
+}
+
+void RecoveryTest::whatIsNoRegularFileIsNeverMoved()
+{
+    QVERIFY(QDir(m_log->path()).mkpath(u"voltbok.xml/hers"_s));
+    const auto before = QDir(m_log->path()).entryList();
+    QCOMPARE(replace(Whole), u"it is not a regular file"_s);
+    QCOMPARE(QDir(m_log->path()).entryList(), before);
 }
 
 void RecoveryTest::aReplacementThatIsTakenByAFolderIsMovedAside()
