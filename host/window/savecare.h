@@ -63,7 +63,7 @@ private:
 
     void saved(bool reloaded);
     void unchanged(bool reloaded);
-    void fileBroken(const QString &reason);
+    void fileBroken(const QString &problem);
     void fileWhole();
     void changedByOthers();
     void takeForOurs();
