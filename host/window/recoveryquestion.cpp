@@ -38,8 +38,14 @@ QString whatFollows(const FileState &state)
                                 "folder, under a name that begins with “voltbok-broken-”."));
 }
 
-QString whatToChoose(const VersionsModel &versions, int first)
+QString whatToChoose(const StorageFolder &folder, const VersionsModel &versions, int first)
 {
+    if (!versions.isComplete())
+        return tr(QT_TRANSLATE_NOOP(
+                      "RecoveryQuestion",
+                      "The copies in “%1” cannot be listed just now. Quit and start the program "
+                      "again before you choose anything else."))
+            .arg(folder.backups().path());
     if (first < 0)
         return tr(QT_TRANSLATE_NOOP(
             "RecoveryQuestion", "No whole copy of it was found. Quit and look for one elsewhere before you "
@@ -75,14 +81,14 @@ std::optional<QByteArray> askForReplacement(Questions &questions, const StorageF
     enum { Quit, StartEmpty, Restore };
     Question question;
     question.text = whatIsTheMatter(folder, state);
-    question.details = whatFollows(state) + u' ' + whatToChoose(versions, first);
+    question.details = whatFollows(state) + u' ' + whatToChoose(folder, versions, first);
     question.answers = QStringList{tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "Quit")),
                                    tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "Start with an Empty Logbook"))};
     question.preferred = Quit;
     question.refusal = Quit;
     if (first >= 0) {
         question.answers.append(tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "Restore")));
-        question.preferred = versions.isCopy(first) ? Restore : Quit;
+        question.preferred = versions.isComplete() && versions.isCopy(first) ? Restore : Quit;
         question.choices = &versions;
         question.chosen = first;
     }

@@ -48,6 +48,8 @@ SaveCare::SaveCare(const StorageFolder &folder, const LogbookAccess &logbook, Me
     const QString problem = WholeFile::writeProblem(m_folder.dataFile());
     if (!problem.isEmpty())
         tellLoss(Loss::Foreseen, problem);
+    if (!isOpenedWhole())
+        tellLoss(Loss::Everything, tr("it cannot be read back"));
 }
 
 SaveCare::~SaveCare()
@@ -73,6 +75,21 @@ bool SaveCare::mayClose()
     question.preferred = GoBack;
     question.refusal = GoBack;
     return m_questions.ask(question).button == QuitAnyway;
+}
+
+/** Whether the window holds what a save of this file would keep; a disk that did not give it is asked once
+ * more. */
+bool SaveCare::isOpenedWhole()
+{
+    const QByteArray document = heldByFile();
+    if (m_openedAs == document || document.isEmpty())
+        return true;
+    const QByteArray expected = CatalogueFile::loadAndSave(document).document;
+    if (m_openedAs != expected) {
+        m_logbook.reload();
+        m_openedAs = heldByWindow();
+    }
+    return m_openedAs == expected;
 }
 
 void SaveCare::saved(bool reloaded)

@@ -61,6 +61,7 @@ private:
         Everything, ///< it is lost, and the window has read back less than was recorded before
     };
 
+    bool isOpenedWhole();
     void saved(bool reloaded);
     void unchanged(bool reloaded);
     void fileBroken(const QString &problem);

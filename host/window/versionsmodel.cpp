@@ -15,7 +15,9 @@ enum Column { Title, Size, Batteries, Models, Flights, Discharges, Count };
 VersionsModel::VersionsModel(const StorageFolder &folder, QObject *parent)
     : QAbstractTableModel(parent)
 {
-    const QList<Copy> copies = Backups::list(folder);
+    const std::optional<QList<Copy>> listed = Backups::listed(folder);
+    m_isComplete = listed.has_value();
+    const QList<Copy> copies = listed.value_or(QList<Copy>());
     for (const Copy &copy : copies)
         m_versions.append({tr("Copy of %1").arg(copy.time.toLocalTime().toString(u"yyyy-MM-dd HH:mm:ss")),
                            folder.backups().filePath(copy.name),

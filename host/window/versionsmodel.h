@@ -31,6 +31,8 @@ public:
     /** Adds a version that is in no file, at the end, if it is whole. */
     void add(const QString &title, const QByteArray &document);
 
+    /** Whether the copies could be listed. */
+    bool isComplete() const { return m_isComplete; }
     /** The first version that is whole; -1 when none is. */
     int firstWhole() const;
     /** Whether a version is one of the copies: the others are what an accident has left. */
@@ -60,6 +62,7 @@ private:
     QString text(int row, int column) const;
 
     QList<Version> m_versions;
+    bool m_isComplete = true;
     qsizetype m_copies = 0;
 };
 

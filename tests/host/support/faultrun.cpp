@@ -8,6 +8,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QDirIterator>
+#include <QRegularExpression>
 
 using namespace Host;
 using namespace Qt::Literals::StringLiterals;
@@ -126,7 +127,8 @@ void FaultRun::readReports()
         const QString &command = event.words.constFirst();
         if (command == u"messages")
             judgeMessages(event.words.mid(1));
-        m_offeredLess = m_offeredLess || !event.words.filter(u"(damaged)"_s).isEmpty();
+        static const QRegularExpression less(u"\\((damaged|cannot be read)\\)|cannot be listed"_s);
+        m_offeredLess = m_offeredLess || !event.words.filter(less).isEmpty();
         m_settleBy = event.time + (m_missed ? SettleAgainMs : SettleMs);
         if (event.isDone() && changesTheLogbook(command))
             m_settling.start(LookAgainMs);

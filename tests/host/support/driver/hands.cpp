@@ -6,9 +6,9 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QSpinBox>
 
@@ -269,11 +269,17 @@ QStringList Hands::messages()
 
 QStringList Hands::readAndCloseBox()
 {
-    const auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-    if (!box || box->buttons().size() != 1)
+    const auto *box = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+    const auto buttons = box ? box->findChildren<QPushButton *>() : QList<QPushButton *>();
+    if (buttons.size() != 1)
         return {};
-    const QStringList told{box->text(), box->informativeText()};
-    box->buttons().constFirst()->click();
+    QStringList told;
+    const auto labels = box->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        if (!label->text().isEmpty())
+            told.append(label->text().simplified());
+    }
+    buttons.constFirst()->click();
     return told;
 }
 
