@@ -109,7 +109,10 @@ void FaultRun::start()
 void FaultRun::next()
 {
     if (m_command < m_scenario.commands.size()) {
-        m_process.write(Harness::command(m_scenario.commands.at(m_command++)));
+        const QStringList &command = m_scenario.commands.at(m_command++);
+        m_process.write(Harness::command(command));
+        if (command.constFirst() == u"wait") // which it does without a report
+            next();
         return;
     }
     m_ends = true;
