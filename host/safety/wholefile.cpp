@@ -20,7 +20,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 
-constexpr qint64 LeastSpace = 16 * 1024; // bytes; a disk with less is full for every logbook
+constexpr qint64 LeastSpace = qint64(16) * 1024; // bytes; a disk with less is full for every logbook
 
 QString translated(const char *text)
 {
@@ -43,7 +43,7 @@ QString kindProblem(const QFileInfo &file)
         return translated(QT_TRANSLATE_NOOP("WholeFile", "it is not a regular file"));
     if (file.size() > WholeFile::MaximumSize)
         return translated(QT_TRANSLATE_NOOP("WholeFile", "it is larger than %1 MB"))
-            .arg(WholeFile::MaximumSize / (1024 * 1024));
+            .arg(WholeFile::MaximumSize / (qint64(1024) * 1024));
     return QString();
 }
 

@@ -18,13 +18,14 @@ VersionsModel::VersionsModel(const StorageFolder &folder, QObject *parent)
     const std::optional<QList<Copy>> listed = Backups::listed(folder);
     m_isComplete = listed.has_value();
     const QList<Copy> copies = listed.value_or(QList<Copy>());
-    for (const Copy &copy : copies)
+    for (const Copy &copy : copies) {
         m_versions.append({tr("Copy of %1").arg(copy.time.toLocalTime().toString(u"yyyy-MM-dd HH:mm:ss")),
                            folder.backups().filePath(copy.name),
                            {},
                            copy.size,
                            {}});
-    m_copies = m_versions.size();
+        ++m_copies;
+    }
     const QStringList asides = folder.asides();
     for (const QString &path : asides) {
         const QFileInfo file(path);
