@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 
 #include <cstring>
 
@@ -110,6 +111,14 @@ void OddFiles::giveAway(const QString &folder)
     while (it.hasNext())
         static_cast<void>(::lchown(QFile::encodeName(it.next()).constData(), Nobody, Nobody));
     static_cast<void>(::lchown(QFile::encodeName(folder).constData(), Nobody, Nobody));
+}
+
+bool OddFiles::giveProgram(const QString &folder)
+{
+    const QFileInfo library(QStringLiteral(LIBRARY));
+    return QFile::setPermissions(folder, QFile::Permissions(0x7755)) &&
+           QFile::copy(QStringLiteral(PROGRAM), QDir(folder).filePath(QStringLiteral("voltbok"))) &&
+           QFile::copy(library.filePath(), QDir(folder).filePath(library.fileName()));
 }
 
 void OddFiles::becomeNobody()

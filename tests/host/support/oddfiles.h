@@ -28,6 +28,9 @@ bool make(Kind kind, const QString &path);
 /** A line for everything below a folder: its path, type, mode, size, where it leads, what it holds. */
 QStringList listing(const QString &folder);
 
+/** Copies the program and its library into a folder, for everybody. @return whether that was possible. */
+bool giveProgram(const QString &folder);
+
 /** Hands everything below a folder over to somebody without rights, so that a program may run as them. */
 void giveAway(const QString &folder);
 /** What a child process calls to be that somebody. Nothing where it is no superuser in the first place. */
