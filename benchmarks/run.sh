@@ -4,7 +4,7 @@
 # and the plot in build/release/benchmarks. Arguments go to the benchmarks: --quick, or the name of a subject.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-source packaging/setup.sh
+source tools/setup.sh
 
 prepare "${build_packages[@]}" libbenchmark-dev xvfb
 build release

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Adding, modifying and deleting batteries.
+#include "gui/dateinput.h"
 #include "gui/decimalinput.h"
 #include "gui/pages.h"
 #include "gui/recordlookup.h"
@@ -7,14 +8,7 @@
 #include "gui/voltbokgui.h"
 #include "ui_voltbokgui.h"
 
-namespace {
-constexpr double TenthsOfC = 10.0;
-
-QDate dateIn(const QLineEdit *field)
-{
-    return QDate::fromString(field->text(), Qt::ISODate);
-}
-} // namespace
+using DateInput::dateIn;
 
 void VoltbokGui::on_pb_addNewBattery_clicked()
 {
@@ -45,12 +39,12 @@ void VoltbokGui::on_pb_choose_modify_battery_clicked()
         return;
     ui->ledt_modifyBattery_name->setText(battery->getBatteryName());
     ui->ledt_modifyBattery_capacity->setText(QString::number(battery->getBatteryCapacity()));
-    // Meant as it is: shown unscaled, for the field's mask sets the point, and read back times ten.
+    // Intentional: shown unscaled, for the field's mask sets the point, and read back times ten.
     ui->ledt_modifyBattery_chargeRate->setText(QString::number(battery->getBatteryChargeRate()));
     ui->ledt_modifyBattery_cyclesused->setText(QString::number(battery->getBatteryCycles()));
     ui->ledt_modifyBattery_dischargeRate->setText(QString::number(battery->getBatteryRating()));
-    ui->ledt_modifyBattery_purchaseDate->setText(battery->getdateOfPurchase().toString(Qt::ISODate));
-    showPage(ui->modBatteryView, Page::ModifyBattery);
+    ui->ledt_modifyBattery_purchaseDate->setText(DateInput::text(battery->getdateOfPurchase()));
+    showPage(Page::ModifyBattery);
 }
 
 void VoltbokGui::on_pb_update_battery_clicked()
@@ -73,7 +67,7 @@ void VoltbokGui::on_pb_deleteConfirm_clicked()
 {
     if (!confirmed(ui->pb_deleteConfirm, ui->lbl_really))
         return;
-    // Meant as it is: models go on naming the battery, and a new one of the same name is theirs at once.
+    // Intentional: models go on naming the battery, and a new one of the same name is theirs at once.
     const auto removed = RecordLookup::takeFirst(batteryList, ui->cb_batteryList_delete->currentText());
     if (removed) {
         --overviewCardCount;

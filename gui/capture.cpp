@@ -53,7 +53,7 @@ void VoltbokGui::recordFlight(const QDateTime &moment)
     ModelWidget *model = selectedModel();
     if (!model)
         return;
-    // Meant as it is: the page is never cleared, so a quick capture repeats what the last one left here.
+    // Intentional: the page is never cleared, so a quick capture repeats what the last one left here.
     LogData flight;
     flight.date = moment;
     flight.location = ui->cb_log_location->currentText();
@@ -70,7 +70,7 @@ void VoltbokGui::recordDischarge(QDateTime &moment)
     chargeBattery->setBatteryCharged(false, false);
     chargeBattery->setBatteryCycles(chargeBattery->getBatteryCycles() + 1);
     chargeBattery->addFullEntry(moment, static_cast<unsigned int>(ui->sb_discharged_capacity->value()),
-                                scaledTruncated(ui->dsb_discharged_current->value(), 100.0), true);
+                                scaledTruncated(ui->dsb_discharged_current->value(), Hundredths), true);
     chargeBattery = nullptr;
     on_pb_options_clicked(); // from the discharge page this leads to the overview
 }

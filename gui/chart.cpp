@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The chart of a battery's discharges.
-#include "gui/formats.h"
+#include "gui/decimalinput.h"
 #include "gui/voltbokgui.h"
 #include "records/batterywidget.h"
+#include "records/figures.h"
 #include "ui_voltbokgui.h"
 
 #include <QAbstractAxis>
@@ -24,7 +25,7 @@ QBrush chartBackground()
     return gradient;
 }
 
-/** The points, those that no axis can reach put to 0. */
+/** The points with non-finite values replaced by 0. */
 QList<QPointF> reachable(QList<QPointF> points)
 {
     for (QPointF &point : points) {
@@ -64,7 +65,7 @@ void VoltbokGui::on_cb_batteryData_currentIndexChanged(int index)
     chart->createDefaultAxes();
     series->replace(points);
     chart->setTitle(tr("Battery age: %1 years")
-                        .arg(Formats::ageInYears(battery.getdateOfPurchase(), QDate::currentDate())));
+                        .arg(Figures::ageInYears(battery.getdateOfPurchase(), QDate::currentDate())));
     chart->setBackgroundBrush(chartBackground());
     brightenLabels(chart->axes(Qt::Horizontal));
     brightenLabels(chart->axes(Qt::Vertical));
@@ -83,7 +84,7 @@ QList<QPointF> VoltbokGui::chartPoints(BatteryWidget &battery) const
         if (ui->rb_showmAh->isChecked())
             y = discharges.at(i);
         else if (ui->rb_showAmps->isChecked())
-            y = currents.at(i) / 100.0;
+            y = currents.at(i) / Hundredths;
         else
             y = currents.at(i) * 10.0 / capacity; // a multiple of the capacity; without one it is infinite
         points.append({static_cast<double>(i + 1), y});
@@ -94,7 +95,7 @@ QList<QPointF> VoltbokGui::chartPoints(BatteryWidget &battery) const
 void VoltbokGui::showChart(QChart *chart)
 {
     if (chartView)
-        chartView->hide(); // meant as it is: older views are kept, in their cell below the newest
+        chartView->hide(); // intentional: older views are kept, in their cell below the newest
     chartView = new QChartView(chart, this);
     chartView->setRenderHint(QPainter::Antialiasing);
     ui->layout_batteryData->removeItem(ui->verticalSpacer_chart);

@@ -3,6 +3,9 @@
 
 #include <QString>
 
+inline constexpr double TenthsOfC = 10.0;
+inline constexpr double Hundredths = 100.0; ///< of an ampere, or of a model's unit of weight
+
 /**
  * A decimal number in whole steps of the record's unit: @p value times @p scale, truncated toward zero in
  * double arithmetic and never rounded, so 1.15 in hundredths gives 114. What an unsigned integer cannot hold

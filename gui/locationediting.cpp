@@ -18,7 +18,7 @@ void VoltbokGui::on_pb_del_location_clicked()
 {
     if (!confirmed(ui->pb_del_location, ui->lbl_reallydelete_location))
         return;
-    // Meant as it is: a name that is gone already removes nothing, and still the file is written and read.
+    // Intentional: a name that is gone already removes nothing, and still the file is written and read.
     ui->cb_log_location->removeItem(ui->cb_log_location->findText(ui->cb_location_delete->currentText()));
     saveAndReload();
     showOverview();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The log book: one flight of one model at a time, with the discharge of the same moment.
-#include "gui/formats.h"
 #include "gui/recordlookup.h"
 #include "gui/voltbokgui.h"
+#include "records/figures.h"
 #include "records/shorttext.h"
 #include "ui_voltbokgui.h"
 
@@ -56,7 +56,7 @@ void VoltbokGui::showFlight(const LogData &flight)
 {
     ui->lbl_logview_time->setText(flight.date.time().toString(Qt::TextDate));
     ui->lbl_logview_date->setText(flight.date.date().toString(Qt::TextDate));
-    ui->lbl_logview_temp->setText(Formats::temperature(flight.temperature));
+    ui->lbl_logview_temp->setText(Figures::temperature(flight.temperature));
     ui->lbl_logview_location->setText(shortText(flight.location));
     ui->lbl_logview_duration->setText(flight.duration.toString(Qt::TextDate));
     ui->ptext_logview_notes->setPlainText(flight.notes);
@@ -64,14 +64,14 @@ void VoltbokGui::showFlight(const LogData &flight)
 
 void VoltbokGui::showFlownBatteries(LogData &flight, OtherBatteries others)
 {
-    // Meant as it is: every battery is asked, so after a change of model only the last one of the list can
+    // Intentional: every battery is asked, so after a change of model only the last one of the list can
     // leave its figures in the fields, and after a step the last one that was flown does.
     for (BatteryWidget *battery : std::as_const(batteryList)) {
         unsigned int discharged = 0;
         unsigned int current = 0;
         if (battery->getEvent(flight.date, discharged, current)) {
             ui->lbl_logview_capacity->setText(QString::number(discharged));
-            ui->lbl_logview_current->setText(Formats::current(current));
+            ui->lbl_logview_current->setText(Figures::logCurrent(current));
             ui->lbl_logview_battname->setText(shortText(battery->getBatteryName()));
         } else if (others == OtherBatteries::Clear) {
             ui->lbl_logview_capacity->clear();

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Adding, modifying and deleting models.
+#include "gui/dateinput.h"
 #include "gui/decimalinput.h"
 #include "gui/pages.h"
 #include "gui/recordlookup.h"
 #include "gui/uniquename.h"
 #include "gui/voltbokgui.h"
 #include "ui_voltbokgui.h"
+
+using DateInput::dateIn;
 
 void VoltbokGui::on_pb_addNewModel_clicked()
 {
@@ -15,11 +18,11 @@ void VoltbokGui::on_pb_addNewModel_clicked()
     auto *model = new ModelWidget(this);
     model->setModelName(name);
     model->setModelType(ui->ledt_addheli_type->text());
-    model->setModelWeight(scaledTruncated(ui->ledt_addheli_weight->text(), 100.0));
+    model->setModelWeight(scaledTruncated(ui->ledt_addheli_weight->text(), Hundredths));
     model->setModelSize(ui->ledt_addheli_size->text().toUInt());
     model->setModelFlights(ui->ledt_addheli_flightsused->text().toUInt());
     model->setLastUpdated(QDateTime::currentDateTime());
-    model->setDateOfPurchase(QDate::fromString(ui->ledt_addheli_purchase->text(), Qt::ISODate));
+    model->setDateOfPurchase(dateIn(ui->ledt_addheli_purchase));
     model->setAdditionalNotes(ui->ledt_addheli_notes->toPlainText());
     modelList.append(model);
     saveAndReload();
@@ -36,9 +39,9 @@ void VoltbokGui::on_pb_choose_modify_model_clicked()
     ui->ledt_modifyheli_weight->setText(QString::number(model->getModelWeight()));
     ui->ledt_modifyheli_size->setText(QString::number(model->getModelSize()));
     ui->ledt_modifyheli_flightsused->setText(QString::number(model->getModelFlights()));
-    ui->ledt_modifyheli_purchase->setText(model->getDateOfPurchase().toString(Qt::ISODate));
+    ui->ledt_modifyheli_purchase->setText(DateInput::text(model->getDateOfPurchase()));
     ui->ledt_modifyheli_notes->setPlainText(model->getAdditionalNotes());
-    showPage(ui->modModelView, Page::ModifyModel);
+    showPage(Page::ModifyModel);
 }
 
 void VoltbokGui::on_pb_update_model_clicked()
@@ -47,19 +50,19 @@ void VoltbokGui::on_pb_update_model_clicked()
     if (!model)
         return;
     model->setModelType(ui->ledt_modifyheli_type->text());
-    // Meant as it is: a new model's weight is scaled, here it is read as an integer, so 1.50 becomes 0.
+    // Intentional: a new model's weight is scaled, here it is read as an integer, so 1.50 becomes 0.
     model->setModelWeight(ui->ledt_modifyheli_weight->text().toUInt());
     model->setModelSize(ui->ledt_modifyheli_size->text().toUInt());
     model->setModelFlights(ui->ledt_modifyheli_flightsused->text().toUInt());
-    model->setDateOfPurchase(QDate::fromString(ui->ledt_modifyheli_purchase->text(), Qt::ISODate));
+    model->setDateOfPurchase(dateIn(ui->ledt_modifyheli_purchase));
     model->setAdditionalNotes(ui->ledt_modifyheli_notes->toPlainText());
-    saveAndReload(); // meant as it is: unlike a battery's, the time of the last update stays
+    saveAndReload(); // intentional: unlike a battery's, the time of the last update stays
     showOverview();
 }
 
 void VoltbokGui::on_pb_deleteConfirm_model_clicked()
 {
-    // Meant as it is: no choice of another model takes the first click back, unlike on the battery page.
+    // Intentional: no choice of another model takes the first click back, unlike on the battery page.
     if (!confirmed(ui->pb_deleteConfirm_model, ui->lbl_reallydelete_model))
         return;
     if (RecordLookup::takeFirst(modelList, ui->cb_modelList_delete->currentText())) {

@@ -15,7 +15,7 @@ bool Page::opensMenu(int page)
     case ModifyBattery:
     case ModifyModel:
         return true;
-    // Meant as it is: the edit page, both location pages and the discharge page skip the menu.
+    // Intentional: the edit page, both location pages and the discharge page skip the menu.
     default:
         return false;
     }

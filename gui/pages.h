@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-/** Identifiers of the window's pages, as kept in its `currentPage`; they are not the indices in the page
- * stack. */
+/** Identifiers of the window's pages; they are not the indices in the page stack. */
 namespace Page {
 enum Id : int {
     Overview = 0,

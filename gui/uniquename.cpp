@@ -9,7 +9,7 @@ QString uniqueName(const QString &base, const QStringList &existing)
         if (existing.at(i) != candidate)
             continue;
         candidate = base + u'_' + QString::number(++counter);
-        i = 0; // meant as it is: the search goes on at index 1, not at index 0
+        i = 0; // intentional: the search goes on at index 1, not at index 0
     }
     return candidate;
 }

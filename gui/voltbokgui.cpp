@@ -51,7 +51,7 @@ void VoltbokGui::changeStoragePath(const QString &path)
 
 void VoltbokGui::keyPressEvent(QKeyEvent *event)
 {
-    // Meant as it is: the event is neither accepted nor ignored nor passed on.
+    // Intentional: the event is neither accepted nor ignored nor passed on.
     Q_UNUSED(event)
 }
 

@@ -21,6 +21,9 @@ class QKeyEvent;
 class QLabel;
 class QPushButton;
 class Ui_VoltbokGui;
+namespace Page {
+enum Id : int;
+}
 
 /**
  * The logbook's main window: fifteen pages over one data file.
@@ -105,7 +108,8 @@ private:
     void retranslate();
 
     // navigation
-    void showPage(QWidget *page, int id);
+    QWidget *widgetOf(Page::Id page) const;
+    void showPage(Page::Id page);
     void showOverview();
 
     // overview

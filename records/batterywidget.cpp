@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/batterywidget.h"
 
-#include "records/cardtext.h"
+#include "records/figures.h"
 #include "records/shorttext.h"
 #include "ui_batterywidget.h"
 
@@ -83,7 +83,7 @@ QString BatteryWidget::getBatteryName() const
 void BatteryWidget::setBatteryCapacity(unsigned int capacity)
 {
     d->capacity = capacity;
-    d->ui.lbl_capacity->setText(CardText::charge(capacity));
+    d->ui.lbl_capacity->setText(Figures::charge(capacity));
 }
 
 unsigned int BatteryWidget::getBatteryCapacity() const
@@ -94,7 +94,7 @@ unsigned int BatteryWidget::getBatteryCapacity() const
 void BatteryWidget::setBatteryRating(unsigned int rating)
 {
     d->rating = rating;
-    d->ui.lbl_rate->setText(CardText::rates(rating, d->chargeRate));
+    d->ui.lbl_rate->setText(Figures::rates(rating, d->chargeRate));
 }
 
 unsigned int BatteryWidget::getBatteryRating() const
@@ -116,7 +116,7 @@ unsigned int BatteryWidget::getBatteryCycles() const
 void BatteryWidget::setBatteryLastDischarged(unsigned int discharged)
 {
     d->lastDischarged = discharged;
-    d->ui.lbl_discharged->setText(CardText::charge(discharged));
+    d->ui.lbl_discharged->setText(Figures::charge(discharged));
 }
 
 unsigned int BatteryWidget::getBatteryLastDischarged() const
@@ -127,7 +127,7 @@ unsigned int BatteryWidget::getBatteryLastDischarged() const
 void BatteryWidget::setBatteryLastMaxCurrent(unsigned int maxCurrent)
 {
     d->lastMaxCurrent = maxCurrent;
-    d->ui.lbl_maxCurrent->setText(CardText::current(maxCurrent));
+    d->ui.lbl_maxCurrent->setText(Figures::cardCurrent(maxCurrent));
 }
 
 unsigned int BatteryWidget::getBatteryLastMaxCurrent() const
@@ -140,7 +140,7 @@ void BatteryWidget::setBatteryChargeRate(unsigned int rate)
     if (rate == 0) // deliberately: the rate cannot be cleared
         return;
     d->chargeRate = rate;
-    d->ui.lbl_rate->setText(CardText::rates(d->rating, rate));
+    d->ui.lbl_rate->setText(Figures::rates(d->rating, rate));
 }
 
 unsigned int BatteryWidget::getBatteryChargeRate() const

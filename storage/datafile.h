@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QDir>
 #include <QString>
 #include <QStringView>
 
@@ -8,7 +9,10 @@
 namespace DataFile {
 
 /** The path of the data file in @p basePath; an empty one stands for the working directory. */
-QString pathIn(const QString &basePath);
+inline QString pathIn(const QString &basePath)
+{
+    return QDir(basePath).absoluteFilePath(QStringLiteral("voltbok.xml"));
+}
 
 /**
  * The names of elements and attributes, each spelled here and nowhere else.

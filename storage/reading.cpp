@@ -7,7 +7,8 @@
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
 #include "storage/datafile.h"
-#include "storage/textencoding.h"
+#include "storage/textdate.h"
+#include "storage/valuetext.h"
 
 #include <QFile>
 
@@ -15,7 +16,8 @@
 #include <memory>
 
 namespace Key = DataFile::Key;
-using namespace TextEncoding;
+using namespace TextDate;
+using namespace ValueText;
 
 namespace {
 
@@ -66,35 +68,6 @@ void readEntries(QXmlStreamReader &reader, QStringView container, QStringView en
             readEntry(reader.attributes());
     }
 }
-
-/**
- * The dates of a container's entries, as they stand in the file. They are converted together at its end,
- * which takes a good deal less than between the reader's own work.
- */
-class Moments
-{
-public:
-    void append(QStringView text)
-    {
-        characters.append(text);
-        ends.append(characters.size());
-    }
-
-    /** Calls @p take with the date of each entry, in their order. */
-    template <typename Take>
-    void convert(Take take) const
-    {
-        qsizetype begin = 0;
-        for (const qsizetype end : ends) {
-            take(toDateTime(QStringView(characters).mid(begin, end - begin)));
-            begin = end;
-        }
-    }
-
-private:
-    QString characters;
-    QList<qsizetype> ends;
-};
 
 } // namespace
 
@@ -168,24 +141,22 @@ void DataProcessor::readBatteryData(BatteryWidget *battery)
     QList<unsigned int> &discharges = battery->getDischarges();
     QList<unsigned int> &currents = battery->getCurrents();
     const qsizetype before = dates.size();
-    Moments moments;
     readEntries(reader, Key::Data, Key::Cycle, [&](const QXmlStreamAttributes &attributes) {
-        QStringView date;
+        QDateTime when;
         unsigned int discharged = 0;
         unsigned int current = 0;
         for (const QXmlStreamAttribute &attribute : attributes) {
             if (contains(attribute.name(), Key::Date))
-                date = attribute.value();
+                when = toDateTime(attribute.value());
             if (contains(attribute.name(), Key::Current))
                 current = toUnsigned(attribute.value());
             if (contains(attribute.name(), Key::Discharged))
                 discharged = toUnsigned(attribute.value());
         }
-        moments.append(date);
+        dates.append(when);
         discharges.append(discharged);
         currents.append(current);
     });
-    moments.convert([&dates](const QDateTime &when) { dates.append(when); });
     if (dates.size() == before)
         return;
     dates.squeeze(); // lists that grow have up to as much to spare again
@@ -228,14 +199,11 @@ void DataProcessor::readModels(QList<ModelWidget *> &models)
 void DataProcessor::readFlightData(ModelWidget *model)
 {
     QList<LogData> &flights = model->getLogData();
-    qsizetype next = flights.size();
-    Moments moments;
     readEntries(reader, Key::FlightLog, Key::LogData, [&](const QXmlStreamAttributes &attributes) {
-        QStringView date;
         LogData flight;
         for (const QXmlStreamAttribute &attribute : attributes) {
             if (contains(attribute.name(), Key::Date))
-                date = attribute.value();
+                flight.date = toDateTime(attribute.value());
             if (contains(attribute.name(), Key::Location))
                 flight.location = toText(attribute.value());
             if (contains(attribute.name(), Key::Duration))
@@ -245,9 +213,7 @@ void DataProcessor::readFlightData(ModelWidget *model)
             if (contains(attribute.name(), Key::Notes))
                 flight.notes = toText(attribute.value());
         }
-        moments.append(date);
         model->addLogData(flight);
     });
-    moments.convert([&](const QDateTime &when) { flights[next++].date = when; });
     flights.squeeze();
 }

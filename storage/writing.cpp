@@ -6,7 +6,8 @@
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
 #include "storage/datafile.h"
-#include "storage/textencoding.h"
+#include "storage/textdate.h"
+#include "storage/valuetext.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,7 +15,8 @@
 #include <utility>
 
 namespace Key = DataFile::Key;
-using namespace TextEncoding;
+using namespace TextDate;
+using namespace ValueText;
 
 namespace {
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/safety/backupkeeper.h"
 
-#include "keeperears.h"
-#include "logbookfiles.h"
-#include "lyingdisk.h"
+#include "tests/host/support/keeperears.h"
+#include "tests/host/support/logbookfiles.h"
+#include "tests/host/support/lyingdisk.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>

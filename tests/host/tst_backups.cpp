@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "../brokendisk.h"
-#include "logbookfiles.h"
+#include "tests/host/support/logbookfiles.h"
+#include "tests/support/brokendisk.h"
 
 #include <QTemporaryDir>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gui/voltbokgui.h"
 #include "host/data/cataloguefile.h"
-#include "tests/brokendisk.h"
 #include "tests/host/support/files.h"
+#include "tests/support/brokendisk.h"
 
 #include <QFileInfo>
 #include <QPushButton>

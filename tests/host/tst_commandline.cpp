@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "program.h"
+#include "tests/host/support/program.h"
 
 #include "host/app/commandline.h"
 

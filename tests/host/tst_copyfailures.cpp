@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the keeper of the copies does and says when the disk fails it.
-#include "../brokendisk.h"
-#include "keeperears.h"
-#include "logbookfiles.h"
-#include "lyingdisk.h"
+#include "tests/host/support/keeperears.h"
+#include "tests/host/support/logbookfiles.h"
+#include "tests/host/support/lyingdisk.h"
+#include "tests/support/brokendisk.h"
 
 #include <QTemporaryDir>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/demo/demo.h"
-#include "tests/brokendisk.h"
 #include "tests/host/support/logbookfolder.h"
+#include "tests/support/brokendisk.h"
 
 #include <QTest>
 

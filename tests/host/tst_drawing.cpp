@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The picture that is drawn instead of opening the window.
-#include "tests/host/logbookfiles.h"
+#include "tests/host/support/logbookfiles.h"
 #include "tests/host/support/logbookfolder.h"
 #include "tests/host/support/started.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/safety/recovery.h"
 #include "host/safety/wholefile.h"
-#include "tests/host/logbookfiles.h"
+#include "tests/host/support/logbookfiles.h"
 #include "tests/host/support/logbookfolder.h"
 
 #include <QElapsedTimer>

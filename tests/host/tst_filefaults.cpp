@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "faultrun.h"
 #include "host/safety/backups.h"
 #include "host/safety/storagefolder.h"
-#include "session.h"
+#include "tests/host/support/faultrun.h"
+#include "tests/host/support/session.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>

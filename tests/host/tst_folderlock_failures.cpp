@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "lockplace.h"
-#include "tests/brokendisk.h"
+#include "tests/host/support/lockplace.h"
+#include "tests/support/brokendisk.h"
 
 #include "host/safety/folderlock.h"
 

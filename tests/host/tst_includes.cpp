@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "includerules.h"
+#include "tests/host/support/includerules.h"
 
 #include <QDirIterator>
 #include <QTest>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "lockplace.h"
+#include "tests/host/support/lockplace.h"
 
 #include <QElapsedTimer>
 #include <QTest>

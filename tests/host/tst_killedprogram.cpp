@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "harness.h"
 #include "host/safety/backups.h"
 #include "host/safety/recovery.h"
 #include "host/safety/storagefolder.h"
-#include "logbook.h"
-#include "record.h"
+#include "tests/host/support/harness.h"
+#include "tests/host/support/logbook.h"
+#include "tests/host/support/record.h"
 
 #include <QElapsedTimer>
 #include <QProcess>

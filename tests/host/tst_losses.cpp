@@ -2,9 +2,9 @@
 #include "host/data/cataloguefile.h"
 #include "host/data/losses.h"
 #include "host/safety/wholefile.h"
-#include "tests/host/logbookfiles.h"
 #include "tests/host/support/facts.h"
 #include "tests/host/support/files.h"
+#include "tests/host/support/logbookfiles.h"
 #include "tests/host/support/mutations.h"
 
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Opening a folder, closing the window, and what is in the file afterwards.
-#include "support/brokensaves.h"
+#include "tests/host/support/brokensaves.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "harness.h"
 #include "host/safety/backups.h"
 #include "host/safety/storagefolder.h"
-#include "logbook.h"
-#include "oddfiles.h"
-#include "session.h"
 #include "storage/dataprocessor.h"
+#include "tests/host/support/harness.h"
+#include "tests/host/support/logbook.h"
+#include "tests/host/support/oddfiles.h"
+#include "tests/host/support/session.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -203,7 +203,7 @@ void ProgramTest::theDemoIsCopiedToAFolderOfItsOwnAndKept()
     const QStringList draw{u"--screenshot"_s, file(u"window.png"_s)};
     const QString copy = file(u"home/Voltbok-demo/voltbok.xml"_s);
     QCOMPARE(run(QStringList{u"--demo"_s} + draw, false).status, 0);
-    QCOMPARE(bytesOf(copy), bytesOf(QStringLiteral(DEMO)));
+    QCOMPARE(bytesOf(copy), bytesOf(QStringLiteral(SAMPLE)));
 
     QFile edited(copy);
     QVERIFY(edited.open(QFile::WriteOnly));
@@ -212,12 +212,12 @@ void ProgramTest::theDemoIsCopiedToAFolderOfItsOwnAndKept()
     QCOMPARE(run(QStringList{u"--demo"_s} + draw, false).status, 0);
     QCOMPARE(bytesOf(copy), smallLogbook());
     QCOMPARE(run(QStringList{u"--reset-demo"_s} + draw, false).status, 0);
-    QCOMPARE(bytesOf(copy), bytesOf(QStringLiteral(DEMO)));
+    QCOMPARE(bytesOf(copy), bytesOf(QStringLiteral(SAMPLE)));
 }
 
 void ProgramTest::theDemoFileIsInTheBytesOfTheLibrary()
 {
-    m_home->makeLogbook(bytesOf(QStringLiteral(DEMO)));
+    m_home->makeLogbook(bytesOf(QStringLiteral(SAMPLE)));
     DataProcessor processor(nullptr);
     processor.setBasePath(m_home->logbook());
     QList<QString> locations;
@@ -227,14 +227,14 @@ void ProgramTest::theDemoFileIsInTheBytesOfTheLibrary()
     processor.getModelWidgetsFromData(models);
     processor.getBatteryWidgetsFromData(batteries);
     processor.addData(batteries, models, locations);
-    QCOMPARE(bytesOf(m_home->dataFile()), bytesOf(QStringLiteral(DEMO)));
+    QCOMPARE(bytesOf(m_home->dataFile()), bytesOf(QStringLiteral(SAMPLE)));
     qDeleteAll(batteries);
     qDeleteAll(models);
 }
 
 void ProgramTest::theDemoIsGenerous()
 {
-    const QByteArray demo = bytesOf(QStringLiteral(DEMO));
+    const QByteArray demo = bytesOf(QStringLiteral(SAMPLE));
     QVERIFY(demo.count("<Location ") >= 6);
     QVERIFY(demo.count("<Capacity>") >= 12);
     QVERIFY(demo.count("<Type>") >= 4);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The boxes themselves, on a small screen of a real platform.
-#include "support/xvfb.h"
+#include "tests/host/support/xvfb.h"
 
 #include "host/window/questions.h"
 

@@ -2,8 +2,8 @@
 #include "host/data/cataloguefile.h"
 #include "host/safety/recovery.h"
 #include "host/safety/wholefile.h"
-#include "tests/brokendisk.h"
 #include "tests/host/support/logbookfolder.h"
+#include "tests/support/brokendisk.h"
 
 #include <QElapsedTimer>
 #include <QTest>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every way in which a save can fail, what is said about it, and what each button does.
-#include "support/brokensaves.h"
+#include "tests/host/support/brokensaves.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace Faults;

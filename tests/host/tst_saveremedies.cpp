@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The buttons of the message about a save that failed: what they put back, and where.
-#include "support/brokensaves.h"
+#include "tests/host/support/brokensaves.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace Faults;

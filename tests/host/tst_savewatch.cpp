@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is a save of the window, what is a change by another program, and what is neither.
-#include "support/hostwindow.h"
+#include "tests/host/support/hostwindow.h"
 
 #include <QSaveFile>
 #include <QSignalSpy>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whose folder it is that the program starts in, and whether it is the right one.
 #include "host/safety/folderlock.h"
-#include "tests/brokendisk.h"
 #include "tests/host/support/logbookfolder.h"
 #include "tests/host/support/started.h"
+#include "tests/support/brokendisk.h"
 
 #include <QTest>
 

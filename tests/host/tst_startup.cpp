@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/data/cataloguefile.h"
-#include "tests/brokendisk.h"
-#include "tests/host/logbookfiles.h"
+#include "tests/host/support/logbookfiles.h"
 #include "tests/host/support/logbookfolder.h"
 #include "tests/host/support/started.h"
+#include "tests/support/brokendisk.h"
 
 #include <QTest>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/safety/storagefolder.h"
 
-#include "logbookfiles.h"
+#include "tests/host/support/logbookfiles.h"
 
 #include <QStandardPaths>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Which copies may go. Times in the tables are those of the clock on the wall unless a Z follows.
-#include "logbookfiles.h"
+#include "tests/host/support/logbookfiles.h"
 
 #include <QRandomGenerator>
 #include <QSet>

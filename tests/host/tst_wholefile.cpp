@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/safety/wholefile.h"
 
-#include "../brokendisk.h"
-#include "logbookfiles.h"
-#include "lyingdisk.h"
+#include "tests/host/support/logbookfiles.h"
+#include "tests/host/support/lyingdisk.h"
+#include "tests/support/brokendisk.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -101,7 +101,7 @@ void WholeFileTest::aDocumentIsWholeWhenItIsOneLogbook()
 
 void WholeFileTest::theContentsAreCounted()
 {
-    const Contents contents = WholeFile::inspect(contentsOf(QStringLiteral(DEMO)));
+    const Contents contents = WholeFile::inspect(contentsOf(QStringLiteral(SAMPLE)));
     QCOMPARE(contents.problem, QString());
     QCOMPARE(contents.locations, 6);
     QCOMPARE(contents.batteries, 12);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "../../brokendisk.h"
-#include "hostwindow.h"
+#include "tests/host/support/hostwindow.h"
+#include "tests/support/brokendisk.h"
 
 #include <functional>
 #include <memory>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "faultrun.h"
+#include "tests/host/support/faultrun.h"
 
 #include "host/safety/backups.h"
 #include "host/safety/recovery.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "harness.h"
+#include "tests/host/support/harness.h"
 
 #include <QDir>
 #include <QDirIterator>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "../../logbookwindow.h"
-#include "../../xml.h"
-#include "scriptedquestions.h"
+#include "tests/host/support/scriptedquestions.h"
+#include "tests/support/logbookwindow.h"
+#include "tests/support/xml.h"
 
 #include "gui/pages.h"
 #include "host/safety/backups.h"

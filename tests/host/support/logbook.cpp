@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "logbook.h"
+#include "tests/host/support/logbook.h"
 
 #include <QFile>
 #include <QXmlStreamReader>

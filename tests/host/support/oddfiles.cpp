@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "oddfiles.h"
+#include "tests/host/support/oddfiles.h"
 
-#include "logbook.h"
+#include "tests/host/support/logbook.h"
 
 #include <QDir>
 #include <QDirIterator>

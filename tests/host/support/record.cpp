@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "record.h"
+#include "tests/host/support/record.h"
 
 #include <algorithm>
 

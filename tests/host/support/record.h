@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "logbook.h"
+#include "tests/host/support/logbook.h"
 
 #include <QSet>
 

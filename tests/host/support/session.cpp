@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "session.h"
+#include "tests/host/support/session.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "harness.h"
-#include "record.h"
+#include "tests/host/support/harness.h"
+#include "tests/host/support/record.h"
 
 #include <QProcess>
 

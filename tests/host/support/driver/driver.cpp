@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "driver.h"
+#include "tests/host/support/driver/driver.h"
 
-#include "hands.h"
+#include "tests/host/support/driver/hands.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "hands.h"
+#include "tests/host/support/driver/hands.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

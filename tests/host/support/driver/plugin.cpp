@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "driver.h"
+#include "tests/host/support/driver/driver.h"
 
 #include <QGenericPlugin>
 

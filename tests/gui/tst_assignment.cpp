@@ -1,0 +1,279 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/editingwindow.h"
+
+#include <QPointer>
+
+using namespace Qt::Literals::StringLiterals;
+
+class AssignmentTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void addAssignsTheBatteryAndTheButtonsSwap();
+    void removeTakesTheBatteryAwayAndTheButtonsSwap();
+    void exactlyOneButtonIsEnabledForEveryPair_data();
+    void exactlyOneButtonIsEnabledForEveryPair();
+    void theButtonsFollowTheModelOfTheOverview();
+    void theButtonsFollowAReload();
+    void severalBatteriesAreAssignedInARow();
+    void eachAssignmentGoesBackToTheFirstPairOnPurpose();
+    void theModelThatThePreferencesNameStaysChosen();
+    void theRecordsOnScreenAreReadFromTheFile();
+    void theTimeOfTheLastUpdateStays();
+    void removeTakesOnlyTheExactName();
+    void ofTwoModelsOfOneNameTheLastIsMeant();
+    void withoutModelOnlyAddIsEnabledAndDoesNothing();
+    void aBatteryThatIsGoneCanBeAssignedOnPurpose();
+    void withoutAnyBatteryTheEmptyNameIsAssignedOnPurpose();
+
+private:
+    static QByteArray catalogue();
+    static void expectAssigned(EditingWindow &window, bool assigned);
+    static void choosePair(EditingWindow &window, const QString &model, const QString &battery);
+};
+
+QByteArray AssignmentTest::catalogue()
+{
+    return EditingWindow::document({EditingWindow::batteryElement("A"), EditingWindow::batteryElement("B"),
+                                    EditingWindow::batteryElement("C"),
+                                    EditingWindow::modelElement("Bird", {"B"}),
+                                    EditingWindow::modelElement("Wing", {"A", "C"})});
+}
+
+void AssignmentTest::expectAssigned(EditingWindow &window, bool assigned)
+{
+    QCOMPARE(window.ui().pb_rem_batt_from_model->isEnabled(), assigned);
+    QCOMPARE(window.ui().pb_add_batt_to_model->isEnabled(), !assigned);
+}
+
+void AssignmentTest::choosePair(EditingWindow &window, const QString &model, const QString &battery)
+{
+    window.choose(window.ui().cb_model_choose_bat, model);
+    window.choose(window.ui().cb_bat_choose_model, battery);
+}
+
+void AssignmentTest::addAssignsTheBatteryAndTheButtonsSwap()
+{
+    EditingWindow window;
+    window.load(catalogue());
+    QCOMPARE(window.cardsOnShow(), QStringList{u"B"_qs});
+    window.goToEditPage();
+    choosePair(window, u"Bird"_qs, u"A"_qs);
+    expectAssigned(window, false);
+    window.click(window.ui().pb_add_batt_to_model);
+
+    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList({u"B"_qs, u"A"_qs}));
+    QCOMPARE(window.fileBytes().count("<Battery>A</Battery>"), 2);
+    expectAssigned(window, true);
+    QVERIFY(window.shows(window.ui().editDataView, Page::EditData));
+    window.goToOverview();
+    QCOMPARE(window.cardsOnShow(), QStringList({u"A"_qs, u"B"_qs}));
+}
+
+void AssignmentTest::removeTakesTheBatteryAwayAndTheButtonsSwap()
+{
+    EditingWindow window;
+    window.load(window.document({window.batteryElement("A"), window.modelElement("Bird", {"A"})}));
+    window.goToEditPage();
+    expectAssigned(window, true);
+    window.click(window.ui().pb_rem_batt_from_model);
+
+    QVERIFY(window.model(u"Bird"_qs)->getBatteries().isEmpty());
+    QVERIFY(!window.fileBytes().contains("<Battery>A</Battery>"));
+    expectAssigned(window, false);
+    QVERIFY(window.shows(window.ui().editDataView, Page::EditData));
+    window.goToOverview();
+    QCOMPARE(window.cardsOnShow(), QStringList());
+    QVERIFY(window.ui().lbl_optionshint->isVisible());
+}
+
+void AssignmentTest::exactlyOneButtonIsEnabledForEveryPair_data()
+{
+    QTest::addColumn<QString>("model");
+    QTest::addColumn<QString>("battery");
+    QTest::addColumn<bool>("assigned");
+
+    QTest::newRow("Bird A") << "Bird"
+                            << "A" << false;
+    QTest::newRow("Bird B") << "Bird"
+                            << "B" << true;
+    QTest::newRow("Bird C") << "Bird"
+                            << "C" << false;
+    QTest::newRow("Wing A") << "Wing"
+                            << "A" << true;
+    QTest::newRow("Wing B") << "Wing"
+                            << "B" << false;
+    QTest::newRow("Wing C") << "Wing"
+                            << "C" << true;
+}
+
+void AssignmentTest::exactlyOneButtonIsEnabledForEveryPair()
+{
+    QFETCH(QString, model);
+    QFETCH(QString, battery);
+    QFETCH(bool, assigned);
+    EditingWindow window;
+    window.load(catalogue());
+    window.goToEditPage();
+    choosePair(window, model, battery);
+    expectAssigned(window, assigned);
+
+    choosePair(window, u"Wing"_qs, u"C"_qs); // and with the model chosen last
+    window.choose(window.ui().cb_bat_choose_model, battery);
+    window.choose(window.ui().cb_model_choose_bat, model);
+    expectAssigned(window, assigned);
+}
+
+void AssignmentTest::theButtonsFollowTheModelOfTheOverview()
+{
+    EditingWindow window;
+    window.load(catalogue());
+    expectAssigned(window, false);
+    window.choose(window.ui().cb_select_model, u"Wing"_qs);
+    window.goToEditPage();
+    QCOMPARE(window.ui().cb_model_choose_bat->currentText(), u"Wing"_qs);
+    expectAssigned(window, true);
+}
+
+void AssignmentTest::theButtonsFollowAReload()
+{
+    EditingWindow window;
+    window.load(catalogue());
+    expectAssigned(window, false);
+    window.load(window.document({window.batteryElement("A"), window.modelElement("Bird", {"A"})}));
+    expectAssigned(window, true);
+}
+
+void AssignmentTest::severalBatteriesAreAssignedInARow()
+{
+    EditingWindow window;
+    window.load(catalogue());
+    window.goToEditPage();
+    choosePair(window, u"Bird"_qs, u"C"_qs);
+    window.click(window.ui().pb_add_batt_to_model);
+    choosePair(window, u"Bird"_qs, u"A"_qs);
+    window.click(window.ui().pb_add_batt_to_model);
+    choosePair(window, u"Bird"_qs, u"B"_qs);
+    window.click(window.ui().pb_rem_batt_from_model);
+    choosePair(window, u"Wing"_qs, u"B"_qs);
+    window.click(window.ui().pb_add_batt_to_model);
+    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList({u"C"_qs, u"A"_qs}));
+    QCOMPARE(window.model(u"Wing"_qs)->getBatteries(), QStringList({u"A"_qs, u"C"_qs, u"B"_qs}));
+}
+
+void AssignmentTest::eachAssignmentGoesBackToTheFirstPairOnPurpose()
+{
+    EditingWindow window;
+    window.load(catalogue());
+    window.goToEditPage();
+    choosePair(window, u"Wing"_qs, u"B"_qs);
+    window.click(window.ui().pb_add_batt_to_model); // the reload fills both choosers anew
+    QCOMPARE(window.ui().cb_model_choose_bat->currentText(), u"Bird"_qs);
+    QCOMPARE(window.ui().cb_bat_choose_model->currentText(), u"A"_qs);
+    expectAssigned(window, false);
+}
+
+void AssignmentTest::theModelThatThePreferencesNameStaysChosen()
+{
+    EditingWindow window;
+    RotavexPlugin::rotavexSettings->setValue("SETTINGS/logmodel", u"Wing"_qs);
+    window.load(catalogue());
+    window.goToEditPage();
+    expectAssigned(window, true);
+    window.click(window.ui().pb_rem_batt_from_model);
+    QCOMPARE(window.ui().cb_model_choose_bat->currentText(), u"Wing"_qs);
+    expectAssigned(window, false);
+    window.click(window.ui().pb_add_batt_to_model);
+    expectAssigned(window, true);
+    QCOMPARE(window.model(u"Wing"_qs)->getBatteries(), QStringList({u"C"_qs, u"A"_qs}));
+}
+
+void AssignmentTest::theRecordsOnScreenAreReadFromTheFile()
+{
+    EditingWindow window;
+    window.load(catalogue());
+    window.goToEditPage();
+    const QPointer<BatteryWidget> battery = window.battery(u"A"_qs);
+    const QPointer<ModelWidget> model = window.model(u"Bird"_qs);
+    QVERIFY(battery && model);
+    window.click(window.ui().pb_add_batt_to_model);
+    QVERIFY(!battery);
+    QVERIFY(!model);
+}
+
+void AssignmentTest::theTimeOfTheLastUpdateStays()
+{
+    EditingWindow window;
+    window.load(catalogue());
+    window.goToEditPage();
+    window.click(window.ui().pb_add_batt_to_model);
+    QCOMPARE(window.model(u"Bird"_qs)->getLastUpdated(), QDateTime(QDate(2025, 11, 7), QTime(6, 5, 4)));
+    QCOMPARE(window.battery(u"A"_qs)->getBatteryLastUpdated(), QDateTime(QDate(2025, 11, 9), QTime(8, 7, 6)));
+}
+
+void AssignmentTest::removeTakesOnlyTheExactName()
+{
+    EditingWindow window;
+    window.load(window.document({window.batteryElement("A"), window.modelElement("Bird", {"a", "A", "A "})}));
+    window.goToEditPage();
+    window.click(window.ui().pb_rem_batt_from_model);
+    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList({u"a"_qs, u"A "_qs}));
+}
+
+void AssignmentTest::ofTwoModelsOfOneNameTheLastIsMeant()
+{
+    EditingWindow window;
+    window.load(window.document({window.batteryElement("A"), window.modelElement("Bird", {"A"}),
+                                 window.modelElement("Bird"), window.modelElement("Wing")}));
+    window.goToEditPage();
+    expectAssigned(window, false);
+    window.click(window.ui().pb_add_batt_to_model);
+    QCOMPARE(window->modelList.at(1)->getBatteries(), QStringList{u"A"_qs});
+    window.click(window.ui().pb_rem_batt_from_model);
+    QCOMPARE(window->modelList.at(0)->getBatteries(), QStringList{u"A"_qs});
+    QCOMPARE(window->modelList.at(1)->getBatteries(), QStringList());
+}
+
+void AssignmentTest::withoutModelOnlyAddIsEnabledAndDoesNothing()
+{
+    EditingWindow window;
+    window.load(window.document({window.batteryElement("A"), window.batteryElement("B")}));
+    window.goToEditPage();
+    const QByteArray before = window.fileBytes();
+    window.choose(window.ui().cb_bat_choose_model, u"B"_qs);
+    expectAssigned(window, false);
+    window.click(window.ui().pb_add_batt_to_model);
+    QCOMPARE(window.fileBytes(), before);
+    QCOMPARE(window.ui().cb_bat_choose_model->currentText(), u"B"_qs);
+    window->on_pb_rem_batt_from_model_clicked(); // greyed for the user
+    QCOMPARE(window.fileBytes(), before);
+}
+
+void AssignmentTest::aBatteryThatIsGoneCanBeAssignedOnPurpose()
+{
+    EditingWindow window;
+    window.load(window.document({window.batteryElement("A"), window.modelElement("Bird")}));
+    window.load(window.document({window.modelElement("Bird")})); // the chooser goes on offering A
+    window.goToEditPage();
+    window.click(window.ui().pb_add_batt_to_model);
+    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList{u"A"_qs});
+    expectAssigned(window, true);
+    window.click(window.ui().pb_rem_batt_from_model);
+    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList());
+}
+
+void AssignmentTest::withoutAnyBatteryTheEmptyNameIsAssignedOnPurpose()
+{
+    EditingWindow window;
+    window.load(window.document({window.modelElement("Bird")}));
+    window.goToEditPage();
+    window.click(window.ui().pb_add_batt_to_model);
+    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList{QString()});
+    expectAssigned(window, true);
+    window.click(window.ui().pb_rem_batt_from_model);
+    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList());
+}
+
+QTEST_MAIN(AssignmentTest)
+#include "tst_assignment.moc"

@@ -1,0 +1,273 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/editingwindow.h"
+
+#include <QPointer>
+
+using namespace Qt::Literals::StringLiterals;
+
+class BatteryEditingTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void theAddPageOffersTodayEachTimeItIsOpened();
+    void aNewBatteryHasWhatWasTyped();
+    void aNewBatteryIsDischargedAndWithoutHistory();
+    void aNewBatteryOpensTheOverviewAndLeavesTheFormAsItWas();
+    void figuresAreTakenFromTheFields_data();
+    void figuresAreTakenFromTheFields();
+    void everyChargeRateThatTheFieldAdmitsIsItsTenths();
+    void aNameThatIsTakenGetsACounter();
+    void aNewNameMayBeThatOfTheFirstBatteryOnPurpose();
+    void anEmptyNameAddsNothing();
+    void theRecordsOnScreenAreReadFromTheFile();
+    void anAddThatCannotBeWrittenIsGoneAfterTheReload();
+};
+
+void BatteryEditingTest::theAddPageOffersTodayEachTimeItIsOpened()
+{
+    EditingWindow window;
+    for (int visit = 0; visit < 2; ++visit) {
+        window.goTo(window.ui().pb_choose_addbattery);
+        QVERIFY(window.shows(window.ui().addView, Page::AddBattery));
+        QCOMPARE(window.ui().ledt_purchaseDate->text(), QDate::currentDate().toString(Qt::ISODate));
+        window.type(window.ui().ledt_purchaseDate, u"20190506"_qs);
+        QCOMPARE(window.ui().ledt_purchaseDate->text(), u"2019-05-06"_qs);
+    }
+}
+
+void BatteryEditingTest::aNewBatteryHasWhatWasTyped()
+{
+    EditingWindow window;
+    window.goTo(window.ui().pb_choose_addbattery);
+    window.type(window.ui().ledt_name, u"Big <6S> & \"Ä\""_qs);
+    window.type(window.ui().ledt_capacity, u"5000"_qs);
+    window.type(window.ui().ledt_chargeRate, u"15"_qs);
+    window.type(window.ui().ledt_dischargeRate, u"65"_qs);
+    window.type(window.ui().ledt_cyclesused, u"123"_qs);
+    window.type(window.ui().ledt_purchaseDate, u"20240229"_qs);
+    const QDateTime start = QDateTime::currentDateTime();
+    window.click(window.ui().pb_addNewBattery);
+
+    QCOMPARE(window.batteryNames(), QStringList{u"Big <6S> & \"Ä\""_qs});
+    const BatteryWidget *battery = window->batteryList.constFirst();
+    QCOMPARE(battery->getBatteryCapacity(), 5000U);
+    QCOMPARE(battery->getBatteryChargeRate(), 15U);
+    QCOMPARE(battery->getBatteryRating(), 65U);
+    QCOMPARE(battery->getBatteryCycles(), 123U);
+    QCOMPARE(battery->getdateOfPurchase(), QDate(2024, 2, 29));
+    QVERIFY(window.isSince(start, battery->getBatteryLastUpdated()));
+
+    const QByteArray bytes = window.fileBytes();
+    QVERIFY(bytes.contains("<Name>Big &lt;6S&gt; &amp; &quot;Ä&quot;</Name>"));
+    QVERIFY(bytes.contains("<Capacity>5000</Capacity>"));
+    QVERIFY(bytes.contains("<Chrgrate>15</Chrgrate>"));
+    QVERIFY(bytes.contains("<Dischrgrate>65</Dischrgrate>"));
+    QVERIFY(bytes.contains("<Purchase>2024/02/29</Purchase>"));
+    QVERIFY(bytes.contains("<Cycles>123</Cycles>"));
+    QVERIFY(bytes.contains("<Charged>0</Charged>"));
+    QVERIFY(!bytes.contains("<Data>"));
+}
+
+void BatteryEditingTest::aNewBatteryIsDischargedAndWithoutHistory()
+{
+    EditingWindow window;
+    window.addBattery(u"Pack"_qs);
+    BatteryWidget *battery = window.battery(u"Pack"_qs);
+    QVERIFY(battery);
+    QVERIFY(!battery->getBatteryCharged());
+    QCOMPARE(battery->getBatteryLastDischarged(), 0U);
+    QCOMPARE(battery->getBatteryLastMaxCurrent(), 0U);
+    QVERIFY(battery->getDates().isEmpty());
+    QVERIFY(battery->getDischarges().isEmpty());
+    QVERIFY(battery->getCurrents().isEmpty());
+
+    const auto *button = battery->findChild<QPushButton *>(u"pushButton"_qs);
+    QCOMPARE(button->text(), u"Discharged"_qs);
+    QVERIFY(button->styleSheet().startsWith("background-color: rgb(255, 50, 0)"));
+    QCOMPARE(window.cardsOnShow(), QStringList{u"Pack"_qs});
+}
+
+void BatteryEditingTest::aNewBatteryOpensTheOverviewAndLeavesTheFormAsItWas()
+{
+    EditingWindow window;
+    window.goTo(window.ui().pb_choose_addbattery);
+    window.type(window.ui().ledt_name, u"Pack"_qs);
+    window.type(window.ui().ledt_capacity, u"3300"_qs);
+    window.click(window.ui().pb_addNewBattery);
+    QVERIFY(window.showsOverview());
+
+    window.goTo(window.ui().pb_choose_addbattery);
+    QCOMPARE(window.ui().ledt_name->text(), u"Pack"_qs);
+    QCOMPARE(window.ui().ledt_capacity->text(), u"3300"_qs);
+    window.click(window.ui().pb_addNewBattery);
+    QCOMPARE(window.batteryNames(), QStringList({u"Pack"_qs, u"Pack_1"_qs}));
+    QCOMPARE(window.battery(u"Pack_1"_qs)->getBatteryCapacity(), 3300U);
+}
+
+void BatteryEditingTest::figuresAreTakenFromTheFields_data()
+{
+    QTest::addColumn<QString>("capacity");
+    QTest::addColumn<QString>("chargeRate");
+    QTest::addColumn<QString>("rating");
+    QTest::addColumn<QString>("cycles");
+    QTest::addColumn<QString>("purchase");
+    QTest::addColumn<QList<unsigned int>>("figures");
+    QTest::addColumn<QDate>("date");
+
+    using Figures = QList<unsigned int>;
+    QTest::newRow("all emptied") << ""
+                                 << ""
+                                 << ""
+                                 << ""
+                                 << "" << Figures{0, 0, 0, 0} << QDate();
+    QTest::newRow("largest") << "99999"
+                             << "9.9"
+                             << "999"
+                             << "9999"
+                             << "99991231" << Figures{99999, 99, 999, 9999} << QDate(9999, 12, 31);
+    QTest::newRow("longer than the masks")
+        << "123456789"
+        << "1.23"
+        << "12345"
+        << "56789"
+        << "202601023" << Figures{12345, 12, 123, 5678} << QDate(2026, 1, 2);
+    QTest::newRow("zeros in front") << "00042"
+                                    << "0.3"
+                                    << "007"
+                                    << "0001"
+                                    << "20260102" << Figures{42, 3, 7, 1} << QDate(2026, 1, 2);
+    QTest::newRow("blanks in the masks") << " 4 2 "
+                                         << " .5"
+                                         << "3 0"
+                                         << "1  2"
+                                         << "2026-01-02" << Figures{42, 5, 30, 12} << QDate(2026, 1, 2);
+    QTest::newRow("letters are not let in") << "1x2"
+                                            << "a1b5"
+                                            << "+3"
+                                            << "-4"
+                                            << "2026y01m02" << Figures{12, 15, 3, 4} << QDate(2026, 1, 2);
+    QTest::newRow("no tenths") << "1000"
+                               << "3"
+                               << "30"
+                               << "0"
+                               << "2026-1 -0 " << Figures{1000, 30, 30, 0} << QDate();
+    QTest::newRow("a day of one digit") << "1"
+                                        << "2.0"
+                                        << "1"
+                                        << "0"
+                                        << "2026-01-2 " << Figures{1, 20, 1, 0} << QDate();
+    QTest::newRow("no such day") << "1"
+                                 << "2.0"
+                                 << "1"
+                                 << "0"
+                                 << "2026-02-30" << Figures{1, 20, 1, 0} << QDate();
+    QTest::newRow("no year") << "1"
+                             << "2.0"
+                             << "1"
+                             << "0"
+                             << "    -01-02" << Figures{1, 20, 1, 0} << QDate();
+}
+
+void BatteryEditingTest::figuresAreTakenFromTheFields()
+{
+    QFETCH(QString, capacity);
+    QFETCH(QString, chargeRate);
+    QFETCH(QString, rating);
+    QFETCH(QString, cycles);
+    QFETCH(QString, purchase);
+
+    EditingWindow window;
+    window.goTo(window.ui().pb_choose_addbattery);
+    window.type(window.ui().ledt_capacity, capacity);
+    window.type(window.ui().ledt_chargeRate, chargeRate);
+    window.type(window.ui().ledt_dischargeRate, rating);
+    window.type(window.ui().ledt_cyclesused, cycles);
+    window.type(window.ui().ledt_purchaseDate, purchase);
+    window.click(window.ui().pb_addNewBattery);
+
+    const BatteryWidget *battery = window.battery(u"MyBattery"_qs);
+    QVERIFY(battery);
+    const QList<unsigned int> figures{battery->getBatteryCapacity(), battery->getBatteryChargeRate(),
+                                      battery->getBatteryRating(), battery->getBatteryCycles()};
+    QTEST(figures, "figures");
+    QTEST(battery->getdateOfPurchase(), "date");
+}
+
+void BatteryEditingTest::everyChargeRateThatTheFieldAdmitsIsItsTenths()
+{
+    const QString digits = u" 0123456789"_qs; // a blank leaves its place empty
+    EditingWindow window;
+    for (unsigned int whole = 0; whole <= 10; ++whole) {
+        for (unsigned int tenth = 0; tenth <= 10; ++tenth) {
+            window.load(window.document({}));
+            window.goTo(window.ui().pb_choose_addbattery);
+            window.type(window.ui().ledt_chargeRate, QString(digits.at(whole)) + digits.at(tenth));
+            window.click(window.ui().pb_addNewBattery);
+            const unsigned int expected = (whole == 0 ? 0 : whole - 1) * 10 + (tenth == 0 ? 0 : tenth - 1);
+            QCOMPARE(window->batteryList.size(), 1);
+            QCOMPARE(window->batteryList.constFirst()->getBatteryChargeRate(), expected);
+        }
+    }
+}
+
+void BatteryEditingTest::aNameThatIsTakenGetsACounter()
+{
+    EditingWindow window;
+    for (int i = 0; i < 3; ++i) {
+        window.goTo(window.ui().pb_choose_addbattery);
+        window.click(window.ui().pb_addNewBattery);
+    }
+    QCOMPARE(window.batteryNames(), QStringList({u"MyBattery"_qs, u"MyBattery_1"_qs, u"MyBattery_2"_qs}));
+    for (const QComboBox *chooser :
+         {window.ui().cb_batteryData, window.ui().cb_batteryList_delete, window.ui().cb_bat_choose_model})
+        QCOMPARE(window.items(chooser), window.batteryNames());
+}
+
+void BatteryEditingTest::aNewNameMayBeThatOfTheFirstBatteryOnPurpose()
+{
+    EditingWindow window;
+    window.addBattery(u"MyBattery_1"_qs);
+    window.addBattery(u"MyBattery"_qs);
+    window.addBattery(u"MyBattery"_qs);
+    QCOMPARE(window.batteryNames(), QStringList({u"MyBattery_1"_qs, u"MyBattery"_qs, u"MyBattery_1"_qs}));
+}
+
+void BatteryEditingTest::anEmptyNameAddsNothing()
+{
+    EditingWindow window;
+    window.goTo(window.ui().pb_choose_addbattery);
+    window.type(window.ui().ledt_name, QString());
+    window.click(window.ui().pb_addNewBattery);
+    QVERIFY(window.shows(window.ui().addView, Page::AddBattery));
+    QVERIFY(window->batteryList.isEmpty());
+    QVERIFY(!QFile::exists(window.filePath()));
+}
+
+void BatteryEditingTest::theRecordsOnScreenAreReadFromTheFile()
+{
+    EditingWindow window;
+    window.load(window.document({window.batteryElement("Pack"), window.modelElement("Bird", {"Pack"})}));
+    const QPointer<BatteryWidget> before = window.battery(u"Pack"_qs);
+    const QPointer<ModelWidget> modelBefore = window.model(u"Bird"_qs);
+    QVERIFY(before && modelBefore);
+
+    window.addBattery(u"Other"_qs);
+    QVERIFY(!before);
+    QVERIFY(!modelBefore);
+    QCOMPARE(window.batteryNames(), QStringList({u"Pack"_qs, u"Other"_qs}));
+    QCOMPARE(window->findChildren<ModelWidget *>().size(), 0); // the one that was read has no parent
+}
+
+void BatteryEditingTest::anAddThatCannotBeWrittenIsGoneAfterTheReload()
+{
+    EditingWindow window;
+    QVERIFY(QDir().mkdir(window.filePath())); // a folder in the place of the file cannot be opened
+    window.addBattery(u"Pack"_qs);
+    QVERIFY(window.showsOverview());
+    QVERIFY(window->batteryList.isEmpty());
+    QVERIFY(window->findChildren<BatteryWidget *>().isEmpty());
+}
+
+QTEST_MAIN(BatteryEditingTest)
+#include "tst_batteryediting.moc"

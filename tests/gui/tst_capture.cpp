@@ -1,0 +1,436 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The two-state cycle of a battery: charge, discharge with its flight, charge.
+#include "tests/support/logbookwindow.h"
+#include "tests/support/xml.h"
+
+#include <QSignalSpy>
+#include <QTimer>
+
+class CaptureTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void aClickOnADischargedCardOnlyMarksItCharged_data();
+    void aClickOnADischargedCardOnlyMarksItCharged();
+    void aClickOnAChargedCardRecordsFlightAndDischargeAtOnce();
+    void aDischargeSavesOnceAndStampsNothing();
+    void inFullModeTheDischargePageComesFirst();
+    void whatThePilotLeavesOnThePageIsRecorded();
+    void leavingThePageWithTheMenuButtonRecordsNothing();
+    void thePageProposesAUsualDischarge_data();
+    void thePageProposesAUsualDischarge();
+    void theCurrentIsTruncatedToHundredthsOnPurpose_data();
+    void theCurrentIsTruncatedToHundredthsOnPurpose();
+    void withoutAModelTheDischargeIsRecordedAlone();
+    void ofTwoModelsOfOneNameTheLaterGetsTheFlightOnPurpose();
+    void theNextQuickCaptureRepeatsTheFlightOnPurpose();
+    void withoutLocationsAFlightHasNone();
+    void aCardConnectedTwiceRecordsASecondFlightOnPurpose();
+    void aCardConnectedTwiceShowsThePageOnce();
+    void aFlightIsRecordedWithoutABatteryOnPurpose();
+    void aBatteryThatIsNotChargedIsNotDischarged();
+    void onlyABatteryCardMayAsk();
+    void flightAndDischargeShareTheirMomentBeforeAndAfterAReload();
+
+private:
+    std::unique_ptr<LogbookWindow> window;
+    Ui_VoltbokGui *ui = nullptr;
+
+    void loadInFullMode(const QByteArray &xml);
+    static LogData lastFlight(ModelWidget *model) { return model->getLogData().constLast(); }
+};
+
+namespace {
+QByteArray hangar()
+{
+    return Xml::file(Xml::locations({"Meadow", "Hill"}) + Xml::battery("Pack", true) +
+                     Xml::battery("Spare", true) + Xml::battery("Flat") +
+                     Xml::model("Heli", {"Pack", "Flat"}) + Xml::model("Plane", {"Spare"}));
+}
+
+QPushButton *buttonOf(BatteryWidget *card)
+{
+    return card->findChild<QPushButton *>(QStringLiteral("pushButton"));
+}
+
+QLineEdit *fieldOf(QAbstractSpinBox *box)
+{
+    return box->findChild<QLineEdit *>();
+}
+} // namespace
+
+void CaptureTest::init()
+{
+    window = std::make_unique<LogbookWindow>();
+    ui = &window->ui();
+}
+
+void CaptureTest::cleanup()
+{
+    window.reset();
+}
+
+void CaptureTest::loadInFullMode(const QByteArray &xml)
+{
+    RotavexPlugin::rotavexSettings->setValue(QStringLiteral("SETTINGS/voltbok"), QStringLiteral("Complex"));
+    window->load(xml);
+}
+
+void CaptureTest::aClickOnADischargedCardOnlyMarksItCharged_data()
+{
+    QTest::addColumn<bool>("full");
+    QTest::newRow("quick") << false;
+    QTest::newRow("full") << true;
+}
+
+void CaptureTest::aClickOnADischargedCardOnlyMarksItCharged()
+{
+    QFETCH(bool, full);
+    if (full)
+        loadInFullMode(hangar());
+    else
+        window->load(hangar());
+    BatteryWidget *card = window->battery("Flat");
+    QCOMPARE(buttonOf(card)->text(), QStringLiteral("Discharged"));
+    const QDateTime before = QDateTime::currentDateTime();
+    window->clickCard(card);
+
+    QVERIFY(card->getBatteryCharged());
+    QCOMPARE(buttonOf(card)->text(), QStringLiteral("Charged"));
+    QVERIFY(buttonOf(card)->styleSheet().contains(QStringLiteral("rgb(0, 255, 0)")));
+    QVERIFY(before <= card->getBatteryLastUpdated() &&
+            card->getBatteryLastUpdated() <= QDateTime::currentDateTime());
+    QCOMPARE(card->getBatteryCycles(), 4U);
+    QVERIFY(card->getDates().isEmpty());
+    QVERIFY(window->model("Heli")->getLogData().isEmpty());
+    QCOMPARE(window->gui().currentPage, 0);
+    QVERIFY(!window->gui().chargeBattery);
+    QCOMPARE(window->fileBytes().count("<Charged>1<"), 3);
+    QVERIFY(!window->fileBytes().contains("<Cycle "));
+    QVERIFY(!window->fileBytes().contains("<LogData"));
+}
+
+void CaptureTest::aClickOnAChargedCardRecordsFlightAndDischargeAtOnce()
+{
+    window->load(hangar());
+    BatteryWidget *card = window->battery("Pack");
+    const QSignalSpy pages(ui->stackedWidget, &QStackedWidget::currentChanged);
+    window->clickCard(card);
+
+    QVERIFY(!card->getBatteryCharged());
+    QCOMPARE(buttonOf(card)->text(), QStringLiteral("Discharged"));
+    QVERIFY(buttonOf(card)->styleSheet().contains(QStringLiteral("rgb(255, 50, 0)")));
+    QCOMPARE(card->getBatteryCycles(), 5U);
+    QCOMPARE(card->getDischarges(), QList<unsigned int>({1760}));
+    QCOMPARE(card->getCurrents(), QList<unsigned int>({5500}));
+    QCOMPARE(window->model("Heli")->getLogData().size(), 1);
+    QCOMPARE(window->model("Heli")->getModelFlights(), 0U);
+    QVERIFY(window->model("Plane")->getLogData().isEmpty());
+
+    QCOMPARE(pages.count(), 0); // the overview stays on show
+    QCOMPARE(window->gui().currentPage, 0);
+    QVERIFY(!window->gui().chargeBattery);
+    QVERIFY(window->fileBytes().contains("<Cycle Discharged=\"1760\" Current=\"5500\" Date=\""));
+    QCOMPARE(window->fileBytes().count("<LogData "), 1);
+
+    window->clickCard(card); // and it is charged again
+    QVERIFY(card->getBatteryCharged());
+    QCOMPARE(card->getBatteryCycles(), 5U);
+}
+
+void CaptureTest::aDischargeSavesOnceAndStampsNothing()
+{
+    window->load(hangar());
+    BatteryWidget *card = window->battery("Pack");
+    const QDateTime stamp(QDate(2026, 11, 15), QTime(12, 4, 22));
+    card->setLastUpdated(stamp);
+    const QSignalSpy changes(card, &BatteryWidget::dataChanged);
+    window->clickCard(card);
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(card->getBatteryLastUpdated(), stamp);
+    QCOMPARE(card->getDates().size(), 1);
+}
+
+void CaptureTest::inFullModeTheDischargePageComesFirst()
+{
+    loadInFullMode(hangar());
+    BatteryWidget *card = window->battery("Pack");
+    window->clickCard(card);
+    QCOMPARE(ui->stackedWidget->currentWidget(), ui->dischargeView);
+    QCOMPARE(window->gui().currentPage, 12);
+    QCOMPARE(window->gui().chargeBattery, card);
+    QCOMPARE(ui->sb_discharged_capacity->value(), 1760);
+    QCOMPARE(ui->dsb_discharged_current->value(), 55.0);
+    QCOMPARE(ui->dedt_dischargeDate->date(), QDate::currentDate());
+    QVERIFY(card->getBatteryCharged());
+    QVERIFY(card->getDates().isEmpty());
+    QVERIFY(window->model("Heli")->getLogData().isEmpty());
+    QCOMPARE(window->fileBytes(), hangar());
+
+    window->type(fieldOf(ui->sb_discharged_capacity), QStringLiteral("1500"));
+    window->click(ui->pb_save_discharged);
+    QVERIFY(!card->getBatteryCharged());
+    QCOMPARE(card->getBatteryCycles(), 5U);
+    QCOMPARE(card->getDischarges(), QList<unsigned int>({1500}));
+    QCOMPARE(card->getCurrents(), QList<unsigned int>({5500}));
+    QCOMPARE(ui->stackedWidget->currentWidget(), ui->scrollLayout);
+    QCOMPARE(window->gui().currentPage, 0);
+    QVERIFY(!window->gui().chargeBattery);
+    QVERIFY(window->fileBytes().contains("<Cycle Discharged=\"1500\""));
+}
+
+void CaptureTest::whatThePilotLeavesOnThePageIsRecorded()
+{
+    loadInFullMode(hangar());
+    window->clickCard(window->battery("Pack"));
+    ui->dedt_dischargeDate->setDate(QDate(2026, 11, 15));
+    ui->tedt_dischargeTime->setTime(QTime(12, 4));
+    window->type(fieldOf(ui->dsb_discharged_current), QStringLiteral("45.5"));
+    window->choose(ui->cb_log_location, QStringLiteral("Hill"));
+    ui->sb_log_duration->setTime(QTime(0, 6, 30));
+    window->type(fieldOf(ui->sb_log_temp), QStringLiteral("-20"));
+    QTest::keyClicks(ui->ptext_log_notes, QStringLiteral("Windy & <cold>"));
+    window->click(ui->pb_save_discharged);
+
+    const LogData flight = lastFlight(window->model("Heli"));
+    QCOMPARE(flight.date, QDateTime(QDate(2026, 11, 15), QTime(12, 4)));
+    QCOMPARE(flight.location, QStringLiteral("Hill"));
+    QCOMPARE(flight.duration, QTime(0, 6, 30));
+    QCOMPARE(flight.temperature, -20);
+    QCOMPARE(flight.notes, QStringLiteral("Windy & <cold>"));
+    QCOMPARE(window->battery("Pack")->getDates(), QList<QDateTime>({flight.date}));
+    QCOMPARE(window->battery("Pack")->getCurrents(), QList<unsigned int>({4550}));
+    QVERIFY(window->fileBytes().contains(
+        "<LogData Date=\"Sun Nov 15 12:04:00 2026\" Location=\"Hill\" Duration=\"00:06:30\" "
+        "Temperature=\"4294967276\" Notes=\"Windy &amp; &lt;cold&gt;\"/>"));
+}
+
+void CaptureTest::leavingThePageWithTheMenuButtonRecordsNothing()
+{
+    loadInFullMode(Xml::file(Xml::battery("Pack", true) + Xml::battery("Spare", true) +
+                             Xml::model("Heli", {"Pack", "Spare"})));
+    const QByteArray before = window->fileBytes();
+    window->clickCard(window->battery("Pack"));
+    window->click(ui->pb_options);
+    QCOMPARE(ui->stackedWidget->currentWidget(), ui->scrollLayout);
+    QCOMPARE(window->gui().currentPage, 0);
+    QVERIFY(window->battery("Pack")->getBatteryCharged());
+    QVERIFY(window->model("Heli")->getLogData().isEmpty());
+    QCOMPARE(window->fileBytes(), before);
+    QCOMPARE(window->gui().chargeBattery, window->battery("Pack")); // until another card is clicked
+
+    window->clickCard(window->battery("Spare"));
+    QCOMPARE(window->gui().chargeBattery, window->battery("Spare"));
+    window->click(ui->pb_save_discharged);
+    QVERIFY(window->battery("Pack")->getBatteryCharged());
+    QVERIFY(!window->battery("Spare")->getBatteryCharged());
+}
+
+void CaptureTest::thePageProposesAUsualDischarge_data()
+{
+    QTest::addColumn<unsigned int>("capacity");
+    QTest::addColumn<unsigned int>("rating");
+    QTest::addColumn<int>("discharge");
+    QTest::addColumn<double>("current");
+    QTest::newRow("usual") << 2200U << 25U << 1760 << 55.0;
+    QTest::newRow("large") << 5000U << 30U << 4000 << 150.0;
+    QTest::newRow("division rounds down") << 1234U << 30U << 987 << 37.02;
+    QTest::newRow("nothing") << 0U << 0U << 0 << 0.0;
+    QTest::newRow("one") << 1U << 1U << 0 << 0.0;
+    QTest::newRow("highest capacity") << 25000U << 1U << 20000 << 25.0;
+    QTest::newRow("capacity is clamped") << 30000U << 1U << 20000 << 30.0;
+    QTest::newRow("highest current") << 5000U << 60U << 4000 << 300.0;
+    QTest::newRow("current is clamped") << 5000U << 65U << 4000 << 300.0;
+    QTest::newRow("80 times the capacity leaves 32 bits") << 53687092U << 0U << 0 << 0.0;
+    QTest::newRow("leaves 32 bits by more") << 53700000U << 0U << 10327 << 0.0;
+    QTest::newRow("the product leaves 32 bits") << 65536U << 65536U << 20000 << 0.0;
+    QTest::newRow("the product leaves 32 bits by more") << 65536U << 65537U << 20000 << 65.54;
+}
+
+void CaptureTest::thePageProposesAUsualDischarge()
+{
+    QFETCH(unsigned int, capacity);
+    QFETCH(unsigned int, rating);
+    loadInFullMode(Xml::file(Xml::battery("Pack", true, capacity, rating)));
+    window->clickCard(window->battery("Pack"));
+    QTEST(ui->sb_discharged_capacity->value(), "discharge");
+    QTEST(ui->dsb_discharged_current->value(), "current");
+}
+
+void CaptureTest::theCurrentIsTruncatedToHundredthsOnPurpose_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<unsigned int>("stored");
+    QTest::newRow("0.29 is a little less in binary") << "0.29" << 28U;
+    QTest::newRow("and so is 0.57") << "0.57" << 56U;
+    QTest::newRow("1.15") << "1.15" << 114U;
+    QTest::newRow("45.5") << "45.5" << 4550U;
+    QTest::newRow("0.07") << "0.07" << 7U;
+    QTest::newRow("nothing") << "0" << 0U;
+    QTest::newRow("highest") << "300" << 30000U;
+}
+
+void CaptureTest::theCurrentIsTruncatedToHundredthsOnPurpose()
+{
+    QFETCH(QString, typed);
+    QFETCH(unsigned int, stored);
+    loadInFullMode(hangar());
+    window->clickCard(window->battery("Pack"));
+    window->type(fieldOf(ui->dsb_discharged_current), typed);
+    window->click(ui->pb_save_discharged);
+    QCOMPARE(window->battery("Pack")->getCurrents(), QList<unsigned int>({stored}));
+}
+
+void CaptureTest::withoutAModelTheDischargeIsRecordedAlone()
+{
+    window->load(Xml::file(Xml::battery("Pack", true)));
+    window->clickCard(window->battery("Pack"));
+    QVERIFY(!window->battery("Pack")->getBatteryCharged());
+    QCOMPARE(window->battery("Pack")->getBatteryCycles(), 5U);
+    QCOMPARE(window->battery("Pack")->getDischarges(), QList<unsigned int>({1760}));
+    QVERIFY(window->fileBytes().contains("<Cycle "));
+    QVERIFY(!window->fileBytes().contains("<LogData"));
+    QCOMPARE(window->gui().currentPage, 0);
+}
+
+void CaptureTest::ofTwoModelsOfOneNameTheLaterGetsTheFlightOnPurpose()
+{
+    window->load(
+        Xml::file(Xml::battery("Pack", true) + Xml::model("Heli", {"Pack"}) + Xml::model("Heli", {"Pack"})));
+    window->clickCard(window->battery("Pack"));
+    QCOMPARE(window->gui().modelList.at(0)->getLogData().size(), 0);
+    QCOMPARE(window->gui().modelList.at(1)->getLogData().size(), 1);
+}
+
+void CaptureTest::theNextQuickCaptureRepeatsTheFlightOnPurpose()
+{
+    window->load(Xml::file(Xml::locations({"Meadow", "Hill"}) + Xml::battery("Pack", true) +
+                           Xml::battery("Spare", true) + Xml::model("Heli", {"Pack", "Spare"})));
+    window->battery("Pack")->setViewMode(BatteryWidget::Complex); // each card's own mode decides
+    window->clickCard(window->battery("Pack"));
+    window->choose(ui->cb_log_location, QStringLiteral("Hill"));
+    ui->sb_log_duration->setTime(QTime(0, 7));
+    ui->sb_log_temp->setValue(15);
+    ui->ptext_log_notes->setPlainText(QStringLiteral("Loops"));
+    window->click(ui->pb_save_discharged);
+    window->clickCard(window->battery("Spare"));
+
+    QCOMPARE(window->model("Heli")->getLogData().size(), 2);
+    for (const LogData &flight : window->model("Heli")->getLogData()) {
+        QCOMPARE(flight.location, QStringLiteral("Hill"));
+        QCOMPARE(flight.duration, QTime(0, 7));
+        QCOMPARE(flight.temperature, 15);
+        QCOMPARE(flight.notes, QStringLiteral("Loops"));
+    }
+    QCOMPARE(window->battery("Spare")->getDischarges(),
+             QList<unsigned int>({1760})); // these are proposed anew
+}
+
+void CaptureTest::withoutLocationsAFlightHasNone()
+{
+    window->load(Xml::file(Xml::battery("Pack", true) + Xml::model("Heli", {"Pack"})));
+    window->clickCard(window->battery("Pack"));
+    QCOMPARE(lastFlight(window->model("Heli")).location, QString());
+    QCOMPARE(lastFlight(window->model("Heli")).temperature, 0);
+}
+
+void CaptureTest::aCardConnectedTwiceRecordsASecondFlightOnPurpose()
+{
+    window->load(
+        Xml::file(Xml::battery("Pack", true) + Xml::model("Heli", {"Pack"}) + Xml::model("Plane", {"Pack"})));
+    window->choose(ui->cb_select_model, QStringLiteral("Plane"));
+    BatteryWidget *card = window->battery("Pack");
+    window->clickCard(card);
+
+    const QList<LogData> flights = window->model("Plane")->getLogData();
+    QCOMPARE(flights.size(), 2);
+    QVERIFY(flights.at(0).date <= flights.at(1).date);
+    QCOMPARE(card->getDates(), QList<QDateTime>({flights.at(0).date}));
+    QCOMPARE(card->getBatteryCycles(), 5U);
+    QVERIFY(!card->getBatteryCharged());
+    QCOMPARE(window->gui().currentPage, 12);
+    QCOMPARE(window->gui().chargeBattery, card);
+    QCOMPARE(ui->stackedWidget->currentWidget(), ui->scrollLayout);
+    QCOMPARE(window->fileBytes().count("<LogData "), 1);
+
+    window->clickCard(card); // the next change takes the second flight to the file
+    QCOMPARE(window->fileBytes().count("<LogData "), 2);
+    window->click(ui->pb_options); // the page on show is the overview, the identifier says otherwise
+    QCOMPARE(window->gui().currentPage, 0);
+}
+
+void CaptureTest::aCardConnectedTwiceShowsThePageOnce()
+{
+    loadInFullMode(
+        Xml::file(Xml::battery("Pack", true) + Xml::model("Heli", {"Pack"}) + Xml::model("Plane", {"Pack"})));
+    window->choose(ui->cb_select_model, QStringLiteral("Plane"));
+    window->clickCard(window->battery("Pack"));
+    window->click(ui->pb_save_discharged);
+    QCOMPARE(window->model("Plane")->getLogData().size(), 1);
+    QCOMPARE(window->battery("Pack")->getDates().size(), 1);
+    QCOMPARE(window->gui().currentPage, 0);
+}
+
+void CaptureTest::aFlightIsRecordedWithoutABatteryOnPurpose()
+{
+    window->load(hangar());
+    window->click(ui->pb_options);
+    window->gui().on_pb_save_discharged_clicked();
+    QCOMPARE(window->model("Heli")->getLogData().size(), 1);
+    QCOMPARE(window->gui().currentPage, 1);
+    QCOMPARE(ui->stackedWidget->currentWidget(), ui->optionsView);
+    QCOMPARE(window->fileBytes(), hangar()); // it does not write by itself
+}
+
+void CaptureTest::aBatteryThatIsNotChargedIsNotDischarged()
+{
+    loadInFullMode(hangar());
+    BatteryWidget *card = window->battery("Pack");
+    window->clickCard(card);
+    card->setBatteryCharged(false, false);
+    window->click(ui->pb_save_discharged);
+    QCOMPARE(window->model("Heli")->getLogData().size(), 1);
+    QVERIFY(card->getDates().isEmpty());
+    QCOMPARE(card->getBatteryCycles(), 4U);
+    QCOMPARE(window->gui().chargeBattery, card);
+    QCOMPARE(window->gui().currentPage, 12);
+    QCOMPARE(ui->stackedWidget->currentWidget(), ui->dischargeView);
+    QCOMPARE(window->fileBytes(), hangar());
+}
+
+void CaptureTest::onlyABatteryCardMayAsk()
+{
+    window->load(hangar());
+    ui->sb_discharged_capacity->setValue(7);
+    window->gui().showBatteryCharge(); // nobody asks
+    QTimer stranger;
+    connect(&stranger, &QTimer::timeout, &window->gui(), &VoltbokGui::showBatteryCharge);
+    QVERIFY(QMetaObject::invokeMethod(&stranger, "timeout"));
+    QCOMPARE(ui->sb_discharged_capacity->value(), 7);
+    QCOMPARE(window->gui().currentPage, 0);
+    QVERIFY(!window->gui().chargeBattery);
+    QVERIFY(window->model("Heli")->getLogData().isEmpty());
+}
+
+void CaptureTest::flightAndDischargeShareTheirMomentBeforeAndAfterAReload()
+{
+    window->load(hangar());
+    window->clickCard(window->battery("Pack"));
+    for (int i = 0; i < 2; ++i) {
+        QDateTime flown = lastFlight(window->model("Heli")).date;
+        QVERIFY(flown.isValid());
+        QCOMPARE(window->battery("Pack")->getDates(), QList<QDateTime>({flown}));
+        unsigned int discharged = 0;
+        unsigned int current = 0;
+        QVERIFY(window->battery("Pack")->getEvent(flown, discharged, current));
+        QCOMPARE(discharged, 1760U);
+        QCOMPARE(current, 5500U);
+        window->gui().updateBatteryGui();
+    }
+}
+
+QTEST_MAIN(CaptureTest)
+#include "tst_capture.moc"

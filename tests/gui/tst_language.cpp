@@ -1,0 +1,389 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The language changes while the window lives: every text follows, and the pilot loses nothing.
+#include "tests/support/logbookwindow.h"
+#include "tests/support/xml.h"
+
+#include <QChart>
+#include <QChartView>
+#include <QTranslator>
+
+/** Puts a "~" before every text of the window and the cards, and changes the masks a little. */
+class TildeTranslator : public QTranslator
+{
+    Q_OBJECT
+
+public:
+    using QTranslator::QTranslator;
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        if (qstrcmp(context, "VoltbokGui") != 0 && qstrcmp(context, "BatteryWidget") != 0)
+            return {};
+        const QByteArray text(source);
+        if (text == "0.0")
+            return QStringLiteral("09.0"); // a mask: two digits before the point
+        if (text == "0000-00-00" || text == "0.00")
+            return QStringLiteral("X"); // masks that must not come here
+        const bool mask = !text.isEmpty() && text.count('0') == text.size();
+        return mask && text.size() > 1 ? QString::fromLatin1(text + "9") : u'~' + QString::fromUtf8(text);
+    }
+};
+
+class LanguageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void everyTextOfTheWindowFollows();
+    void theTextsComeBackWithTheFirstLanguage();
+    void theMasksFollowAndKeepTheirContent();
+    void aMaskedFieldFilledInPartKeepsItsContent();
+    void aNewWindowSpeaksTheLanguageInForce();
+    void everyInputOfEveryPageStays();
+    void cursorAndFocusStay();
+    void pageAndChargedBatteryStay();
+    void aQuestionThatWasAskedStaysAsked_data();
+    void aQuestionThatWasAskedStaysAsked();
+    void everyCardFollowsOnShowOrNot();
+    void theTitleOfTheChartFollows();
+    void noChartIsDrawnThatWasNotAskedFor();
+    void theFlightOnShowStays();
+
+private:
+    std::unique_ptr<TildeTranslator> translator;
+    std::unique_ptr<LogbookWindow> window;
+    Ui_VoltbokGui *ui = nullptr;
+
+    void changeLanguage();
+    void changeLanguageBack();
+    QList<QPair<QWidget *, QString>> texts() const;
+    QList<QLineEdit *> fields() const;
+    QStringList inputs() const;
+    void follow(const QStringList &buttons);
+};
+
+namespace {
+QByteArray hangar()
+{
+    return Xml::file(Xml::locations({"Meadow", "Hill"}) + Xml::battery("Pack", true) + Xml::battery("Flat") +
+                     Xml::battery("Spare") + Xml::model("Heli", {"Pack", "Flat"}) +
+                     Xml::model("Plane", {"Pack"}));
+}
+
+bool isPartOfACard(const QWidget *widget)
+{
+    while (widget && !qobject_cast<const BatteryWidget *>(widget))
+        widget = widget->parentWidget();
+    return widget;
+}
+
+QString textOf(const QWidget *card, const char *name)
+{
+    return card->findChild<QWidget *>(QLatin1StringView(name))->property("text").toString();
+}
+} // namespace
+
+void LanguageTest::init()
+{
+    translator = std::make_unique<TildeTranslator>();
+    window = std::make_unique<LogbookWindow>();
+    ui = &window->ui();
+    window->load(hangar());
+}
+
+void LanguageTest::cleanup()
+{
+    window.reset();
+    translator.reset();
+    QCoreApplication::sendPostedEvents();
+}
+
+void LanguageTest::changeLanguage()
+{
+    QVERIFY(QCoreApplication::installTranslator(translator.get()));
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::sendPostedEvents();
+}
+
+void LanguageTest::changeLanguageBack()
+{
+    QVERIFY(QCoreApplication::removeTranslator(translator.get()));
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::sendPostedEvents();
+}
+
+void LanguageTest::follow(const QStringList &buttons)
+{
+    for (const QString &name : buttons)
+        window->click(window->gui().findChild<QAbstractButton *>(name));
+}
+
+/** The labels and buttons of the form whose texts are translated, with their texts. */
+QList<QPair<QWidget *, QString>> LanguageTest::texts() const
+{
+    QList<QPair<QWidget *, QString>> result;
+    for (QWidget *widget : ui->centralwidget->findChildren<QWidget *>()) {
+        const QString name = widget->objectName();
+        const QString text = widget->property("text").toString();
+        const bool speaks = widget->inherits("QLabel") || widget->inherits("QAbstractButton");
+        const bool unit = name.startsWith(QStringLiteral("rb_show"));
+        const bool value = name.startsWith(QStringLiteral("lbl_logview"));
+        if (speaks && !text.isEmpty() && !unit && !value && !isPartOfACard(widget))
+            result.append({widget, text});
+    }
+    return result;
+}
+
+/** The line edits of the form; those inside spin boxes are not of it. */
+QList<QLineEdit *> LanguageTest::fields() const
+{
+    return window->gui().findChildren<QLineEdit *>(QRegularExpression(QStringLiteral("^ledt_")));
+}
+
+/** Everything a pilot has entered on any page, by the name of the widget. */
+QStringList LanguageTest::inputs() const
+{
+    QStringList result;
+    const auto note = [&result](const QWidget *widget, const QString &what) {
+        result.append(widget->objectName() + u'=' + what);
+    };
+    for (const QLineEdit *field : fields())
+        note(field, field->text());
+    for (const auto *field : window->gui().findChildren<QPlainTextEdit *>())
+        note(field, field->toPlainText());
+    for (const auto *box : window->gui().findChildren<QSpinBox *>())
+        note(box, QString::number(box->value()));
+    for (const auto *box : window->gui().findChildren<QDoubleSpinBox *>())
+        note(box, QString::number(box->value()));
+    for (const auto *edit : window->gui().findChildren<QDateTimeEdit *>())
+        note(edit, edit->date().toString(Qt::ISODate) + edit->time().toString(Qt::ISODateWithMs));
+    for (const auto *button : window->gui().findChildren<QRadioButton *>())
+        note(button, QString::number(button->isChecked()));
+    for (const auto *chooser : window->gui().findChildren<QComboBox *>())
+        note(chooser, QString::number(chooser->count()) + chooser->currentText());
+    return result;
+}
+
+void LanguageTest::everyTextOfTheWindowFollows()
+{
+    const auto before = texts();
+    QVERIFY(before.size() > 80);
+    changeLanguage();
+    for (const auto &[widget, text] : before) {
+        const QString expected = u'~' + text;
+        QVERIFY2(widget->property("text").toString() == expected, qPrintable(widget->objectName()));
+    }
+    QCOMPARE(ui->lbl_optionshint->text(),
+             QStringLiteral("~Please go to Options and add new model and battery!"));
+    QCOMPARE(ui->label_7->text(), QStringLiteral("~Charge  rate (C)"));
+    QCOMPARE(ui->rb_showmAh->text(), QStringLiteral("mAh"));
+    QCOMPARE(window->gui().windowTitle(), QStringLiteral("Rotavex 15.7.0 64-bit"));
+}
+
+void LanguageTest::theTextsComeBackWithTheFirstLanguage()
+{
+    const auto before = texts();
+    const QStringList entered = inputs();
+    changeLanguage();
+    changeLanguageBack();
+    QCOMPARE(texts(), before);
+    QCOMPARE(inputs(), entered);
+    QCOMPARE(window->gui().windowTitle(), QStringLiteral("Rotavex 15.7.0 64-bit"));
+}
+
+void LanguageTest::theMasksFollowAndKeepTheirContent()
+{
+    ui->ledt_capacity->setText(QStringLiteral("3300"));
+    ui->ledt_chargeRate->setText(QStringLiteral("1.5"));
+    ui->ledt_purchaseDate->setText(QStringLiteral("2024-02-29"));
+    changeLanguage();
+    QCOMPARE(ui->ledt_capacity->inputMask(), QStringLiteral("000009"));
+    QCOMPARE(ui->ledt_capacity->text(), QStringLiteral("3300"));
+    QCOMPARE(ui->ledt_dischargeRate->inputMask(), QStringLiteral("0009"));
+    QCOMPARE(ui->ledt_dischargeRate->text(), QStringLiteral("30"));
+    QCOMPARE(ui->ledt_chargeRate->inputMask(), QStringLiteral("09.0"));
+    QCOMPARE(ui->ledt_chargeRate->text(), QStringLiteral("1.5"));
+    QCOMPARE(ui->ledt_modifyheli_size->inputMask(), QStringLiteral("00009"));
+    QCOMPARE(ui->ledt_purchaseDate->inputMask(), QStringLiteral("0000-00-00")); // never translated
+    QCOMPARE(ui->ledt_purchaseDate->text(), QStringLiteral("2024-02-29"));
+    QCOMPARE(ui->ledt_addheli_weight->inputMask(), QStringLiteral("0.00"));
+}
+
+void LanguageTest::aMaskedFieldFilledInPartKeepsItsContent()
+{
+    follow({"pb_options", "pb_edit_data", "pb_choose_addbattery"});
+    window->type(ui->ledt_purchaseDate, QStringLiteral("2024"));
+    ui->ledt_purchaseDate->setCursorPosition(8);
+    QTest::keyClicks(ui->ledt_purchaseDate, QStringLiteral("15"));
+    window->type(ui->ledt_capacity, {});
+    changeLanguage();
+    QCOMPARE(ui->ledt_purchaseDate->displayText(), QStringLiteral("2024-  -15"));
+    QCOMPARE(ui->ledt_capacity->text(), QString());
+}
+
+void LanguageTest::aNewWindowSpeaksTheLanguageInForce()
+{
+    changeLanguage();
+    window->restart();
+    ui = &window->ui();
+    QCOMPARE(ui->pb_save_discharged->text(), QStringLiteral("~OK"));
+    QCOMPARE(ui->ledt_name->text(), QStringLiteral("~MyBattery"));
+    QCOMPARE(window->gui().windowTitle(), QStringLiteral("Rotavex 15.7.0 64-bit"));
+    changeLanguageBack();
+    QCOMPARE(ui->pb_save_discharged->text(), QStringLiteral("OK"));
+}
+
+void LanguageTest::everyInputOfEveryPageStays()
+{
+    for (QLineEdit *field : fields()) {
+        if (!field->inputMask().isEmpty())
+            field->setText(field->displayText().replace(u'0', u'3').replace(u'1', u'2'));
+        else
+            field->setText(QStringLiteral("Entered in ") + field->objectName());
+    }
+    for (auto *field : window->gui().findChildren<QPlainTextEdit *>())
+        field->setPlainText(QStringLiteral("Notes in ") + field->objectName());
+    for (auto *chooser : window->gui().findChildren<QComboBox *>())
+        chooser->setCurrentIndex(1);
+    ui->sb_discharged_capacity->setValue(1234);
+    ui->dsb_discharged_current->setValue(12.34);
+    ui->sb_log_temp->setValue(-7);
+    ui->dedt_dischargeDate->setDate(QDate(2026, 11, 15));
+    ui->tedt_dischargeTime->setTime(QTime(12, 4, 22));
+    ui->sb_log_duration->setTime(QTime(0, 6, 30));
+    ui->rb_showC->setChecked(true);
+    ui->rb_modeAdvanced->setChecked(true);
+    const QStringList before = inputs();
+    changeLanguage();
+    QCOMPARE(inputs(), before);
+    changeLanguageBack();
+    QCOMPARE(inputs(), before);
+}
+
+void LanguageTest::cursorAndFocusStay()
+{
+    follow({"pb_options", "pb_edit_data", "pb_choose_addbattery"});
+    window->type(ui->ledt_name, QStringLiteral("Half typed"));
+    ui->ledt_name->setCursorPosition(5);
+    changeLanguage();
+    QCOMPARE(window->gui().focusWidget(), ui->ledt_name);
+    QTest::keyClicks(window->gui().focusWidget(), QStringLiteral("re"));
+    QCOMPARE(ui->ledt_name->text(), QStringLiteral("Half retyped"));
+}
+
+void LanguageTest::pageAndChargedBatteryStay()
+{
+    RotavexPlugin::rotavexSettings->setValue(QStringLiteral("SETTINGS/voltbok"), QStringLiteral("Complex"));
+    window->load(hangar());
+    window->clickCard(window->battery("Pack"));
+    changeLanguage();
+    QCOMPARE(ui->stackedWidget->currentWidget(), ui->dischargeView);
+    QCOMPARE(window->gui().currentPage, 12);
+    QCOMPARE(window->fileBytes(), hangar());
+    window->click(ui->pb_save_discharged);
+    QCOMPARE(window->battery("Pack")->getDischarges(), QList<unsigned int>({1760}));
+}
+
+void LanguageTest::aQuestionThatWasAskedStaysAsked_data()
+{
+    QTest::addColumn<QString>("page");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("question");
+    QTest::addColumn<bool>("startsAsked");
+    QTest::newRow("battery") << "pb_choose_delbattery"
+                             << "pb_deleteConfirm"
+                             << "lbl_really" << false;
+    QTest::newRow("model") << "pb_choose_delmodel"
+                           << "pb_deleteConfirm_model"
+                           << "lbl_reallydelete_model" << false;
+    QTest::newRow("location") << "pb_choose_dellocation"
+                              << "pb_del_location"
+                              << "lbl_reallydelete_location" << true;
+}
+
+void LanguageTest::aQuestionThatWasAskedStaysAsked()
+{
+    QFETCH(QString, page);
+    QFETCH(QString, button);
+    QFETCH(QString, question);
+    QFETCH(bool, startsAsked);
+    auto *confirm = window->gui().findChild<QPushButton *>(button);
+    const auto *really = window->gui().findChild<QLabel *>(question);
+
+    if (startsAsked)
+        follow({"pb_options", "pb_edit_data", page, button}); // deletes at once, and asks from now on
+    while (ui->stackedWidget->currentWidget() != ui->optionsView)
+        window->click(ui->pb_options);
+    follow({"pb_edit_data", page});
+    changeLanguage();
+    QCOMPARE(confirm->text(), QStringLiteral("~Delete"));
+    QVERIFY(!really->isVisible());
+    window->click(confirm);
+    QCOMPARE(confirm->text(), QStringLiteral("~Yes"));
+    QVERIFY(really->isVisible());
+    QCOMPARE(really->text(), QStringLiteral("~Really?"));
+
+    changeLanguageBack();
+    QCOMPARE(confirm->text(), QStringLiteral("Yes"));
+    QVERIFY(really->isVisible());
+    changeLanguage();
+    QCOMPARE(confirm->text(), QStringLiteral("~Yes"));
+    window->click(confirm);
+    QCOMPARE(ui->stackedWidget->currentWidget(), ui->scrollLayout); // the second click was the second
+    QCOMPARE(confirm->text(), QStringLiteral("~Delete"));
+}
+
+void LanguageTest::everyCardFollowsOnShowOrNot()
+{
+    window->choose(ui->cb_select_model, QStringLiteral("Plane"));
+    changeLanguage();
+    // "Pack" is on show, "Flat" was, "Spare" never has been.
+    QCOMPARE(textOf(window->battery("Pack"), "pushButton"), QStringLiteral("~Charged"));
+    QCOMPARE(textOf(window->battery("Flat"), "pushButton"), QStringLiteral("~Discharged"));
+    QCOMPARE(textOf(window->battery("Spare"), "pushButton"), QStringLiteral("~Discharged"));
+    for (const BatteryWidget *card : window->gui().batteryList) {
+        QCOMPARE(textOf(card, "label"), QStringLiteral("~Cycles:"));
+        QCOMPARE(textOf(card, "label_6"), QStringLiteral("~Last use:"));
+        QCOMPARE(textOf(card, "lbl_discharged_label"), QStringLiteral("~Discharged:"));
+        QCOMPARE(textOf(card, "lbl_maxCurrent_label"), QStringLiteral("~Max. Current:"));
+        QCOMPARE(textOf(card, "lbl_name"), card->getBatteryName());
+        QCOMPARE(textOf(card, "lbl_capacity"), QStringLiteral("2200mAh"));
+    }
+    changeLanguageBack();
+    QCOMPARE(textOf(window->battery("Pack"), "pushButton"), QStringLiteral("Charged"));
+}
+
+void LanguageTest::theTitleOfTheChartFollows()
+{
+    follow({"pb_options", "pb_chart"});
+    window->choose(ui->cb_batteryData, QStringLiteral("Spare"));
+    window->click(ui->rb_showC);
+    QCOMPARE(window->gui().chartView->chart()->title(), QStringLiteral("Battery age: 0.00 years"));
+    changeLanguage();
+    QCOMPARE(window->gui().chartView->chart()->title(), QStringLiteral("~Battery age: 0.00 years"));
+    QVERIFY(window->gui().chartView->isVisible());
+    QCOMPARE(ui->cb_batteryData->currentText(), QStringLiteral("Spare"));
+    QVERIFY(ui->rb_showC->isChecked());
+}
+
+void LanguageTest::noChartIsDrawnThatWasNotAskedFor()
+{
+    changeLanguage();
+    QVERIFY(!window->gui().chartView);
+}
+
+void LanguageTest::theFlightOnShowStays()
+{
+    window->clickCard(window->battery("Pack"));
+    follow({"pb_options", "pb_logbook"});
+    const QString date = ui->lbl_logview_date->text();
+    QVERIFY(!date.isEmpty());
+    changeLanguage();
+    QCOMPARE(ui->lbl_logview_date->text(), date);
+    QCOMPARE(ui->lbl_logview_location->text(), QStringLiteral("Meadow"));
+}
+
+QTEST_MAIN(LanguageTest)
+#include "tst_language.moc"

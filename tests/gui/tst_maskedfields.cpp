@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/logbookwindow.h"
+
+/** Typing into the fields with masks as a hurried user does: click anywhere, or Tab, and type. */
+class MaskedFieldsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_window = std::make_unique<LogbookWindow>();
+        LogbookWindow::click(m_window->ui().pb_options);
+        LogbookWindow::click(m_window->ui().pb_edit_data);
+        LogbookWindow::click(m_window->ui().pb_choose_addbattery);
+    }
+    void cleanup() { m_window.reset(); }
+
+    void aClickAnywhereLetsTypingReplaceTheContent_data();
+    void aClickAnywhereLetsTypingReplaceTheContent();
+    void tabLetsTypingReplaceTheContent();
+    void aSecondClickSetsTheCursor();
+    void aFieldWithoutAMaskIsLeftToItself();
+
+private:
+    std::unique_ptr<LogbookWindow> m_window;
+};
+
+void MaskedFieldsTest::aClickAnywhereLetsTypingReplaceTheContent_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<double>("where"); // as a part of the field's width
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("expected");
+
+    for (const double where : {0.05, 0.3, 0.9}) {
+        const QByteArray place = " at " + QByteArray::number(where);
+        QTest::newRow("capacity" + place) << "ledt_capacity" << where << "220"
+                                          << "220";
+        QTest::newRow("charge rate" + place) << "ledt_chargeRate" << where << "35"
+                                             << "3.5";
+        QTest::newRow("charge rate with its point" + place) << "ledt_chargeRate" << where << "3.5"
+                                                            << "3.5";
+        QTest::newRow("date" + place) << "ledt_purchaseDate" << where << "20240229"
+                                      << "2024-02-29";
+        QTest::newRow("date with hyphens" + place) << "ledt_purchaseDate" << where << "2024-02-29"
+                                                   << "2024-02-29";
+    }
+}
+
+void MaskedFieldsTest::aClickAnywhereLetsTypingReplaceTheContent()
+{
+    QFETCH(QString, name);
+    QFETCH(double, where);
+    QFETCH(QString, typed);
+    auto *field = (*m_window)->findChild<QLineEdit *>(name);
+    QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(int(field->width() * where), field->height() / 2));
+    QTest::keyClicks(field, typed);
+    QTEST(field->text(), "expected");
+}
+
+void MaskedFieldsTest::tabLetsTypingReplaceTheContent()
+{
+    Ui_VoltbokGui &ui = m_window->ui();
+    ui.ledt_name->setFocus();
+    QTest::keyClick(ui.ledt_name, Qt::Key_Tab);
+    QWidget *focused = (*m_window)->focusWidget();
+    auto *field = qobject_cast<QLineEdit *>(focused);
+    QVERIFY(field);
+    QVERIFY2(!field->inputMask().isEmpty(), qPrintable(field->objectName()));
+    QTest::keyClicks(field, QStringLiteral("22"));
+    QCOMPARE(field->text(), QStringLiteral("22"));
+}
+
+void MaskedFieldsTest::aSecondClickSetsTheCursor()
+{
+    QLineEdit *field = m_window->ui().ledt_capacity;
+    const QPoint left(3, field->height() / 2);
+    QTest::mouseClick(field, Qt::LeftButton, {}, left);
+    QVERIFY(field->hasSelectedText());
+    QTest::mouseClick(field, Qt::LeftButton, {}, left, QApplication::doubleClickInterval() + 50);
+    QVERIFY(!field->hasSelectedText());
+    QTest::keyClicks(field, QStringLiteral("9"));
+    QCOMPARE(field->text(), QStringLiteral("9000"));
+}
+
+void MaskedFieldsTest::aFieldWithoutAMaskIsLeftToItself()
+{
+    QLineEdit *field = m_window->ui().ledt_name;
+    m_window->ui().ledt_capacity->setFocus();
+    QTest::mouseClick(field, Qt::LeftButton);
+    QVERIFY(!field->hasSelectedText());
+    QTest::keyClicks(field, QStringLiteral("X"));
+    QCOMPARE(field->text(), QStringLiteral("MyBatteryX"));
+}
+
+QTEST_MAIN(MaskedFieldsTest)
+#include "tst_maskedfields.moc"
