@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "host/data/catalogue.h"
+
 #include <QByteArray>
 #include <QString>
 
@@ -16,6 +18,18 @@ struct Saved
 };
 
 Saved loadAndSave(const QByteArray &document);
+
+/** What the library reads from a document, as plain values. */
+struct Loaded
+{
+    Catalogue catalogue;
+    QString problem; ///< why nothing could be read, a clause; empty when it could
+};
+
+Loaded load(const QByteArray &document);
+
+/** The document that the library writes for these values. */
+Saved save(const Catalogue &catalogue);
 
 /** The document of a logbook without any record. */
 QByteArray emptyDocument();

@@ -5,16 +5,22 @@
 #include "host/safety/folderlock.h"
 #include "host/safety/storagefolder.h"
 #include "host/window/messagebar.h"
+#include "host/window/openlogbook.h"
 #include "host/window/savecare.h"
+#include "host/window/sidepanel.h"
 #include "plugin/rotavexplugin.h"
 
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QFileInfo>
 #include <QPixmap>
 #include <QSettings>
+#include <QSplitter>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -33,28 +39,30 @@ QString titleOf(const StorageFolder &folder)
 MainWindow::MainWindow(Questions &questions, QWidget *parent)
     : QMainWindow(parent)
     , m_questions(questions)
-    , m_logbook(new VoltbokGui)
+    , m_gui(new VoltbokGui)
     , m_messages(new MessageBar)
+    , m_splitter(new QSplitter)
 {
-    const QSize size = m_logbook->size();
+    const QSize size = m_gui->size();
     auto *content = new QWidget(this);
     auto *layout = new QVBoxLayout(content);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_messages);
-    layout->addWidget(m_logbook, 1);
+    layout->addWidget(m_splitter, 1);
+    m_splitter->addWidget(m_gui);
     setCentralWidget(content);
     resize(size);
     // The one page that changes a setting; after the logbook, whose slots are connected already.
-    connect(m_logbook->findChild<QButtonGroup *>(u"btnGrp_mode"_s), &QButtonGroup::buttonClicked, this,
+    connect(m_gui->findChild<QButtonGroup *>(u"btnGrp_mode"_s), &QButtonGroup::buttonClicked, this,
             &MainWindow::tellAboutSettings);
-    connect(m_logbook, &VoltbokGui::closeVoltbokGui, this, &QWidget::close);
+    connect(m_gui, &VoltbokGui::closeVoltbokGui, this, &QWidget::close);
     connect(m_messages, &MessageBar::told, this, &MainWindow::told);
 }
 
 MainWindow::~MainWindow()
 {
-    m_care.reset(); // it uses the widgets
+    closeLogbook(); // it uses the widgets
 }
 
 QPixmap MainWindow::picture(const StorageFolder &folder)
@@ -66,16 +74,18 @@ QPixmap MainWindow::picture(const StorageFolder &folder)
 
 void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> lock)
 {
-    m_care.reset(); // the folder before is saved and copied while its lock is held
+    closeLogbook(); // it is saved and copied while its lock is held
     m_lock = std::move(lock);
     m_messages->clear(); // they speak of the folder before
     setWindowTitle(titleOf(folder));
-    m_logbook->changeStoragePath(folder.path());
-    m_care = std::make_unique<SaveCare>(folder,
-                                        LogbookAccess{m_logbook,
-                                                      [this] { m_logbook->writeDataWithDataprocessor(); },
-                                                      [this] { m_logbook->updateBatteryGui(); }},
-                                        *m_messages, m_questions);
+    m_gui->changeStoragePath(folder.path());
+    m_care = std::make_unique<SaveCare>(
+        folder, LogbookAccess{m_gui, [this] { m_gui->writeDataWithDataprocessor(); }, [this] { reload(); }},
+        *m_messages, m_questions);
+    m_logbook = std::make_unique<OpenLogbook>(folder, *m_care);
+    m_panel = new SidePanel(*m_logbook, m_questions);
+    m_splitter->addWidget(m_panel);
+    m_panel->hide();
     tellAboutSettings();
     // Queued: the care ends with the folder that it speaks of.
     connect(m_care.get(), &SaveCare::keptElsewhere, this, &MainWindow::goOnIn, Qt::QueuedConnection);
@@ -94,6 +104,22 @@ void MainWindow::tellAboutSettings()
             "that you choose will be forgotten. Change the permissions of this file and its "
             "folder.")
              .arg(RotavexPlugin::rotavexSettings->fileName()));
+}
+
+/** Has the window show what the file holds. By itself it goes on offering the locations before where there
+ * are none. */
+void MainWindow::reload()
+{
+    for (const QString &name : {u"cb_log_location"_s, u"cb_location_delete"_s})
+        m_gui->findChild<QComboBox *>(name)->clear();
+    m_gui->updateBatteryGui();
+}
+
+void MainWindow::closeLogbook()
+{
+    delete std::exchange(m_panel, nullptr); // each of them uses the next
+    m_logbook.reset();
+    m_care.reset();
 }
 
 void MainWindow::goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock)

@@ -5,14 +5,17 @@
 
 #include <memory>
 
+class QSplitter;
 class VoltbokGui;
 
 namespace Host {
 
 class FolderLock;
+class OpenLogbook;
 class MessageBar;
 class Questions;
 class SaveCare;
+class SidePanel;
 class StorageFolder;
 
 /** The program's window: the logbook of one storage folder, below the messages about it. */
@@ -51,13 +54,18 @@ protected:
 
 private:
     void tellAboutSettings();
+    void reload();
+    void closeLogbook();
     void goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock);
 
     Questions &m_questions;
-    VoltbokGui *m_logbook;
+    VoltbokGui *m_gui;
     MessageBar *m_messages;
+    QSplitter *m_splitter;
     std::shared_ptr<FolderLock> m_lock;
     std::unique_ptr<SaveCare> m_care; // before the lock goes, it saves and copies
+    std::unique_ptr<OpenLogbook> m_logbook;
+    SidePanel *m_panel = nullptr; // in the splitter
 };
 
 } // namespace Host

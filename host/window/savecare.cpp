@@ -77,6 +77,23 @@ bool SaveCare::mayClose()
     return m_questions.ask(question).button == QuitAnyway;
 }
 
+bool SaveCare::makeFileCurrent()
+{
+    flush();
+    return isInOrder();
+}
+
+bool SaveCare::takeWritten(const QByteArray &document)
+{
+    m_logbook.reload();
+    takeForOurs();
+    m_openedAs = heldByWindow();
+    settle();
+    Q_EMIT written(document);
+    return heldByFile() == document &&
+           (m_openedAs == document || m_openedAs == CatalogueFile::loadAndSave(document).document);
+}
+
 /** Whether the window holds what a save of this file would keep; a disk that did not give it is asked once
  * more. */
 bool SaveCare::isOpenedWhole()
@@ -104,6 +121,7 @@ void SaveCare::saved(bool reloaded)
         return tellLoss(Loss::Everything, tr("it cannot be read back"));
     m_unsaved.clear();
     m_endsWhenWhole = true;
+    Q_EMIT written(document);
 }
 
 void SaveCare::unchanged(bool reloaded)
@@ -141,8 +159,10 @@ void SaveCare::changedByOthers()
         return;
     m_byOthers = true;
     m_keeper.lookAndWait(); // before the window overwrites it
+    Q_EMIT orderChanged();
     if (m_loss == Loss::Everything || !WholeFile::isWhole(heldByFile()))
         return; // there is another message
+    Q_EMIT writtenByOthers(heldByFile());
     m_messages.tell(Others,
                     tr("Another program has changed the logbook file. This window still shows what it "
                        "held before, and your next change overwrites the file. A copy of the other "
@@ -194,6 +214,7 @@ void SaveCare::tellLoss(Loss loss, const QString &reason)
         actions.append({tr("Restore Last State"), [this] { restoreLastState(); }});
     actions.append({tr("Keep Elsewhere…"), [this] { keepElsewhere(); }});
     m_messages.tell(Saving, lossText(loss).arg(m_folder.dataFile(), reason), actions);
+    Q_EMIT orderChanged();
 }
 
 QString SaveCare::lossText(Loss loss)
@@ -243,6 +264,7 @@ void SaveCare::settle()
     m_unsaved.clear();
     m_logbook.widget->setEnabled(true);
     m_messages.retract(Saving);
+    Q_EMIT orderChanged();
 }
 
 void SaveCare::flush()
@@ -254,10 +276,12 @@ void SaveCare::flush()
     const QByteArray held = heldByWindow();
     if (held.isEmpty() || held == m_openedAs || held == heldByFile())
         return;
-    if (save())
+    if (save()) {
         settle();
-    else
+        Q_EMIT written(held);
+    } else {
         tellLoss(Loss::File, reason(tr("the disk reports an error")));
+    }
 }
 
 QByteArray SaveCare::heldByWindow() const

@@ -46,7 +46,21 @@ public:
      */
     bool mayClose();
 
+    /** Whether file and window hold the same, and it is the window's or the program's own. */
+    bool isInOrder() const { return m_loss == Loss::None && !m_byOthers; }
+    /** Saves what is not saved yet. @return whether all is in order now, so that the file may be written. */
+    bool makeFileCurrent();
+    /** The program has written the file in the window's stead, and has the window read it. @return whether
+     * the window holds it now. */
+    bool takeWritten(const QByteArray &document);
+
 Q_SIGNALS:
+    /** The file holds a new version of the window's or the program's own. */
+    void written(const QByteArray &document);
+    /** The file holds a version of somebody else's, which the window does not show. */
+    void writtenByOthers(const QByteArray &document);
+    /** isInOrder() may have changed. */
+    void orderChanged();
     /** The user wants to go on in another folder, which has the logbook already; the receiver takes the lock.
      */
     void keptElsewhere(const Host::StorageFolder &folder, std::shared_ptr<Host::FolderLock> lock);

@@ -20,8 +20,10 @@ void SaveCare::tryAgain()
     // Where the window holds nothing more than the file, there is nothing to save.
     const bool saves = m_loss == Loss::File;
     QString problem = saves ? QString() : WholeFile::writeProblem(m_folder.dataFile());
-    if (problem.isEmpty() && (!saves || save()))
+    if (problem.isEmpty() && (!saves || save())) {
+        Q_EMIT written(heldByFile());
         return settle();
+    }
     if (saves) {
         problem = reason(tr("the disk reports an error"));
         tellLoss(Loss::File, problem);
@@ -43,10 +45,7 @@ void SaveCare::restoreLastState()
                 .arg(problem));
         return;
     }
-    m_logbook.reload();
-    takeForOurs();
-    m_openedAs = heldByWindow();
-    settle();
+    takeWritten(state);
     m_messages.tell(
         Restored,
         aside.isEmpty()

@@ -8,6 +8,7 @@
 #include "gui/pages.h"
 #include "host/safety/backups.h"
 #include "host/safety/folderlock.h"
+#include "host/window/openlogbook.h"
 #include "host/window/mainwindow.h"
 #include "host/window/messagebar.h"
 #include "host/window/savecare.h"
@@ -86,8 +87,9 @@ public:
 
     Host::MainWindow &window() { return *m_window; }
     Host::SaveCare &care() { return *m_window->m_care; }
+    Host::OpenLogbook &logbook() { return *m_window->m_logbook; }
     Host::MessageBar &messages() { return *m_window->m_messages; }
-    VoltbokGui &gui() { return *m_window->m_logbook; }
+    VoltbokGui &gui() { return *m_window->m_gui; }
     Ui_VoltbokGui &ui() { return *gui().ui; }
 
     QString place() const { return m_place.path(); }

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/data/catalogue.h"
+#include "host/data/undo.h"
+#include "host/safety/storagefolder.h"
+
+#include <QObject>
+#include <QString>
+
+#include <functional>
+#include <memory>
+
+namespace Host {
+
+class SaveCare;
+
+/**
+ * The open logbook as the program sees it beside the window: its catalogue as plain values, changes of it,
+ * and their undoing. The file is the truth: everything is read from it, and written to it first.
+ */
+class OpenLogbook final : public QObject
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(OpenLogbook)
+
+public:
+    /** Changes the catalogue. @return why it cannot be done, in whole sentences; empty when it is. */
+    using Change = std::function<QString(Catalogue &)>;
+
+    /** @param care of the same folder; outlives the logbook. */
+    OpenLogbook(const StorageFolder &folder, SaveCare &care);
+
+    /** What the file holds now, read once for each version of it; null when a full disk does not let it be
+     * read. */
+    std::shared_ptr<const Catalogue> catalogue();
+
+    /** Whether it can be changed now: not while a flight is being entered, nor while the file is in trouble.
+     */
+    bool mayChange() const { return m_mayChange; }
+
+    /**
+     * Changes the catalogue, the file and the window in one step that can be undone.
+     *
+     * @param name what is done, as a menu shows it.
+     * @return why it was not done, in whole sentences; empty when it was. All is then as it was before.
+     */
+    QString change(const QString &name, const Change &change);
+
+    bool canUndo() const { return m_mayChange && m_history.canUndo(); }
+    bool canRedo() const { return m_mayChange && m_history.canRedo(); }
+    QString undoName() const { return m_history.undoName(); }
+    QString redoName() const { return m_history.redoName(); }
+    /** @return why it was not done, in whole sentences; empty when it was. */
+    QString undo();
+    QString redo();
+
+    /** The discharge page was opened or left. */
+    void setCapturing(bool capturing);
+
+Q_SIGNALS:
+    /** The file holds another version: what catalogue() gives has changed. */
+    void changed();
+    /** What can be changed, undone and done again has changed. */
+    void possibilitiesChanged();
+
+private:
+    QString obstacle();
+    void versionWritten(const QByteArray &document);
+    void versionOfOthers(const QByteArray &document);
+    QString put(const QByteArray &document);
+    void updatePossibilities();
+    void announce();
+
+    const StorageFolder m_folder;
+    SaveCare &m_care;
+    UndoHistory m_history;
+    std::shared_ptr<const Catalogue> m_catalogue; ///< null when the file has another version since
+    QString m_stepName;                           ///< of the version that is being written
+    void (UndoHistory::*m_move)() = nullptr;      ///< that the version that is being written is known by
+    bool m_capturing = false;
+    bool m_mayChange = true;
+};
+
+} // namespace Host

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+namespace Host {
+
+/** A tab of the side panel. It is refreshed when it is on show and the logbook has changed. */
+class PanelTab : public QWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(PanelTab)
+
+public:
+    using QWidget::QWidget;
+
+    /** Shows what the logbook holds now. */
+    virtual void refresh() = 0;
+};
+
+} // namespace Host

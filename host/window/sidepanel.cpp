@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/window/sidepanel.h"
+
+#include "host/window/batteriestab.h"
+#include "host/window/flightstab.h"
+#include "host/window/openlogbook.h"
+#include "host/window/statisticstab.h"
+#include "host/window/todaytab.h"
+
+namespace Host {
+
+SidePanel::SidePanel(OpenLogbook &logbook, Questions &questions, QWidget *parent)
+    : QTabWidget(parent)
+    , m_today(new TodayTab(logbook))
+    , m_batteries(new BatteriesTab(logbook, questions))
+    , m_flights(new FlightsTab(logbook, questions))
+    , m_statistics(new StatisticsTab(logbook))
+{
+    insertTab(Today, m_today, tr("Today"));
+    insertTab(Batteries, m_batteries, tr("Batteries"));
+    insertTab(Flights, m_flights, tr("Flights"));
+    insertTab(Statistics, m_statistics, tr("Statistics"));
+    setAccessibleName(tr("Side panel"));
+    m_whenIdle.setSingleShot(true);
+    connect(&m_whenIdle, &QTimer::timeout, this, &SidePanel::refreshNow);
+    connect(this, &QTabWidget::currentChanged, this, &SidePanel::refreshNow);
+    connect(&logbook, &OpenLogbook::changed, this, &SidePanel::logbookChanged);
+    connect(m_today, &TodayTab::batteryRequested, this, &SidePanel::showBattery);
+    logbookChanged();
+}
+
+SidePanel::~SidePanel() = default;
+
+void SidePanel::logbookChanged()
+{
+    m_stale = {Today, Batteries, Flights, Statistics};
+    m_whenIdle.start();
+}
+
+void SidePanel::refreshNow()
+{
+    if (!isVisible() || !m_stale.remove(currentIndex()))
+        return;
+    static_cast<PanelTab *>(currentWidget())->refresh();
+}
+
+void SidePanel::showBattery(const QString &name)
+{
+    setCurrentIndex(Batteries);
+    m_batteries->select(name);
+}
+
+void SidePanel::showEvent(QShowEvent *event)
+{
+    QTabWidget::showEvent(event);
+    m_whenIdle.start();
+}
+
+} // namespace Host

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QSet>
+#include <QTabWidget>
+#include <QTimer>
+
+namespace Host {
+
+class BatteriesTab;
+class FlightsTab;
+class OpenLogbook;
+class PanelTab;
+class Questions;
+class StatisticsTab;
+class TodayTab;
+
+/** Everything that a pilot wants to see and correct, in tabs beside the logbook. */
+class SidePanel final : public QTabWidget
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(SidePanel)
+
+public:
+    enum Tab { Today, Batteries, Flights, Statistics };
+
+    /** @param logbook @param questions outlive the panel. */
+    SidePanel(OpenLogbook &logbook, Questions &questions, QWidget *parent = nullptr);
+    ~SidePanel() override;
+
+    /** Brings the tab on show up to date at once. */
+    void refreshNow();
+
+    /** Shows the first battery of this name on its tab. */
+    void showBattery(const QString &name);
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void logbookChanged();
+
+    TodayTab *m_today;
+    BatteriesTab *m_batteries;
+    FlightsTab *m_flights;
+    StatisticsTab *m_statistics;
+    QSet<int> m_stale; ///< the tabs that show an earlier version
+    QTimer m_whenIdle; ///< a click on a card does not wait for the tab beside it
+};
+
+} // namespace Host

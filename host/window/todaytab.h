@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/window/paneltab.h"
+
+namespace Host {
+
+class OpenLogbook;
+
+/** What to do today, with the reason, and one click to the battery that it is about. */
+class TodayTab final : public PanelTab
+{
+    Q_OBJECT
+    Q_DISABLE_COPY_MOVE(TodayTab)
+
+public:
+    explicit TodayTab(OpenLogbook &logbook, QWidget *parent = nullptr);
+
+    void refresh() override;
+
+Q_SIGNALS:
+    /** The user wants to see what an advice is about. */
+    void batteryRequested(const QString &name);
+
+private:
+    OpenLogbook &m_logbook;
+};
+
+} // namespace Host
