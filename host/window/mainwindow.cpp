@@ -3,9 +3,10 @@
 
 #include "gui/voltbokgui.h"
 #include "host/safety/folderlock.h"
-#include "host/safety/storagefolder.h"
 #include "host/window/messagebar.h"
 #include "host/window/openlogbook.h"
+#include "host/window/pendinginput.h"
+#include "host/window/questions.h"
 #include "host/window/savecare.h"
 #include "host/window/sidepanel.h"
 #include "plugin/rotavexplugin.h"
@@ -15,9 +16,12 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QPixmap>
+#include <QScreen>
 #include <QSettings>
 #include <QSplitter>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -26,6 +30,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
 namespace {
+
+constexpr int RoomForThePanel = 1000; // pixels of the screen, from which on the side panel is shown at first
 
 QString titleOf(const StorageFolder &folder)
 {
@@ -40,8 +46,11 @@ MainWindow::MainWindow(Questions &questions, QWidget *parent)
     : QMainWindow(parent)
     , m_questions(questions)
     , m_gui(new VoltbokGui)
+    , m_pages(m_gui->findChild<QStackedWidget *>(u"stackedWidget"_s))
+    , m_pending(new PendingInput(*m_pages, this))
     , m_messages(new MessageBar)
     , m_splitter(new QSplitter)
+    , m_folder(QString())
 {
     const QSize size = m_gui->size();
     auto *content = new QWidget(this);
@@ -51,18 +60,28 @@ MainWindow::MainWindow(Questions &questions, QWidget *parent)
     layout->addWidget(m_messages);
     layout->addWidget(m_splitter, 1);
     m_splitter->addWidget(m_gui);
+    m_splitter->setChildrenCollapsible(false);
     setCentralWidget(content);
     resize(size);
-    // The one page that changes a setting; after the logbook, whose slots are connected already.
-    connect(m_gui->findChild<QButtonGroup *>(u"btnGrp_mode"_s), &QButtonGroup::buttonClicked, this,
-            &MainWindow::tellAboutSettings);
-    connect(m_gui, &VoltbokGui::closeVoltbokGui, this, &QWidget::close);
+    buildMenus();
+    connectLogbook();
     connect(m_messages, &MessageBar::told, this, &MainWindow::told);
 }
 
 MainWindow::~MainWindow()
 {
     closeLogbook(); // it uses the widgets
+}
+
+void MainWindow::connectLogbook()
+{
+    connect(m_gui, &VoltbokGui::closeVoltbokGui, this, &MainWindow::leadHome);
+    connect(m_pages, &QStackedWidget::currentChanged, this, &MainWindow::pageShown);
+    connect(m_gui->findChild<QComboBox *>(u"cb_select_model"_s), &QComboBox::textActivated, this,
+            &MainWindow::keepChosenModel);
+    // The one page that changes a setting; after the logbook, whose slots are connected already.
+    connect(m_gui->findChild<QButtonGroup *>(u"btnGrp_mode"_s), &QButtonGroup::buttonClicked, this,
+            &MainWindow::tellAboutSettings);
 }
 
 QPixmap MainWindow::picture(const StorageFolder &folder)
@@ -74,36 +93,27 @@ QPixmap MainWindow::picture(const StorageFolder &folder)
 
 void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> lock)
 {
+    keepLayout();
     closeLogbook(); // it is saved and copied while its lock is held
     m_lock = std::move(lock);
+    m_folder = folder;
     m_messages->clear(); // they speak of the folder before
     setWindowTitle(titleOf(folder));
     m_gui->changeStoragePath(folder.path());
     m_care = std::make_unique<SaveCare>(
         folder, LogbookAccess{m_gui, [this] { m_gui->writeDataWithDataprocessor(); }, [this] { reload(); }},
         *m_messages, m_questions);
-    m_logbook = std::make_unique<OpenLogbook>(folder, *m_care);
-    m_panel = new SidePanel(*m_logbook, m_questions);
-    m_splitter->addWidget(m_panel);
-    m_panel->hide();
-    tellAboutSettings();
     // Queued: the care ends with the folder that it speaks of.
     connect(m_care.get(), &SaveCare::keptElsewhere, this, &MainWindow::goOnIn, Qt::QueuedConnection);
-}
-
-/** The settings that the logbook shares with others fail silently. */
-void MainWindow::tellAboutSettings()
-{
-    RotavexPlugin::rotavexSettings->sync();
-    if (RotavexPlugin::rotavexSettings->isWritable()) {
-        m_messages->retract(u"settings"_s);
-        return;
-    }
-    tell(u"settings"_s,
-         tr("The settings cannot be saved: there is no permission to write “%1”. The capture mode "
-            "that you choose will be forgotten. Change the permissions of this file and its "
-            "folder.")
-             .arg(RotavexPlugin::rotavexSettings->fileName()));
+    m_logbook = std::make_unique<OpenLogbook>(folder, *m_care);
+    connect(m_logbook.get(), &OpenLogbook::possibilitiesChanged, this, &MainWindow::updateActions);
+    m_panel = new SidePanel(*m_logbook, m_questions);
+    m_splitter->addWidget(m_panel);
+    restoreLayout();
+    updateActions();
+    m_settings.addRecentFolder(folder.path());
+    tellAboutSettings();
+    Q_EMIT folderTaken(folder);
 }
 
 /** Has the window show what the file holds. By itself it goes on offering the locations before where there
@@ -120,6 +130,22 @@ void MainWindow::closeLogbook()
     delete std::exchange(m_panel, nullptr); // each of them uses the next
     m_logbook.reset();
     m_care.reset();
+}
+
+/** The settings fail silently by themselves, those that the logbook shares with others and the program's own.
+ */
+void MainWindow::tellAboutSettings()
+{
+    RotavexPlugin::rotavexSettings->sync();
+    const bool isSharedWritable = RotavexPlugin::rotavexSettings->isWritable();
+    if (isSharedWritable && m_settings.isWritable()) {
+        m_messages->retract(u"settings"_s);
+        return;
+    }
+    tell(u"settings"_s,
+         tr("The settings cannot be saved: there is no permission to write “%1”. What you choose "
+            "will be forgotten. Change the permissions of this file and its folder.")
+             .arg(isSharedWritable ? m_settings.fileName() : RotavexPlugin::rotavexSettings->fileName()));
 }
 
 void MainWindow::goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock)
@@ -144,10 +170,57 @@ void MainWindow::raiseAndActivate()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (m_care && !m_care->mayClose())
+    if (!mayLoseInput() || (m_care && !m_care->mayClose())) {
         event->ignore();
-    else
-        QMainWindow::closeEvent(event);
+        return;
+    }
+    keepLayout();
+    QMainWindow::closeEvent(event);
+}
+
+void MainWindow::pageShown()
+{
+    if (m_logbook)
+        m_logbook->setCapturing(m_pending->isFlight());
+}
+
+/** One page back, as the logbook's menu button leads. */
+void MainWindow::back()
+{
+    if (m_pages->currentWidget()->objectName() != u"scrollLayout")
+        m_gui->on_pb_options_clicked();
+}
+
+void MainWindow::leadHome()
+{
+    if (!mayLoseInput())
+        return;
+    back();
+    back(); // from most pages the way leads through the menu
+}
+
+/** The logbook opens with the model that was chosen last, and comes back to it after every change. */
+void MainWindow::keepChosenModel(const QString &name)
+{
+    RotavexPlugin::rotavexSettings->setValue(u"SETTINGS/logmodel"_s, name);
+    tellAboutSettings();
+}
+
+void MainWindow::restoreLayout()
+{
+    if (!m_settings.windowGeometry().isEmpty())
+        restoreGeometry(m_settings.windowGeometry());
+    const bool hasRoom = QGuiApplication::primaryScreen()->availableGeometry().width() >= RoomForThePanel;
+    showPanel(m_settings.isPanelOpen().value_or(hasRoom));
+    m_splitter->restoreState(m_settings.panelSizes());
+}
+
+void MainWindow::keepLayout()
+{
+    if (!isVisible())
+        return;
+    m_settings.setWindowGeometry(saveGeometry());
+    m_settings.setPanelSizes(m_splitter->saveState());
 }
 
 } // namespace Host

@@ -1,24 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "host/preferences/settings.h"
+#include "host/safety/storagefolder.h"
+
 #include <QMainWindow>
 
 #include <memory>
 
+class QAction;
+class QMenu;
 class QSplitter;
+class QStackedWidget;
 class VoltbokGui;
 
 namespace Host {
 
 class FolderLock;
-class OpenLogbook;
 class MessageBar;
+class OpenLogbook;
+class PendingInput;
 class Questions;
 class SaveCare;
 class SidePanel;
-class StorageFolder;
 
-/** The program's window: the logbook of one storage folder, below the messages about it. */
+/** The program's window: the logbook of one storage folder, the messages about it, and the panel beside it.
+ */
 class MainWindow final : public QMainWindow
 {
     Q_OBJECT
@@ -48,20 +55,56 @@ public:
 Q_SIGNALS:
     /** A message was shown. */
     void told(const QString &text);
+    /** The user wants to see the logbook of another folder, which nobody has looked at yet. */
+    void folderRequested(const Host::StorageFolder &folder);
+    /** A folder was opened. */
+    void folderTaken(const Host::StorageFolder &folder);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void connectLogbook();
+    void buildMenus();
+    void buildLogbookMenu();
+    void buildEditMenu();
+    void buildViewMenu();
+    void buildHelpMenu();
+    void updateActions();
+    void nameSteps();
+    void listRecentFolders();
+    void chooseFolder();
+    void requestFolder(const QString &path);
+    void undo();
+    void redo();
+    void showPanel(bool visible);
+    void showManual();
+    void showAbout();
+    void back();
+    void leadHome();
+    bool mayLoseInput();
+    void pageShown();
+    void keepChosenModel(const QString &name);
+    void restoreLayout();
+    void keepLayout();
+
     void tellAboutSettings();
     void reload();
     void closeLogbook();
     void goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock);
 
     Questions &m_questions;
+    Settings m_settings;
     VoltbokGui *m_gui;
+    QStackedWidget *m_pages; ///< of the logbook
+    PendingInput *m_pending;
     MessageBar *m_messages;
     QSplitter *m_splitter;
+    QMenu *m_recent = nullptr;
+    QAction *m_undo = nullptr;
+    QAction *m_redo = nullptr;
+    QAction *m_panelShown = nullptr;
+    StorageFolder m_folder;
     std::shared_ptr<FolderLock> m_lock;
     std::unique_ptr<SaveCare> m_care; // before the lock goes, it saves and copies
     std::unique_ptr<OpenLogbook> m_logbook;

@@ -2,6 +2,7 @@
 // Opening a folder, closing the window, and what is in the file afterwards.
 #include "tests/host/support/brokensaves.h"
 
+#include <QHash>
 #include <QScopedValueRollback>
 #include <QSettings>
 
@@ -19,8 +20,13 @@ private Q_SLOTS:
     void whatSomebodyElseHasWrittenIsNotOverwrittenAtTheEnd();
     void aLastSaveThatFailsAsks();
     void aRestoredFileIsNotRewrittenAtTheEnd();
-    void theHouseClosesTheWindow();
-    void theHouseAsksTheSameAsClosing();
+    void theHouseLeadsToTheOverview_data();
+    void theHouseLeadsToTheOverview();
+    void aFormThatWasFilledInIsAskedAbout_data();
+    void aFormThatWasFilledInIsAskedAbout();
+    void aFlightThatIsNotRecordedIsAskedAbout();
+    void escapeAndAltLeftLeadBackOnePage();
+    void theModelChosenLastIsKept();
     void theTitleNamesTheFolder();
     void theTitleOfTheDemoSaysSo();
     void anotherFolderEndsTheMessagesAndTheCareForTheOneBefore();
@@ -131,28 +137,116 @@ void MainWindowTest::aRestoredFileIsNotRewrittenAtTheEnd()
     QCOMPARE(window.bytes(), HostWindow::sample());
 }
 
-void MainWindowTest::theHouseClosesTheWindow()
+void MainWindowTest::theHouseLeadsToTheOverview_data()
 {
-    HostWindow window;
-    LogbookWindow::click(window.ui().pb_home);
-    QVERIFY(!window.window().isVisible());
+    QTest::addColumn<QString>("page");
+    for (const QString &page : {u"scrollLayout"_s, u"optionsView"_s, u"modeView"_s, u"dataView"_s,
+                                u"editDataView"_s, u"addView"_s, u"addLocationView"_s, u"logView"_s})
+        QTest::newRow(qPrintable(page)) << page;
 }
 
-void MainWindowTest::theHouseAsksTheSameAsClosing()
+void MainWindowTest::theHouseLeadsToTheOverview()
+{
+    QFETCH(QString, page);
+    HostWindow window;
+    const QHash<QString, QList<QPushButton *>> ways{
+        {u"scrollLayout"_s, {}},
+        {u"optionsView"_s, {}},
+        {u"modeView"_s, {window.ui().pb_mode}},
+        {u"dataView"_s, {window.ui().pb_chart}},
+        {u"editDataView"_s, {window.ui().pb_edit_data}},
+        {u"addView"_s, {window.ui().pb_edit_data, window.ui().pb_choose_addbattery}},
+        {u"addLocationView"_s, {window.ui().pb_edit_data, window.ui().pb_choose_addlocation}},
+        {u"logView"_s, {window.ui().pb_logbook}}};
+    if (page != u"scrollLayout")
+        LogbookWindow::click(window.ui().pb_options);
+    for (QPushButton *button : ways.value(page))
+        LogbookWindow::click(button);
+    QCOMPARE(window.ui().stackedWidget->currentWidget()->objectName(), page);
+    LogbookWindow::click(window.ui().pb_home);
+    QCOMPARE(window.ui().stackedWidget->currentWidget(), window.ui().scrollLayout);
+    QCOMPARE(window.gui().currentPage, 0);
+    QVERIFY(window.window().isVisible());
+    QVERIFY(window.questions.asked().isEmpty());
+}
+
+void MainWindowTest::aFormThatWasFilledInIsAskedAbout_data()
+{
+    QTest::addColumn<bool>("quits");
+    QTest::newRow("the house") << false;
+    QTest::newRow("quitting") << true;
+}
+
+void MainWindowTest::aFormThatWasFilledInIsAskedAbout()
+{
+    QFETCH(bool, quits);
+    HostWindow window;
+    const auto leave = [&] {
+        if (quits)
+            window.window().close();
+        else
+            LogbookWindow::click(window.ui().pb_home);
+    };
+    window.goToEditPage();
+    LogbookWindow::click(window.ui().pb_choose_addbattery);
+    LogbookWindow::type(window.ui().ledt_name, u"Half"_s);
+    window.questions.answer(u"Go Back"_s);
+    leave();
+    QCOMPARE(window.ui().stackedWidget->currentWidget(), window.ui().addView);
+    QCOMPARE(window.ui().ledt_name->text(), u"Half"_s);
+    window.questions.answer(u"Leave"_s);
+    leave();
+    QVERIFY(window.questions.isDone());
+    QCOMPARE(window.window().isVisible(), !quits);
+    if (!quits)
+        QCOMPARE(window.ui().stackedWidget->currentWidget(), window.ui().scrollLayout);
+    QCOMPARE(window.bytes(), HostWindow::sample());
+}
+
+void MainWindowTest::aFlightThatIsNotRecordedIsAskedAbout()
 {
     HostWindow window;
-    Fault fault = Faults::readOnlyFile(window);
-    window.clickCard(u"Pack B"_s);
-    window.settle();
+    LogbookWindow::click(window.ui().pb_options);
+    LogbookWindow::click(window.ui().pb_mode);
+    LogbookWindow::click(window.ui().rb_modeAdvanced);
+    LogbookWindow::click(window.ui().pb_home);
+    window.clickCard(u"Pack A"_s);
+    QCOMPARE(window.ui().stackedWidget->currentWidget(), window.ui().dischargeView);
+    QVERIFY(!window.logbook().mayChange());
     window.questions.answer(u"Go Back"_s);
     LogbookWindow::click(window.ui().pb_home);
-    QVERIFY(window.window().isVisible());
-    window.questions.answer(u"Quit Anyway"_s);
-    LogbookWindow::click(window.ui().pb_home);
-    QVERIFY(!window.window().isVisible());
+    QCOMPARE(window.ui().stackedWidget->currentWidget(), window.ui().dischargeView);
+    window.questions.answer(u"Go Back"_s);
+    QVERIFY(!window.window().close());
     QVERIFY(window.questions.isDone());
-    window.close();
-    QCOMPARE(window.bytes(), HostWindow::sample());
+    LogbookWindow::click(window.ui().pb_save_discharged);
+    QVERIFY(window.logbook().mayChange());
+    LogbookWindow::click(window.ui().pb_home); // nothing to ask about
+    QVERIFY(window.window().close());
+}
+
+void MainWindowTest::escapeAndAltLeftLeadBackOnePage()
+{
+    HostWindow window;
+    LogbookWindow::click(window.ui().pb_options);
+    LogbookWindow::click(window.ui().pb_chart);
+    QTest::keyClick(window.window().focusWidget(), Qt::Key_Escape);
+    QCOMPARE(window.ui().stackedWidget->currentWidget(), window.ui().optionsView);
+    QTest::keyClick(&window.window(), Qt::Key_Left, Qt::AltModifier);
+    QCOMPARE(window.ui().stackedWidget->currentWidget(), window.ui().scrollLayout);
+    QTest::keyClick(&window.window(), Qt::Key_Escape); // the overview is the first page
+    QCOMPARE(window.ui().stackedWidget->currentWidget(), window.ui().scrollLayout);
+}
+
+void MainWindowTest::theModelChosenLastIsKept()
+{
+    HostWindow window;
+    LogbookWindow::choose(window.ui().cb_select_model, u"Skylark"_s);
+    Q_EMIT window.ui().cb_select_model->textActivated(u"Skylark"_s); // as the user's own choice does
+    window.addLocation(u"Hill"_s);
+    QCOMPARE(window.ui().cb_select_model->currentText(), u"Skylark"_s);
+    window.restart();
+    QCOMPARE(window.ui().cb_select_model->currentText(), u"Skylark"_s);
 }
 
 void MainWindowTest::theTitleNamesTheFolder()

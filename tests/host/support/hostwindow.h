@@ -29,6 +29,7 @@ public:
     {
         QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
         RotavexPlugin::rotavexSettings->clear();
+        Host::Settings().clear();
         QFile::setPermissions(m_place.path(),
                               QFile::Permissions(0x7777)); // for tests that become another user
         makeRuntimeFolder();

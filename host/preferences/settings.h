@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QSettings>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace Host {
+
+/** What the program remembers for its user, in a store of its own. */
+class Settings final
+{
+public:
+    /** The user's. */
+    Settings();
+
+    QByteArray windowGeometry() const;
+    void setWindowGeometry(const QByteArray &geometry);
+    /** The sizes of logbook and side panel. */
+    QByteArray panelSizes() const;
+    void setPanelSizes(const QByteArray &sizes);
+    /** Whether the side panel was open; unknown before the first start. */
+    std::optional<bool> isPanelOpen() const;
+    void setPanelOpen(bool open);
+
+    /** The folders opened last, the newest first. */
+    QStringList recentFolders() const;
+    /** Puts a folder at the beginning. */
+    void addRecentFolder(const QString &path);
+
+    /** A limit that the user may change, by its name. */
+    int limit(const QString &name, int otherwise) const;
+    void setLimit(const QString &name, int value);
+
+    /** Forgets everything. */
+    void clear() { m_store.clear(); }
+    /** Where all of this lies, and whether it can be written there. */
+    QString fileName() const;
+    bool isWritable();
+
+private:
+    QSettings m_store;
+};
+
+} // namespace Host

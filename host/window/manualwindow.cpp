@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/window/manualwindow.h"
+
+#include <QFile>
+#include <QKeyEvent>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace Host {
+namespace {
+
+constexpr int LinesOnShow = 40;
+constexpr int CharactersOfALine = 90;
+
+} // namespace
+
+ManualWindow::ManualWindow(QWidget *parent)
+    : QTextBrowser(parent)
+{
+    setWindowFlag(Qt::Window);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(tr("Voltbok Manual"));
+    setAccessibleName(windowTitle());
+    setOpenExternalLinks(true);
+    setSearchPaths({u":/manual"_s});
+    QFile file(u":/manual/manual.md"_s);
+    if (file.open(QFile::ReadOnly))
+        setMarkdown(QString::fromUtf8(file.readAll()));
+    resize(fontMetrics().averageCharWidth() * CharactersOfALine, fontMetrics().lineSpacing() * LinesOnShow);
+}
+
+void ManualWindow::showBeside(QWidget *parent)
+{
+    auto *window = parent->findChild<ManualWindow *>();
+    if (!window)
+        window = new ManualWindow(parent);
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void ManualWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        QTextBrowser::keyPressEvent(event);
+}
+
+} // namespace Host

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/window/pendinginput.h"
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QStackedWidget>
+#include <QStringList>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace Host {
+namespace {
+
+const QString DischargePage = u"dischargeView"_s;
+/** The pages that are filled in and sent off; on all others every choice counts at once. */
+const QStringList Forms{u"addView"_s, u"addModelView"_s, u"addLocationView"_s, u"modBatteryView"_s,
+                        u"modModelView"_s};
+
+} // namespace
+
+PendingInput::PendingInput(QStackedWidget &pages, QObject *parent)
+    : QObject(parent)
+    , m_pages(pages)
+{
+    connect(&pages, &QStackedWidget::currentChanged, this, &PendingInput::pageShown);
+    pageShown();
+}
+
+bool PendingInput::isFlight() const
+{
+    return m_pages.currentWidget()->objectName() == DischargePage;
+}
+
+bool PendingInput::isForm() const
+{
+    return Forms.contains(m_pages.currentWidget()->objectName()) && inputs() != m_shown;
+}
+
+void PendingInput::pageShown()
+{
+    m_shown = inputs(); // the window fills a page in before it shows it
+}
+
+QHash<const QWidget *, QString> PendingInput::inputs() const
+{
+    QHash<const QWidget *, QString> texts;
+    const QWidget *page = m_pages.currentWidget();
+    for (const QLineEdit *field : page->findChildren<QLineEdit *>())
+        texts.insert(field, field->text());
+    for (const QPlainTextEdit *notes : page->findChildren<QPlainTextEdit *>())
+        texts.insert(notes, notes->toPlainText());
+    return texts;
+}
+
+} // namespace Host
