@@ -5,6 +5,7 @@
 #include "host/window/manualwindow.h"
 #include "host/window/openlogbook.h"
 #include "host/window/pendinginput.h"
+#include "host/window/preferencesdialog.h"
 #include "host/window/questions.h"
 #include "host/window/sidepanel.h"
 
@@ -51,6 +52,10 @@ void MainWindow::buildEditMenu()
     m_redo = menu->addAction(tr("&Redo"), this, &MainWindow::redo);
     m_redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
     connect(menu, &QMenu::aboutToShow, this, &MainWindow::nameSteps);
+    menu->addSeparator();
+    QAction *preferences = menu->addAction(tr("&Preferences…"), this, &MainWindow::showPreferences);
+    preferences->setShortcut(QKeySequence::Preferences);
+    preferences->setMenuRole(QAction::PreferencesRole);
 }
 
 void MainWindow::buildViewMenu()
@@ -130,6 +135,14 @@ void MainWindow::showPanel(bool visible)
 {
     m_panelShown->setChecked(visible);
     m_panel->setVisible(visible);
+}
+
+void MainWindow::showPreferences()
+{
+    PreferencesDialog dialog(this);
+    if (dialog.exec() == QDialog::Accepted)
+        m_panel->refreshAll();
+    tellAboutSettings();
 }
 
 void MainWindow::showManual()

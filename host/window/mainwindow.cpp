@@ -61,6 +61,8 @@ MainWindow::MainWindow(Questions &questions, QWidget *parent)
     layout->addWidget(m_splitter, 1);
     m_splitter->addWidget(m_gui);
     m_splitter->setChildrenCollapsible(false);
+    m_splitter->setStretchFactor(0, 0);
+    m_splitter->setStretchFactor(1, 1);
     setCentralWidget(content);
     resize(size);
     buildMenus();
@@ -208,10 +210,12 @@ void MainWindow::keepChosenModel(const QString &name)
 
 void MainWindow::restoreLayout()
 {
-    if (!m_settings.windowGeometry().isEmpty())
+    const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
+    showPanel(m_settings.isPanelOpen().value_or(screen.width() >= RoomForThePanel));
+    if (m_settings.windowGeometry().isEmpty())
+        resize(sizeHint().boundedTo(screen));
+    else
         restoreGeometry(m_settings.windowGeometry());
-    const bool hasRoom = QGuiApplication::primaryScreen()->availableGeometry().width() >= RoomForThePanel;
-    showPanel(m_settings.isPanelOpen().value_or(hasRoom));
     m_splitter->restoreState(m_settings.panelSizes());
 }
 

@@ -78,6 +78,7 @@ private:
     void undo();
     void redo();
     void showPanel(bool visible);
+    void showPreferences();
     void showManual();
     void showAbout();
     void back();

@@ -21,17 +21,18 @@ SidePanel::SidePanel(OpenLogbook &logbook, Questions &questions, QWidget *parent
     insertTab(Flights, m_flights, tr("Flights"));
     insertTab(Statistics, m_statistics, tr("Statistics"));
     setAccessibleName(tr("Side panel"));
+    setUsesScrollButtons(false);
     m_whenIdle.setSingleShot(true);
     connect(&m_whenIdle, &QTimer::timeout, this, &SidePanel::refreshNow);
     connect(this, &QTabWidget::currentChanged, this, &SidePanel::refreshNow);
-    connect(&logbook, &OpenLogbook::changed, this, &SidePanel::logbookChanged);
+    connect(&logbook, &OpenLogbook::changed, this, &SidePanel::refreshAll);
     connect(m_today, &TodayTab::batteryRequested, this, &SidePanel::showBattery);
-    logbookChanged();
+    refreshAll();
 }
 
 SidePanel::~SidePanel() = default;
 
-void SidePanel::logbookChanged()
+void SidePanel::refreshAll()
 {
     m_stale = {Today, Batteries, Flights, Statistics};
     m_whenIdle.start();
@@ -48,6 +49,13 @@ void SidePanel::showBattery(const QString &name)
 {
     setCurrentIndex(Batteries);
     m_batteries->select(name);
+}
+
+QSize SidePanel::sizeHint() const
+{
+    // Wide enough for a table of flights, whatever the tab on show.
+    constexpr int Characters = 90;
+    return QSize(fontMetrics().averageCharWidth() * Characters, QTabWidget::sizeHint().height());
 }
 
 void SidePanel::showEvent(QShowEvent *event)

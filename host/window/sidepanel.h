@@ -30,16 +30,18 @@ public:
 
     /** Brings the tab on show up to date at once. */
     void refreshNow();
+    /** Shows everything anew, each tab when it is next seen. */
+    void refreshAll();
 
     /** Shows the first battery of this name on its tab. */
     void showBattery(const QString &name);
+
+    QSize sizeHint() const override;
 
 protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    void logbookChanged();
-
     TodayTab *m_today;
     BatteriesTab *m_batteries;
     FlightsTab *m_flights;

@@ -3,9 +3,16 @@
 
 #include "host/window/paneltab.h"
 
+#include <QTimer>
+
+class QLabel;
+class QListWidget;
+class QListWidgetItem;
+
 namespace Host {
 
 class OpenLogbook;
+struct Advice;
 
 /** What to do today, with the reason, and one click to the battery that it is about. */
 class TodayTab final : public PanelTab
@@ -23,7 +30,13 @@ Q_SIGNALS:
     void batteryRequested(const QString &name);
 
 private:
+    void add(const Advice &advice);
+    void choose(const QListWidgetItem *item);
+
     OpenLogbook &m_logbook;
+    QLabel *m_heading;
+    QListWidget *m_list;
+    QTimer m_nextDay;
 };
 
 } // namespace Host
