@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/logbookwindow.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 /** Typing into the fields with masks as a hurried user does: click anywhere, or Tab, and type. */
 class MaskedFieldsTest : public QObject
 {
@@ -68,8 +70,8 @@ void MaskedFieldsTest::tabLetsTypingReplaceTheContent()
     auto *field = qobject_cast<QLineEdit *>(focused);
     QVERIFY(field);
     QVERIFY2(!field->inputMask().isEmpty(), qPrintable(field->objectName()));
-    QTest::keyClicks(field, QStringLiteral("22"));
-    QCOMPARE(field->text(), QStringLiteral("22"));
+    QTest::keyClicks(field, u"22"_s);
+    QCOMPARE(field->text(), u"22"_s);
 }
 
 void MaskedFieldsTest::aSecondClickSetsTheCursor()
@@ -80,8 +82,8 @@ void MaskedFieldsTest::aSecondClickSetsTheCursor()
     QVERIFY(field->hasSelectedText());
     QTest::mouseClick(field, Qt::LeftButton, {}, left, QApplication::doubleClickInterval() + 50);
     QVERIFY(!field->hasSelectedText());
-    QTest::keyClicks(field, QStringLiteral("9"));
-    QCOMPARE(field->text(), QStringLiteral("9000"));
+    QTest::keyClicks(field, u"9"_s);
+    QCOMPARE(field->text(), u"9000"_s);
 }
 
 void MaskedFieldsTest::aFieldWithoutAMaskIsLeftToItself()
@@ -90,8 +92,8 @@ void MaskedFieldsTest::aFieldWithoutAMaskIsLeftToItself()
     m_window->ui().ledt_capacity->setFocus();
     QTest::mouseClick(field, Qt::LeftButton);
     QVERIFY(!field->hasSelectedText());
-    QTest::keyClicks(field, QStringLiteral("X"));
-    QCOMPARE(field->text(), QStringLiteral("MyBatteryX"));
+    QTest::keyClicks(field, u"X"_s);
+    QCOMPARE(field->text(), u"MyBatteryX"_s);
 }
 
 QTEST_MAIN(MaskedFieldsTest)

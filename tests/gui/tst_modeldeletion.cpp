@@ -4,6 +4,7 @@
 #include <QPointer>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace Test;
 
 class ModelDeletionTest : public QObject
 {
@@ -32,17 +33,16 @@ private:
 
 QByteArray ModelDeletionTest::threeModels()
 {
-    return EditingWindow::document({EditingWindow::batteryElement("A"), EditingWindow::batteryElement("B"),
-                                    EditingWindow::modelElement("Bird", {"A"}),
-                                    EditingWindow::modelElement("Wing", {"B"}),
-                                    EditingWindow::modelElement("Kite")});
+    return document(
+        {{flownBattery(u"A"_s), flownBattery(u"B"_s)},
+         {flownModel(u"Bird"_s, {u"A"_s}), flownModel(u"Wing"_s, {u"B"_s}), flownModel(u"Kite"_s)}});
 }
 
 void ModelDeletionTest::expectAsking(EditingWindow &window, bool asking)
 {
     QCOMPARE(window.ui().lbl_reallydelete_model->isVisible(), asking);
-    QCOMPARE(window.ui().lbl_reallydelete_model->text(), u"Really?"_qs);
-    QCOMPARE(window.ui().pb_deleteConfirm_model->text(), asking ? u"Yes"_qs : u"Delete"_qs);
+    QCOMPARE(window.ui().lbl_reallydelete_model->text(), u"Really?"_s);
+    QCOMPARE(window.ui().pb_deleteConfirm_model->text(), asking ? u"Yes"_s : u"Delete"_s);
 }
 
 void ModelDeletionTest::openFor(EditingWindow &window, const QString &model)
@@ -63,9 +63,9 @@ void ModelDeletionTest::thePageOpensWithTheModelOfTheEditPage()
 {
     EditingWindow window;
     window.load(threeModels());
-    openFor(window, u"Kite"_qs);
+    openFor(window, u"Kite"_s);
     QVERIFY(window.shows(window.ui().deleteModelView, Page::DeleteModel));
-    QCOMPARE(window.ui().cb_modelList_delete->currentText(), u"Kite"_qs);
+    QCOMPARE(window.ui().cb_modelList_delete->currentText(), u"Kite"_s);
     expectAsking(window, false);
 }
 
@@ -74,16 +74,16 @@ void ModelDeletionTest::theSelectionStaysWhenItDoesNotOfferTheModelOfTheEditPage
     EditingWindow window;
     window.load(threeModels());
     window.ui().cb_modelList_delete->setCurrentIndex(1);
-    window.ui().cb_model_choose_bat->addItem(u"kite"_qs);
-    openFor(window, u"kite"_qs);
-    QCOMPARE(window.ui().cb_modelList_delete->currentText(), u"Wing"_qs);
+    window.ui().cb_model_choose_bat->addItem(u"kite"_s);
+    openFor(window, u"kite"_s);
+    QCOMPARE(window.ui().cb_modelList_delete->currentText(), u"Wing"_s);
 }
 
 void ModelDeletionTest::theFirstClickOnlyAsks()
 {
     EditingWindow window;
     window.load(threeModels());
-    openFor(window, u"Wing"_qs);
+    openFor(window, u"Wing"_s);
     const QByteArray before = window.fileBytes();
     window.click(window.ui().pb_deleteConfirm_model);
     expectAsking(window, true);
@@ -96,15 +96,14 @@ void ModelDeletionTest::theSecondClickDeletes()
 {
     EditingWindow window;
     window.load(threeModels());
-    deleteModel(window, u"Wing"_qs);
+    deleteModel(window, u"Wing"_s);
     QVERIFY(window.showsOverview());
-    QCOMPARE(window.modelNames(), QStringList({u"Bird"_qs, u"Kite"_qs}));
+    QCOMPARE(window.modelNames(), QStringList({u"Bird"_s, u"Kite"_s}));
     QVERIFY(!window.fileBytes().contains("Wing"));
     QCOMPARE(window.fileBytes().count("<FlightLog>"), 2); // its log goes with it
-    for (const QComboBox *chooser : {window.ui().cb_select_model, window.ui().cb_logview_model,
-                                     window.ui().cb_model_choose_bat, window.ui().cb_modelList_delete})
+    for (const QComboBox *chooser : window.modelChoosers())
         QCOMPARE(window.items(chooser), window.modelNames());
-    openFor(window, u"Bird"_qs);
+    openFor(window, u"Bird"_s);
     expectAsking(window, false);
 }
 
@@ -112,16 +111,16 @@ void ModelDeletionTest::anotherChoiceDoesNotTakeTheFirstClickBackOnPurpose()
 {
     EditingWindow window;
     window.load(threeModels());
-    openFor(window, u"Bird"_qs);
+    openFor(window, u"Bird"_s);
     window.click(window.ui().pb_deleteConfirm_model);
-    window.choose(window.ui().cb_modelList_delete, u"Kite"_qs);
+    window.choose(window.ui().cb_modelList_delete, u"Kite"_s);
     expectAsking(window, true);
     window.click(window.ui().pb_deleteConfirm_model);
-    QCOMPARE(window.modelNames(), QStringList({u"Bird"_qs, u"Wing"_qs}));
+    QCOMPARE(window.modelNames(), QStringList({u"Bird"_s, u"Wing"_s}));
 
-    openFor(window, u"Bird"_qs);
+    openFor(window, u"Bird"_s);
     window.click(window.ui().pb_deleteConfirm_model);
-    openFor(window, u"Wing"_qs); // not even leaving the page for another model does
+    openFor(window, u"Wing"_s); // not even leaving the page for another model does
     expectAsking(window, true);
 }
 
@@ -129,28 +128,28 @@ void ModelDeletionTest::theBatteriesOfTheModelStay()
 {
     EditingWindow window;
     window.load(threeModels());
-    deleteModel(window, u"Bird"_qs);
-    QCOMPARE(window.batteryNames(), QStringList({u"A"_qs, u"B"_qs}));
-    QCOMPARE(window.battery(u"A"_qs)->getDates().size(), 1);
+    deleteModel(window, u"Bird"_s);
+    QCOMPARE(window.batteryNames(), QStringList({u"A"_s, u"B"_s}));
+    QCOMPARE(window.battery(u"A"_s)->getDates().size(), 1);
 }
 
 void ModelDeletionTest::theOverviewGoesOnWithTheFirstModelLeft()
 {
     EditingWindow window;
     window.load(threeModels());
-    QCOMPARE(window.cardsOnShow(), QStringList{u"A"_qs});
-    deleteModel(window, u"Bird"_qs);
-    QCOMPARE(window.ui().cb_select_model->currentText(), u"Wing"_qs);
-    QCOMPARE(window.cardsOnShow(), QStringList{u"B"_qs});
+    QCOMPARE(window.cardsOnShow(), QStringList{u"A"_s});
+    deleteModel(window, u"Bird"_s);
+    QCOMPARE(window.ui().cb_select_model->currentText(), u"Wing"_s);
+    QCOMPARE(window.cardsOnShow(), QStringList{u"B"_s});
 }
 
 void ModelDeletionTest::theOverviewGoesOnWithTheModelThatThePreferencesName()
 {
     EditingWindow window;
-    RotavexPlugin::rotavexSettings->setValue("SETTINGS/logmodel", u"Kite"_qs);
+    LogbookWindow::storeModel(u"Kite"_s);
     window.load(threeModels());
-    deleteModel(window, u"Bird"_qs);
-    QCOMPARE(window.ui().cb_select_model->currentText(), u"Kite"_qs);
+    deleteModel(window, u"Bird"_s);
+    QCOMPARE(window.ui().cb_select_model->currentText(), u"Kite"_s);
     QCOMPARE(window.cardsOnShow(), QStringList());
     QVERIFY(window.ui().lbl_optionshint->isVisible());
 }
@@ -158,20 +157,21 @@ void ModelDeletionTest::theOverviewGoesOnWithTheModelThatThePreferencesName()
 void ModelDeletionTest::ofTwoModelsOfOneNameTheFirstIsDeleted()
 {
     EditingWindow window;
-    window.load(window.document({window.modelElement("bird"), window.modelElement("Bird", {"first"}),
-                                 window.modelElement("Bird", {"last"})}));
-    deleteModel(window, u"Bird"_qs);
-    QCOMPARE(window.modelNames(), QStringList({u"bird"_qs, u"Bird"_qs}));
-    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList{u"last"_qs});
+    window.load(document(
+        {{},
+         {flownModel(u"bird"_s), flownModel(u"Bird"_s, {u"first"_s}), flownModel(u"Bird"_s, {u"last"_s})}}));
+    deleteModel(window, u"Bird"_s);
+    QCOMPARE(window.modelNames(), QStringList({u"bird"_s, u"Bird"_s}));
+    QCOMPARE(window.model(u"Bird"_s)->getBatteries(), QStringList{u"last"_s});
 }
 
 void ModelDeletionTest::aNameWithoutModelOnlyTakesTheFirstClickBack()
 {
     EditingWindow window;
-    window.load(window.document({window.modelElement("Bird")}));
-    deleteModel(window, u"Bird"_qs); // and the choosers go on offering it
+    window.load(document({{}, {flownModel(u"Bird"_s)}}));
+    deleteModel(window, u"Bird"_s); // and the choosers go on offering it
     QVERIFY(QFile::remove(window.filePath()));
-    deleteModel(window, u"Bird"_qs);
+    deleteModel(window, u"Bird"_s);
     QVERIFY(window.shows(window.ui().deleteModelView, Page::DeleteModel));
     expectAsking(window, false);
     QVERIFY(!QFile::exists(window.filePath()));
@@ -180,12 +180,11 @@ void ModelDeletionTest::aNameWithoutModelOnlyTakesTheFirstClickBack()
 void ModelDeletionTest::theChoosersKeepTheNameOfTheLastModelOnPurpose()
 {
     EditingWindow window;
-    window.load(window.document({window.batteryElement("A"), window.modelElement("Bird", {"A"})}));
-    deleteModel(window, u"Bird"_qs);
+    window.load(document({{flownBattery(u"A"_s)}, {flownModel(u"Bird"_s, {u"A"_s})}}));
+    deleteModel(window, u"Bird"_s);
     QVERIFY(window->modelList.isEmpty());
-    for (const QComboBox *chooser : {window.ui().cb_select_model, window.ui().cb_logview_model,
-                                     window.ui().cb_model_choose_bat, window.ui().cb_modelList_delete})
-        QCOMPARE(window.items(chooser), QStringList{u"Bird"_qs});
+    for (const QComboBox *chooser : window.modelChoosers())
+        QCOMPARE(window.items(chooser), QStringList{u"Bird"_s});
 
     window.goTo(window.ui().pb_choose_modify_model); // offers it, and finds no model of this name
     QVERIFY(window.shows(window.ui().editDataView, Page::EditData));
@@ -196,12 +195,12 @@ void ModelDeletionTest::theRemovedRecordIsDestroyedOnce()
     EditingWindow window;
     window.load(threeModels());
     int destroyed = 0;
-    const QPointer<ModelWidget> removed = window.model(u"Wing"_qs);
+    const QPointer<ModelWidget> removed = window.model(u"Wing"_s);
     connect(removed, &QObject::destroyed, this, [&destroyed] { ++destroyed; });
-    deleteModel(window, u"Wing"_qs);
+    deleteModel(window, u"Wing"_s);
     QVERIFY(!removed);
     QCOMPARE(destroyed, 1);
-    const QPointer<ModelWidget> left = window.model(u"Kite"_qs);
+    const QPointer<ModelWidget> left = window.model(u"Kite"_s);
     window.restart();
     QVERIFY(!left);
 }

@@ -129,8 +129,8 @@ void MonkeyTest::init()
     const QDir folder(m_folder->path());
     for (const char *name : {"home", "other", "odd", "broken", "working directory"})
         QVERIFY(folder.mkdir(QLatin1StringView(name)));
-    const QByteArray catalogue = contents(QStringLiteral(FUZZ_DIR "/corpus/catalogue.xml"));
-    const QByteArray odd = contents(QStringLiteral(FUZZ_DIR "/corpus/odd-values.xml"));
+    const QByteArray catalogue = contents(u"" FUZZ_DIR "/corpus/catalogue.xml"_s);
+    const QByteArray odd = contents(u"" FUZZ_DIR "/corpus/odd-values.xml"_s);
     QVERIFY(!catalogue.isEmpty() && !odd.isEmpty());
     const QByteArray broken = catalogue.first(catalogue.indexOf("<FlightLog>"));
     m_foreign = {odd, broken};
