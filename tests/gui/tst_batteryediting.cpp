@@ -11,7 +11,6 @@ class BatteryEditingTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theAddPageOffersTodayEachTimeItIsOpened();
     void aNewBatteryHasWhatWasTyped();
     void aNewBatteryIsDischargedAndWithoutHistory();
     void aNewBatteryOpensTheOverviewAndLeavesTheFormAsItWas();
@@ -24,18 +23,6 @@ private Q_SLOTS:
     void theRecordsOnScreenAreReadFromTheFile();
     void anAddThatCannotBeWrittenIsGoneAfterTheReload();
 };
-
-void BatteryEditingTest::theAddPageOffersTodayEachTimeItIsOpened()
-{
-    EditingWindow window;
-    for (int visit = 0; visit < 2; ++visit) {
-        window.goTo(window.ui().pb_choose_addbattery);
-        QVERIFY(window.shows(window.ui().addView, Page::AddBattery));
-        QCOMPARE(window.ui().ledt_purchaseDate->text(), QDate::currentDate().toString(Qt::ISODate));
-        window.type(window.ui().ledt_purchaseDate, u"20190506"_s);
-        QCOMPARE(window.ui().ledt_purchaseDate->text(), u"2019-05-06"_s);
-    }
-}
 
 void BatteryEditingTest::aNewBatteryHasWhatWasTyped()
 {

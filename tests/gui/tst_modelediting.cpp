@@ -9,7 +9,6 @@ class ModelEditingTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void theAddPageOffersTodayEachTimeItIsOpened();
     void aNewModelHasWhatWasTyped();
     void aNewModelIsInEveryChooserButTheOverviewKeepsTheFirst();
     void aNewModelIsOnTheOverviewWhenThePreferencesNameIt();
@@ -33,18 +32,6 @@ private Q_SLOTS:
     void theModifyPageStaysClosedWithoutAModel();
     void anUpdateOfAModelThatIsGoneDoesNothing();
 };
-
-void ModelEditingTest::theAddPageOffersTodayEachTimeItIsOpened()
-{
-    EditingWindow window;
-    for (int visit = 0; visit < 2; ++visit) {
-        window.goTo(window.ui().pb_choose_addmodel);
-        QVERIFY(window.shows(window.ui().addModelView, Page::AddModel));
-        QCOMPARE(window.ui().ledt_addheli_purchase->text(), QDate::currentDate().toString(Qt::ISODate));
-        window.type(window.ui().ledt_addheli_purchase, u"20190506"_s);
-        QCOMPARE(window.ui().ledt_addheli_purchase->text(), u"2019-05-06"_s);
-    }
-}
 
 void ModelEditingTest::aNewModelHasWhatWasTyped()
 {

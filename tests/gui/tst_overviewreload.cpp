@@ -23,9 +23,7 @@ private Q_SLOTS:
     void aReloadGoesBackToTheStoredModel();
     void refillingTheChoosersIsSilent();
     void aReloadDrawsNoChart();
-    void modelsThatAreGoneStayInTheChoosersOnPurpose();
-    void batteriesThatAreGoneStayInTheChoosersOnPurpose();
-    void locationsStayInTheChoosersWhenAFileHasNoneOnPurpose();
+    void namesThatAreGoneStayInTheChoosersOnPurpose();
     void theLocationsWrittenAreTheItemsOfTheDischargePage();
     void aSaveWritesTheBytesThatWereLoaded();
     void everyReloadReadsTheFileAgain();
@@ -39,8 +37,6 @@ private Q_SLOTS:
 private:
     std::unique_ptr<LogbookWindow> window;
     Ui_VoltbokGui *ui = nullptr;
-
-    void deleteByClicks(QAbstractButton *page, QAbstractButton *button, int clicks);
 };
 
 namespace {
@@ -160,50 +156,23 @@ void OverviewReloadTest::aReloadDrawsNoChart()
     QCOMPARE(window->gui().chartView, chart);
 }
 
-void OverviewReloadTest::deleteByClicks(QAbstractButton *page, QAbstractButton *button, int clicks)
+void OverviewReloadTest::namesThatAreGoneStayInTheChoosersOnPurpose()
 {
-    window->click(ui->pb_options);
-    window->click(ui->pb_edit_data);
-    window->click(page);
-    for (int i = 0; i < clicks; ++i)
-        window->click(button);
-}
-
-void OverviewReloadTest::modelsThatAreGoneStayInTheChoosersOnPurpose()
-{
-    window->load(document({batteries(), {Model{u"Heli"_s, {u"A"_s}}}}));
-    deleteByClicks(ui->pb_choose_delmodel, ui->pb_deleteConfirm_model, 2);
-    QVERIFY(window->gui().modelList.isEmpty());
+    window->load(wholeFile());
+    window->load(document({batteries()}));
     for (const QComboBox *chooser : window->modelChoosers())
-        QCOMPARE(window->items(chooser), QStringList({"Heli"}));
+        QCOMPARE(window->items(chooser), QStringList({"Heli", "Plane", "Glider"}));
+    for (const QComboBox *chooser : window->locationChoosers())
+        QCOMPARE(window->items(chooser), QStringList({"Meadow", "Hill", "Meadow"}));
     QVERIFY(!window->gui().selectedModel());
     QCOMPARE(window->cardsOnShow(), QStringList({"A", "B", "C"}));
     QVERIFY(!ui->cb_select_model->isVisible());
-}
 
-void OverviewReloadTest::batteriesThatAreGoneStayInTheChoosersOnPurpose()
-{
-    window->load(document({{Battery{u"A"_s}}, {Model{u"Heli"_s, {u"A"_s}}}}));
-    deleteByClicks(ui->pb_choose_delbattery, ui->pb_deleteConfirm, 2);
-    QVERIFY(window->gui().batteryList.isEmpty());
+    window->load(document({}));
     for (const QComboBox *chooser : window->batteryChoosers())
-        QCOMPARE(window->items(chooser), QStringList({"A"}));
+        QCOMPARE(window->items(chooser), QStringList({"A", "B", "C"}));
     QVERIFY(!ui->pb_chart->isEnabled());
     QVERIFY(ui->lbl_welcome->isVisible());
-}
-
-void OverviewReloadTest::locationsStayInTheChoosersWhenAFileHasNoneOnPurpose()
-{
-    window->load(document({{}, {}, {u"Meadow"_s}}));
-    deleteByClicks(ui->pb_choose_dellocation, ui->pb_del_location, 1);
-    QVERIFY(!window->fileBytes().contains("Location"));
-    QCOMPARE(window->items(ui->cb_log_location), QStringList());
-    QCOMPARE(window->items(ui->cb_location_delete), QStringList({"Meadow"}));
-
-    window->load(document({{}, {}, {u"Hill"_s, u"Shore"_s}}));
-    window->load(document({batteries()}));
-    for (const QComboBox *chooser : window->locationChoosers())
-        QCOMPARE(window->items(chooser), QStringList({"Hill", "Shore"}));
 }
 
 void OverviewReloadTest::theLocationsWrittenAreTheItemsOfTheDischargePage()

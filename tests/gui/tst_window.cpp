@@ -37,7 +37,6 @@ private Q_SLOTS:
     void theWindowGoesWithItsParent();
     void everyReloadDeletesTheRecordsBefore();
     void aReloadForgetsTheBatteryBeingDischarged();
-    void deletingTheBatteryBeingDischargedForgetsIt();
     void theWindowMayGoWhileABatteryIsBeingDischarged();
 };
 
@@ -343,21 +342,6 @@ void WindowTest::aReloadForgetsTheBatteryBeingDischarged()
     QCOMPARE(window->currentPage, 12);
     QCOMPARE(window.model("Heli")->getLogData().size(), 1); // the flight does not depend on the battery
     QCOMPARE(window.fileBytes(), hangar());
-}
-
-void WindowTest::deletingTheBatteryBeingDischargedForgetsIt()
-{
-    LogbookWindow window;
-    openDischargePage(window);
-    window.click(window.ui().pb_options); // leaves the page, and the battery set
-    QCOMPARE(window->chargeBattery, window.battery("Pack"));
-    window.click(window.ui().pb_options);
-    window.click(window.ui().pb_edit_data);
-    window.click(window.ui().pb_choose_delbattery);
-    window.click(window.ui().pb_deleteConfirm);
-    window.click(window.ui().pb_deleteConfirm);
-    QVERIFY(!window.battery("Pack"));
-    QVERIFY(!window->chargeBattery);
 }
 
 void WindowTest::theWindowMayGoWhileABatteryIsBeingDischarged()
