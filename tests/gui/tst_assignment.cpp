@@ -93,18 +93,15 @@ void AssignmentTest::exactlyOneButtonIsEnabledForEveryPair_data()
     QTest::addColumn<QString>("battery");
     QTest::addColumn<bool>("assigned");
 
-    QTest::newRow("Bird A") << "Bird"
-                            << "A" << false;
-    QTest::newRow("Bird B") << "Bird"
-                            << "B" << true;
-    QTest::newRow("Bird C") << "Bird"
-                            << "C" << false;
-    QTest::newRow("Wing A") << "Wing"
-                            << "A" << true;
-    QTest::newRow("Wing B") << "Wing"
-                            << "B" << false;
-    QTest::newRow("Wing C") << "Wing"
-                            << "C" << true;
+    const auto row = [](const char *model, const char *battery, bool assigned) {
+        QTest::addRow("%s %s", model, battery) << model << battery << assigned;
+    };
+    row("Bird", "A", false);
+    row("Bird", "B", true);
+    row("Bird", "C", false);
+    row("Wing", "A", true);
+    row("Wing", "B", false);
+    row("Wing", "C", true);
 }
 
 void AssignmentTest::exactlyOneButtonIsEnabledForEveryPair()

@@ -95,83 +95,37 @@ void BatteryEditingTest::aNewBatteryOpensTheOverviewAndLeavesTheFormAsItWas()
 
 void BatteryEditingTest::figuresAreTakenFromTheFields_data()
 {
-    QTest::addColumn<QString>("capacity");
-    QTest::addColumn<QString>("chargeRate");
-    QTest::addColumn<QString>("rating");
-    QTest::addColumn<QString>("cycles");
-    QTest::addColumn<QString>("purchase");
+    QTest::addColumn<QStringList>("typed"); // capacity, charge rate, rating, cycles, date of purchase
     QTest::addColumn<QList<unsigned int>>("figures");
     QTest::addColumn<QDate>("date");
 
-    using Figures = QList<unsigned int>;
-    QTest::newRow("all emptied") << ""
-                                 << ""
-                                 << ""
-                                 << ""
-                                 << "" << Figures{0, 0, 0, 0} << QDate();
-    QTest::newRow("largest") << "99999"
-                             << "9.9"
-                             << "999"
-                             << "9999"
-                             << "99991231" << Figures{99999, 99, 999, 9999} << QDate(9999, 12, 31);
-    QTest::newRow("longer than the masks")
-        << "123456789"
-        << "1.23"
-        << "12345"
-        << "56789"
-        << "202601023" << Figures{12345, 12, 123, 5678} << QDate(2026, 1, 2);
-    QTest::newRow("zeros in front") << "00042"
-                                    << "0.3"
-                                    << "007"
-                                    << "0001"
-                                    << "20260102" << Figures{42, 3, 7, 1} << QDate(2026, 1, 2);
-    QTest::newRow("blanks in the masks") << " 4 2 "
-                                         << " .5"
-                                         << "3 0"
-                                         << "1  2"
-                                         << "2026-01-02" << Figures{42, 5, 30, 12} << QDate(2026, 1, 2);
-    QTest::newRow("letters are not let in") << "1x2"
-                                            << "a1b5"
-                                            << "+3"
-                                            << "-4"
-                                            << "2026y01m02" << Figures{12, 15, 3, 4} << QDate(2026, 1, 2);
-    QTest::newRow("no tenths") << "1000"
-                               << "3"
-                               << "30"
-                               << "0"
-                               << "2026-1 -0 " << Figures{1000, 30, 30, 0} << QDate();
-    QTest::newRow("a day of one digit") << "1"
-                                        << "2.0"
-                                        << "1"
-                                        << "0"
-                                        << "2026-01-2 " << Figures{1, 20, 1, 0} << QDate();
-    QTest::newRow("no such day") << "1"
-                                 << "2.0"
-                                 << "1"
-                                 << "0"
-                                 << "2026-02-30" << Figures{1, 20, 1, 0} << QDate();
-    QTest::newRow("no year") << "1"
-                             << "2.0"
-                             << "1"
-                             << "0"
-                             << "    -01-02" << Figures{1, 20, 1, 0} << QDate();
+    const auto row = [](const char *tag, const QStringList &typed, const QList<unsigned int> &figures,
+                        QDate date = {}) { QTest::newRow(tag) << typed << figures << date; };
+    row("all emptied", {"", "", "", "", ""}, {0, 0, 0, 0});
+    row("largest", {"99999", "9.9", "999", "9999", "99991231"}, {99999, 99, 999, 9999}, QDate(9999, 12, 31));
+    row("longer than the masks", {"123456789", "1.23", "12345", "56789", "202601023"}, {12345, 12, 123, 5678},
+        QDate(2026, 1, 2));
+    row("zeros in front", {"00042", "0.3", "007", "0001", "20260102"}, {42, 3, 7, 1}, QDate(2026, 1, 2));
+    row("blanks in the masks", {" 4 2 ", " .5", "3 0", "1  2", "2026-01-02"}, {42, 5, 30, 12},
+        QDate(2026, 1, 2));
+    row("letters are not let in", {"1x2", "a1b5", "+3", "-4", "2026y01m02"}, {12, 15, 3, 4},
+        QDate(2026, 1, 2));
+    row("no tenths", {"1000", "3", "30", "0", "2026-1 -0 "}, {1000, 30, 30, 0});
+    row("a day of one digit", {"1", "2.0", "1", "0", "2026-01-2 "}, {1, 20, 1, 0});
+    row("no such day", {"1", "2.0", "1", "0", "2026-02-30"}, {1, 20, 1, 0});
+    row("no year", {"1", "2.0", "1", "0", "    -01-02"}, {1, 20, 1, 0});
 }
 
 void BatteryEditingTest::figuresAreTakenFromTheFields()
 {
-    QFETCH(QString, capacity);
-    QFETCH(QString, chargeRate);
-    QFETCH(QString, rating);
-    QFETCH(QString, cycles);
-    QFETCH(QString, purchase);
-
+    QFETCH(QStringList, typed);
     EditingWindow window;
     window.goTo(window.ui().pb_choose_addbattery);
-    window.type(window.ui().ledt_capacity, capacity);
-    window.type(window.ui().ledt_chargeRate, chargeRate);
-    window.type(window.ui().ledt_dischargeRate, rating);
-    window.type(window.ui().ledt_cyclesused, cycles);
-    window.type(window.ui().ledt_purchaseDate, purchase);
+    window.type(window.ui().ledt_capacity, typed.at(0));
+    window.type(window.ui().ledt_chargeRate, typed.at(1));
+    window.type(window.ui().ledt_dischargeRate, typed.at(2));
+    window.type(window.ui().ledt_cyclesused, typed.at(3));
+    window.type(window.ui().ledt_purchaseDate, typed.at(4));
     window.click(window.ui().pb_addNewBattery);
 
     const BatteryWidget *battery = window.battery(u"MyBattery"_s);

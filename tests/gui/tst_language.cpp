@@ -287,15 +287,13 @@ void LanguageTest::aQuestionThatWasAskedStaysAsked_data()
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("question");
     QTest::addColumn<bool>("startsAsked");
-    QTest::newRow("battery") << "pb_choose_delbattery"
-                             << "pb_deleteConfirm"
-                             << "lbl_really" << false;
-    QTest::newRow("model") << "pb_choose_delmodel"
-                           << "pb_deleteConfirm_model"
-                           << "lbl_reallydelete_model" << false;
-    QTest::newRow("location") << "pb_choose_dellocation"
-                              << "pb_del_location"
-                              << "lbl_reallydelete_location" << true;
+    const auto row = [](const char *tag, const char *page, const char *button, const char *question,
+                        bool startsAsked) {
+        QTest::newRow(tag) << page << button << question << startsAsked;
+    };
+    row("battery", "pb_choose_delbattery", "pb_deleteConfirm", "lbl_really", false);
+    row("model", "pb_choose_delmodel", "pb_deleteConfirm_model", "lbl_reallydelete_model", false);
+    row("location", "pb_choose_dellocation", "pb_del_location", "lbl_reallydelete_location", true);
 }
 
 void LanguageTest::aQuestionThatWasAskedStaysAsked()

@@ -36,17 +36,14 @@ void MaskedFieldsTest::aClickAnywhereLetsTypingReplaceTheContent_data()
     QTest::addColumn<QString>("expected");
 
     for (const double where : {0.05, 0.3, 0.9}) {
-        const QByteArray place = " at " + QByteArray::number(where);
-        QTest::newRow("capacity" + place) << "ledt_capacity" << where << "220"
-                                          << "220";
-        QTest::newRow("charge rate" + place) << "ledt_chargeRate" << where << "35"
-                                             << "3.5";
-        QTest::newRow("charge rate with its point" + place) << "ledt_chargeRate" << where << "3.5"
-                                                            << "3.5";
-        QTest::newRow("date" + place) << "ledt_purchaseDate" << where << "20240229"
-                                      << "2024-02-29";
-        QTest::newRow("date with hyphens" + place) << "ledt_purchaseDate" << where << "2024-02-29"
-                                                   << "2024-02-29";
+        const auto row = [where](const char *tag, const char *name, const char *typed, const char *expected) {
+            QTest::addRow("%s at %g", tag, where) << name << where << typed << expected;
+        };
+        row("capacity", "ledt_capacity", "220", "220");
+        row("charge rate", "ledt_chargeRate", "35", "3.5");
+        row("charge rate with its point", "ledt_chargeRate", "3.5", "3.5");
+        row("date", "ledt_purchaseDate", "20240229", "2024-02-29");
+        row("date with hyphens", "ledt_purchaseDate", "2024-02-29", "2024-02-29");
     }
 }
 

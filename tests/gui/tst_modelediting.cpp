@@ -98,53 +98,29 @@ void ModelEditingTest::aNewModelIsOnTheOverviewWhenThePreferencesNameIt()
 
 void ModelEditingTest::figuresAreTakenFromTheFields_data()
 {
-    QTest::addColumn<QString>("weight");
-    QTest::addColumn<QString>("size");
-    QTest::addColumn<QString>("flights");
-    QTest::addColumn<QString>("purchase");
+    QTest::addColumn<QStringList>("typed"); // weight, size, flights, date of purchase
     QTest::addColumn<QList<unsigned int>>("figures");
     QTest::addColumn<QDate>("date");
 
-    using Figures = QList<unsigned int>;
-    QTest::newRow("all emptied") << ""
-                                 << ""
-                                 << ""
-                                 << "" << Figures{0, 0, 0} << QDate();
-    QTest::newRow("as offered") << "1.00"
-                                << "700"
-                                << "0"
-                                << "2026-01-02" << Figures{100, 700, 0} << QDate(2026, 1, 2);
-    QTest::newRow("largest") << "9.99"
-                             << "9999"
-                             << "9999"
-                             << "99991231" << Figures{999, 9999, 9999} << QDate(9999, 12, 31);
-    QTest::newRow("truncated on purpose") << "0.29"
-                                          << "1"
-                                          << "1"
-                                          << "20260102" << Figures{28, 1, 1} << QDate(2026, 1, 2);
-    QTest::newRow("no hundredths") << "1.5"
-                                   << "0070"
-                                   << "1  2"
-                                   << "2026-1 -0 " << Figures{150, 70, 12} << QDate();
-    QTest::newRow("only hundredths") << "  7"
-                                     << " 7 0"
-                                     << "x5"
-                                     << "20260230" << Figures{70, 70, 5} << QDate();
+    const auto row = [](const char *tag, const QStringList &typed, const QList<unsigned int> &figures,
+                        QDate date = {}) { QTest::newRow(tag) << typed << figures << date; };
+    row("all emptied", {"", "", "", ""}, {0, 0, 0});
+    row("as offered", {"1.00", "700", "0", "2026-01-02"}, {100, 700, 0}, QDate(2026, 1, 2));
+    row("largest", {"9.99", "9999", "9999", "99991231"}, {999, 9999, 9999}, QDate(9999, 12, 31));
+    row("truncated on purpose", {"0.29", "1", "1", "20260102"}, {28, 1, 1}, QDate(2026, 1, 2));
+    row("no hundredths", {"1.5", "0070", "1  2", "2026-1 -0 "}, {150, 70, 12});
+    row("only hundredths", {"  7", " 7 0", "x5", "20260230"}, {70, 70, 5});
 }
 
 void ModelEditingTest::figuresAreTakenFromTheFields()
 {
-    QFETCH(QString, weight);
-    QFETCH(QString, size);
-    QFETCH(QString, flights);
-    QFETCH(QString, purchase);
-
+    QFETCH(QStringList, typed);
     EditingWindow window;
     window.goTo(window.ui().pb_choose_addmodel);
-    window.type(window.ui().ledt_addheli_weight, weight);
-    window.type(window.ui().ledt_addheli_size, size);
-    window.type(window.ui().ledt_addheli_flightsused, flights);
-    window.type(window.ui().ledt_addheli_purchase, purchase);
+    window.type(window.ui().ledt_addheli_weight, typed.at(0));
+    window.type(window.ui().ledt_addheli_size, typed.at(1));
+    window.type(window.ui().ledt_addheli_flightsused, typed.at(2));
+    window.type(window.ui().ledt_addheli_purchase, typed.at(3));
     window.click(window.ui().pb_addNewModel);
 
     const ModelWidget *model = window.model(u"MyHeli"_s);

@@ -207,10 +207,11 @@ void NavigationTest::everyOpeningOfAnAddPagePresetsToday_data()
 {
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("field");
-    QTest::newRow("battery") << "pb_choose_addbattery"
-                             << "ledt_purchaseDate";
-    QTest::newRow("model") << "pb_choose_addmodel"
-                           << "ledt_addheli_purchase";
+    const auto row = [](const char *tag, const char *button, const char *field) {
+        QTest::newRow(tag) << button << field;
+    };
+    row("battery", "pb_choose_addbattery", "ledt_purchaseDate");
+    row("model", "pb_choose_addmodel", "ledt_addheli_purchase");
 }
 
 void NavigationTest::everyOpeningOfAnAddPagePresetsToday()
