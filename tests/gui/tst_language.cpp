@@ -1,36 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The language changes while the window lives: every text follows, and the pilot loses nothing.
+#include "tests/support/foreignlanguage.h"
 #include "tests/support/logbookwindow.h"
 #include "tests/support/samples.h"
 
 #include <QChart>
 #include <QChartView>
-#include <QTranslator>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace Test;
-
-/** Puts a "~" before every text of the window and the cards, and changes the masks a little. */
-class TildeTranslator : public QTranslator
-{
-    Q_OBJECT
-
-public:
-    using QTranslator::QTranslator;
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        if (qstrcmp(context, "VoltbokGui") != 0 && qstrcmp(context, "BatteryWidget") != 0)
-            return {};
-        const QByteArray text(source);
-        if (text == "0.0")
-            return u"09.0"_s; // a mask: two digits before the point
-        if (text == "0000-00-00" || text == "0.00")
-            return u"X"_s; // masks that must not come here
-        const bool mask = !text.isEmpty() && text.count('0') == text.size();
-        return mask && text.size() > 1 ? QString::fromLatin1(text + "9") : u'~' + QString::fromUtf8(text);
-    }
-};
 
 class LanguageTest : public QObject
 {
@@ -55,7 +33,7 @@ private Q_SLOTS:
     void theFlightOnShowStays();
 
 private:
-    std::unique_ptr<TildeTranslator> translator;
+    std::unique_ptr<ForeignLanguage> translator;
     std::unique_ptr<LogbookWindow> window;
     Ui_VoltbokGui *ui = nullptr;
 
@@ -83,7 +61,7 @@ QString textOf(const QWidget *card, const char *name)
 
 void LanguageTest::init()
 {
-    translator = std::make_unique<TildeTranslator>();
+    translator = std::make_unique<ForeignLanguage>();
     window = std::make_unique<LogbookWindow>();
     ui = &window->ui();
     window->load(hangar());
@@ -168,11 +146,10 @@ void LanguageTest::everyTextOfTheWindowFollows()
     QVERIFY(before.size() > 80);
     changeLanguage();
     for (const auto &[widget, text] : before) {
-        const QString expected = u'~' + text;
-        QVERIFY2(widget->property("text").toString() == expected, qPrintable(widget->objectName()));
+        QVERIFY2(widget->property("text").toString() == foreign(text), qPrintable(widget->objectName()));
     }
-    QCOMPARE(ui->lbl_optionshint->text(), u"~Please go to Options and add new model and battery!"_s);
-    QCOMPARE(ui->label_7->text(), u"~Charge  rate (C)"_s);
+    QCOMPARE(ui->lbl_optionshint->text(), foreign(u"Please go to Options and add new model and battery!"_s));
+    QCOMPARE(ui->label_7->text(), foreign(u"Charge  rate (C)"_s));
     QCOMPARE(ui->rb_showmAh->text(), u"mAh"_s);
     QCOMPARE(window->gui().windowTitle(), u"Rotavex 15.7.0 64-bit"_s);
 }
@@ -194,13 +171,13 @@ void LanguageTest::theMasksFollowAndKeepTheirContent()
     ui->ledt_chargeRate->setText(u"1.5"_s);
     ui->ledt_purchaseDate->setText(u"2024-02-29"_s);
     changeLanguage();
-    QCOMPARE(ui->ledt_capacity->inputMask(), u"000009"_s);
+    QCOMPARE(ui->ledt_capacity->inputMask(), foreign(u"00000"_s));
     QCOMPARE(ui->ledt_capacity->text(), u"3300"_s);
-    QCOMPARE(ui->ledt_dischargeRate->inputMask(), u"0009"_s);
+    QCOMPARE(ui->ledt_dischargeRate->inputMask(), foreign(u"000"_s));
     QCOMPARE(ui->ledt_dischargeRate->text(), u"30"_s);
-    QCOMPARE(ui->ledt_chargeRate->inputMask(), u"09.0"_s);
+    QCOMPARE(ui->ledt_chargeRate->inputMask(), foreign(u"0.0"_s));
     QCOMPARE(ui->ledt_chargeRate->text(), u"1.5"_s);
-    QCOMPARE(ui->ledt_modifyheli_size->inputMask(), u"00009"_s);
+    QCOMPARE(ui->ledt_modifyheli_size->inputMask(), foreign(u"0000"_s));
     QCOMPARE(ui->ledt_purchaseDate->inputMask(), u"0000-00-00"_s); // never translated
     QCOMPARE(ui->ledt_purchaseDate->text(), u"2024-02-29"_s);
     QCOMPARE(ui->ledt_addheli_weight->inputMask(), u"0.00"_s);
@@ -223,8 +200,8 @@ void LanguageTest::aNewWindowSpeaksTheLanguageInForce()
     changeLanguage();
     window->restart();
     ui = &window->ui();
-    QCOMPARE(ui->pb_save_discharged->text(), u"~OK"_s);
-    QCOMPARE(ui->ledt_name->text(), u"~MyBattery"_s);
+    QCOMPARE(ui->pb_save_discharged->text(), foreign(u"OK"_s));
+    QCOMPARE(ui->ledt_name->text(), foreign(u"MyBattery"_s));
     QCOMPARE(window->gui().windowTitle(), u"Rotavex 15.7.0 64-bit"_s);
     changeLanguageBack();
     QCOMPARE(ui->pb_save_discharged->text(), u"OK"_s);
@@ -311,21 +288,21 @@ void LanguageTest::aQuestionThatWasAskedStaysAsked()
         window->click(ui->pb_options);
     follow({"pb_edit_data", page});
     changeLanguage();
-    QCOMPARE(confirm->text(), u"~Delete"_s);
+    QCOMPARE(confirm->text(), foreign(u"Delete"_s));
     QVERIFY(!really->isVisible());
     window->click(confirm);
-    QCOMPARE(confirm->text(), u"~Yes"_s);
+    QCOMPARE(confirm->text(), foreign(u"Yes"_s));
     QVERIFY(really->isVisible());
-    QCOMPARE(really->text(), u"~Really?"_s);
+    QCOMPARE(really->text(), foreign(u"Really?"_s));
 
     changeLanguageBack();
     QCOMPARE(confirm->text(), u"Yes"_s);
     QVERIFY(really->isVisible());
     changeLanguage();
-    QCOMPARE(confirm->text(), u"~Yes"_s);
+    QCOMPARE(confirm->text(), foreign(u"Yes"_s));
     window->click(confirm);
     QCOMPARE(ui->stackedWidget->currentWidget(), ui->scrollLayout); // the second click was the second
-    QCOMPARE(confirm->text(), u"~Delete"_s);
+    QCOMPARE(confirm->text(), foreign(u"Delete"_s));
 }
 
 void LanguageTest::everyCardFollowsOnShowOrNot()
@@ -333,15 +310,15 @@ void LanguageTest::everyCardFollowsOnShowOrNot()
     window->choose(ui->cb_select_model, u"Plane"_s);
     changeLanguage();
     // "Spare" is on show, "Pack" and "Flat" were, "Old" never has been.
-    QCOMPARE(textOf(window->battery("Pack"), "pushButton"), u"~Charged"_s);
-    QCOMPARE(textOf(window->battery("Flat"), "pushButton"), u"~Discharged"_s);
-    QCOMPARE(textOf(window->battery("Spare"), "pushButton"), u"~Charged"_s);
-    QCOMPARE(textOf(window->battery("Old"), "pushButton"), u"~Discharged"_s);
+    QCOMPARE(textOf(window->battery("Pack"), "pushButton"), foreign(u"Charged"_s));
+    QCOMPARE(textOf(window->battery("Flat"), "pushButton"), foreign(u"Discharged"_s));
+    QCOMPARE(textOf(window->battery("Spare"), "pushButton"), foreign(u"Charged"_s));
+    QCOMPARE(textOf(window->battery("Old"), "pushButton"), foreign(u"Discharged"_s));
     for (const BatteryWidget *card : window->gui().batteryList) {
-        QCOMPARE(textOf(card, "label"), u"~Cycles:"_s);
-        QCOMPARE(textOf(card, "label_6"), u"~Last use:"_s);
-        QCOMPARE(textOf(card, "lbl_discharged_label"), u"~Discharged:"_s);
-        QCOMPARE(textOf(card, "lbl_maxCurrent_label"), u"~Max. Current:"_s);
+        QCOMPARE(textOf(card, "label"), foreign(u"Cycles:"_s));
+        QCOMPARE(textOf(card, "label_6"), foreign(u"Last use:"_s));
+        QCOMPARE(textOf(card, "lbl_discharged_label"), foreign(u"Discharged:"_s));
+        QCOMPARE(textOf(card, "lbl_maxCurrent_label"), foreign(u"Max. Current:"_s));
         QCOMPARE(textOf(card, "lbl_name"), card->getBatteryName());
         QCOMPARE(textOf(card, "lbl_capacity"), u"2200mAh"_s);
     }
@@ -356,7 +333,7 @@ void LanguageTest::theTitleOfTheChartFollows()
     window->click(ui->rb_showC);
     QCOMPARE(window->gui().chartView->chart()->title(), u"Battery age: 0.00 years"_s);
     changeLanguage();
-    QCOMPARE(window->gui().chartView->chart()->title(), u"~Battery age: 0.00 years"_s);
+    QCOMPARE(window->gui().chartView->chart()->title(), foreign(u"Battery age: 0.00 years"_s));
     QVERIFY(window->gui().chartView->isVisible());
     QCOMPARE(ui->cb_batteryData->currentText(), u"Old"_s);
     QVERIFY(ui->rb_showC->isChecked());

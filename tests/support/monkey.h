@@ -14,7 +14,6 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTest>
-#include <QTranslator>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -190,18 +189,4 @@ private:
     }
 
     std::mt19937 m_random;
-};
-
-/** A language in which every text reads differently and every mask of zeros is one digit wider. */
-class OtherLanguage : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char * /*context*/, const char *sourceText, const char * /*disambiguation*/,
-                      int /*n*/) const override
-    {
-        const QString source = QString::fromUtf8(sourceText);
-        const bool mask = !source.isEmpty() && source.count(u'0') + source.count(u'.') == source.size();
-        return mask ? QString(u'0' + source) : u"»%1«"_s.arg(source);
-    }
 };
