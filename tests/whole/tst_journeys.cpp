@@ -1,70 +1,36 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Three pilots, each from an empty folder to a full catalogue, with clicks and keys alone.
 #include "tests/support/editingwindow.h"
+#include "tests/support/recordtext.h"
+
+#include <QRegularExpression>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace Test;
 
 namespace {
 
-QString text(const QDateTime &moment)
+/** A data file without the moments at which something was done. */
+QByteArray withoutMoments(const QByteArray &bytes)
 {
-    return moment.toString(Qt::TextDate); // whole seconds: the file keeps no finer time
+    static const QRegularExpression moment(u"(?<=<LastUse>|<LastUpdate>| Date=\")[^<\"]+"_s);
+    return QString::fromUtf8(bytes).remove(moment).toUtf8();
 }
 
-/** Every field of the catalogue but the moments at which something was done. */
-QStringList figures(VoltbokGui &gui)
+/** What the user sees of the catalogue. */
+QStringList textsOnShow(const VoltbokGui &gui)
 {
-    QStringList lines;
-    for (const QString &location : EditingWindow::items(gui.ui->cb_log_location))
-        lines += u"location %1"_s.arg(location);
-    for (BatteryWidget *battery : std::as_const(gui.batteryList)) {
-        lines += u"battery %1: %2 mAh, %3 tenths of C, %4 C, %5 cycles, bought %6, %7"_s.arg(
-            battery->getBatteryName(), QString::number(battery->getBatteryCapacity()),
-            QString::number(battery->getBatteryChargeRate()), QString::number(battery->getBatteryRating()),
-            QString::number(battery->getBatteryCycles()), battery->getdateOfPurchase().toString(Qt::ISODate),
-            battery->getBatteryCharged() ? u"charged"_s : u"discharged"_s);
-        lines += u"  last %1 mAh, %2 hundredths of A"_s.arg(battery->getBatteryLastDischarged())
-                     .arg(battery->getBatteryLastMaxCurrent());
-        for (qsizetype i = 0; i < battery->getDates().size(); ++i)
-            lines += u"  discharge %1 mAh, %2 hundredths of A"_s.arg(battery->getDischarges().at(i))
-                         .arg(battery->getCurrents().at(i));
-    }
-    for (ModelWidget *model : std::as_const(gui.modelList)) {
-        lines += u"model %1: %2, weight %3, size %4, %5 flights, bought %6, flies %7, notes %8"_s.arg(
-            model->getModelName(), model->getModelType(), QString::number(model->getModelWeight()),
-            QString::number(model->getModelSize()), QString::number(model->getModelFlights()),
-            model->getDateOfPurchase().toString(Qt::ISODate), model->getBatteries().join(u'+'),
-            model->getAdditionalNotes());
-        for (const LogData &flight : model->getLogData())
-            lines += u"  flight at %1, %2, %3 degrees, notes %4"_s.arg(
-                flight.location, flight.duration.toString(Qt::TextDate), QString::number(flight.temperature),
-                flight.notes);
-    }
-    return lines;
-}
-
-/** The moments at which something was done, and what the user sees of the catalogue. */
-QStringList momentsAndTexts(VoltbokGui &gui)
-{
-    QStringList lines;
-    for (BatteryWidget *battery : std::as_const(gui.batteryList)) {
-        lines += u"battery "_s + text(battery->getBatteryLastUpdated());
-        for (const QDateTime &moment : battery->getDates())
-            lines += u"  discharge "_s + text(moment);
-        for (const QLabel *label : battery->findChildren<QLabel *>())
-            lines += u"  "_s + label->objectName() + u' ' + label->text();
-        lines += u"  "_s + battery->findChild<QPushButton *>()->text();
-    }
-    for (ModelWidget *model : std::as_const(gui.modelList)) {
-        lines += u"model "_s + text(model->getLastUpdated());
-        for (const LogData &flight : model->getLogData())
-            lines += u"  flight "_s + text(flight.date);
+    QStringList texts;
+    for (const BatteryWidget *card : gui.batteryList) {
+        for (const QLabel *label : card->findChildren<QLabel *>())
+            texts += label->objectName() + u' ' + label->text();
+        texts += card->findChild<QPushButton *>()->text();
     }
     QStringList choosers; // the one of the overview changes its place with every reload
     for (const QComboBox *chooser : gui.ui->stackedWidget->findChildren<QComboBox *>())
         choosers += chooser->objectName() + u": "_s + EditingWindow::items(chooser).join(u'|');
     choosers.sort();
-    return lines + choosers;
+    return texts + choosers;
 }
 
 /** A window that a pilot works with. */
@@ -147,22 +113,25 @@ public:
         enter(ui().dsb_discharged_current, current);
     }
 
-    void remove(QComboBox *chooser, const QString &name, QPushButton *page, QPushButton *button)
+    /** Charges a battery that is discharged, or flies one that is charged. */
+    void use(const QString &name) { clickCard(battery(name)); }
+
+    /** The file holds this and no more, and a second window reads it as the first one has it. */
+    void expect(const Catalogue &catalogue)
     {
-        goTo(page);
-        choose(chooser, name);
-        click(button);
-        click(button);
-        QVERIFY(showsOverview());
+        QCOMPARE(withoutMoments(fileBytes()), withoutMoments(document(catalogue)));
+        compareWithASecondWindow();
     }
 
+private:
     /** Opens a second window over the same folder and compares every field of the two. */
     void compareWithASecondWindow()
     {
         VoltbokGui second;
         second.changeStoragePath(folder());
-        QCOMPARE(figures(second), figures(gui()));
-        QCOMPARE(momentsAndTexts(second), momentsAndTexts(gui()));
+        QCOMPARE(RecordText::of(second.batteryList, second.modelList),
+                 RecordText::of(gui().batteryList, gui().modelList));
+        QCOMPARE(textsOnShow(second), textsOnShow(gui()));
         const QByteArray before = fileBytes();
         second.writeDataWithDataprocessor();
         QCOMPARE(fileBytes(), before);
@@ -179,14 +148,24 @@ private Q_SLOTS:
     void aPilotWithHelicoptersWhoNotesEveryFlight();
     void aPilotWithPlanesWhoRecordsInAHurry();
     void aPilotWhoMakesMistakesAndCorrectsThem();
+
+private:
+    static void fillTheHangar(Pilot &pilot);
+    static void flyTheBigHelicopter(Pilot &pilot);
+    static void flyTheSmallHelicopter(Pilot &pilot);
+
+    static void flyTwiceInARow(Pilot &pilot);
+    static void correctTheCapacity(Pilot &pilot);
+
+    static void addTheBatteryAtTheThirdAttempt(Pilot &pilot);
+    static void correctTheLocation(Pilot &pilot);
+    static void buildTheModelAgain(Pilot &pilot);
+    static void takeTheAssignmentBackOnce(Pilot &pilot);
+    static void breakTheFirstCaptureOff(Pilot &pilot);
 };
 
-void JourneysTest::aPilotWithHelicoptersWhoNotesEveryFlight()
+void JourneysTest::fillTheHangar(Pilot &pilot)
 {
-    Pilot pilot;
-    QVERIFY(pilot.ui().lbl_welcome->isVisible());
-    QVERIFY(!pilot.ui().pb_chart->isEnabled());
-    pilot.chooseMode(pilot.ui().rb_modeAdvanced);
     pilot.addLocation(u"Airfield <north>"_s);
     pilot.addLocation(u"Gravel & \"Grass\""_s);
     pilot.buildModel(u"Logo"_s, u"Heli"_s, u"350"_s, u"600"_s, u"41"_s, u"20220314"_s, u"red hood"_s);
@@ -194,14 +173,17 @@ void JourneysTest::aPilotWithHelicoptersWhoNotesEveryFlight()
     pilot.buyBattery(u"6S-1"_s, u"5000"_s, u"20"_s, u"30"_s, u"12"_s, u"20240229"_s);
     pilot.buyBattery(u"6S-1"_s, u"5000"_s, u"20"_s, u"30"_s, u"11"_s, u"20240229"_s);
     pilot.buyBattery(u"3S"_s, u"850"_s, u"35"_s, u"45"_s, u"0"_s, u"20251224"_s);
-    for (const QString &battery : {u"6S-1"_s, u"6S-1_1"_s})
-        pilot.assign(battery, u"Logo"_s);
+    pilot.assign(u"6S-1"_s, u"Logo"_s);
+    pilot.assign(u"6S-1_1"_s, u"Logo"_s);
     pilot.assign(u"3S"_s, u"Mini"_s);
-
     pilot.goToOverview();
     QCOMPARE(pilot.cardsOnShow(), QStringList({u"6S-1"_s, u"6S-1_1"_s}));
-    pilot.clickCard(pilot.battery(u"6S-1"_s));
-    pilot.clickCard(pilot.battery(u"6S-1_1"_s));
+}
+
+void JourneysTest::flyTheBigHelicopter(Pilot &pilot)
+{
+    pilot.use(u"6S-1"_s);
+    pilot.use(u"6S-1_1"_s); // which stays charged
     pilot.flyInFull(u"6S-1"_s, u"4100"_s, u"0.29"_s);
     pilot.choose(pilot.ui().cb_log_location, u"Gravel & \"Grass\""_s);
     pilot.enterTime(pilot.ui().sb_log_duration, u"000730"_s);
@@ -209,28 +191,55 @@ void JourneysTest::aPilotWithHelicoptersWhoNotesEveryFlight()
     pilot.write(pilot.ui().ptext_log_notes, u"first of the year"_s);
     pilot.click(pilot.ui().pb_save_discharged);
     QVERIFY(pilot.showsOverview());
+}
 
+void JourneysTest::flyTheSmallHelicopter(Pilot &pilot)
+{
     pilot.choose(pilot.ui().cb_select_model, u"Mini"_s);
     QCOMPARE(pilot.cardsOnShow(), QStringList{u"3S"_s});
-    pilot.clickCard(pilot.battery(u"3S"_s));
+    pilot.use(u"3S"_s);
     pilot.flyInFull(u"3S"_s, u"640"_s, u"12.5"_s);
     pilot.click(pilot.ui().pb_save_discharged);
+}
 
-    QCOMPARE(
-        figures(pilot.gui()),
-        QStringList(
-            {u"location Airfield <north>"_s, u"location Gravel & \"Grass\""_s,
-             u"battery 6S-1: 5000 mAh, 20 tenths of C, 30 C, 13 cycles, bought 2024-02-29, discharged"_s,
-             u"  last 4100 mAh, 28 hundredths of A"_s, u"  discharge 4100 mAh, 28 hundredths of A"_s,
-             u"battery 6S-1_1: 5000 mAh, 20 tenths of C, 30 C, 11 cycles, bought 2024-02-29, charged"_s,
-             u"  last 0 mAh, 0 hundredths of A"_s,
-             u"battery 3S: 850 mAh, 35 tenths of C, 45 C, 1 cycles, bought 2025-12-24, discharged"_s,
-             u"  last 640 mAh, 1250 hundredths of A"_s, u"  discharge 640 mAh, 1250 hundredths of A"_s,
-             u"model Logo: Heli, weight 350, size 600, 41 flights, bought 2022-03-14, flies 6S-1+6S-1_1, notes red hood"_s,
-             u"  flight at Gravel & \"Grass\", 00:07:30, -7 degrees, notes first of the year"_s,
-             u"model Mini: Heli, weight 28, size 250, 0 flights, bought 2025-12-24, flies 3S, notes indoor"_s,
-             u"  flight at Gravel & \"Grass\", 00:07:30, -7 degrees, notes first of the year"_s}));
-    pilot.compareWithASecondWindow();
+void JourneysTest::aPilotWithHelicoptersWhoNotesEveryFlight()
+{
+    Pilot pilot;
+    QVERIFY(pilot.ui().lbl_welcome->isVisible());
+    QVERIFY(!pilot.ui().pb_chart->isEnabled());
+    pilot.chooseMode(pilot.ui().rb_modeAdvanced);
+    fillTheHangar(pilot);
+    flyTheBigHelicopter(pilot);
+    flyTheSmallHelicopter(pilot);
+
+    const QString grass = u"Gravel & \"Grass\""_s;
+    const Flight flight{{}, grass, QTime(0, 7, 30), -7, u"first of the year"_s}; // the page keeps it
+    const QDate christmas(2025, 12, 24);
+    const Battery used{u"6S-1"_s, false, {{{}, 4100, 28}}, 5000, 20, 30, 13};
+    const Battery charged{u"6S-1_1"_s, true, {}, 5000, 20, 30, 11};
+    const Battery small{u"3S"_s, false, {{{}, 640, 1250}}, 850, 35, 45, 1, christmas};
+    Model logo{u"Logo"_s, {u"6S-1"_s, u"6S-1_1"_s}, {flight}, 350, 600, 41, u"Heli"_s, u"red hood"_s};
+    logo.purchase = QDate(2022, 3, 14);
+    const Model mini{u"Mini"_s, {u"3S"_s}, {flight}, 28, 250, 0, u"Heli"_s, u"indoor"_s, christmas};
+    pilot.expect({{used, charged, small}, {logo, mini}, {u"Airfield <north>"_s, grass}});
+}
+
+void JourneysTest::flyTwiceInARow(Pilot &pilot)
+{
+    for (int flight = 0; flight < 2; ++flight) {
+        pilot.use(u"Big"_s); // charges it
+        pilot.use(u"Big"_s);
+        QVERIFY(pilot.showsOverview());
+    }
+}
+
+void JourneysTest::correctTheCapacity(Pilot &pilot)
+{
+    pilot.goToEditPage();
+    pilot.choose(pilot.ui().cb_bat_choose_model, u"Big"_s);
+    pilot.click(pilot.ui().pb_choose_modify_battery);
+    pilot.type(pilot.ui().ledt_modifyBattery_capacity, u"2100"_s);
+    pilot.click(pilot.ui().pb_update_battery);
 }
 
 void JourneysTest::aPilotWithPlanesWhoRecordsInAHurry()
@@ -244,40 +253,27 @@ void JourneysTest::aPilotWithPlanesWhoRecordsInAHurry()
     pilot.assign(u"Big"_s, u"Wing"_s);
     pilot.assign(u"Big"_s, u"SÄGER"_s);
     pilot.goToOverview();
-    for (int flight = 0; flight < 2; ++flight) { // charged and flown at once, twice
-        pilot.clickCard(pilot.battery(u"Big"_s));
-        pilot.clickCard(pilot.battery(u"Big"_s));
-        QVERIFY(pilot.showsOverview());
-    }
+    flyTwiceInARow(pilot);
     pilot.addLocation(u"Slope"_s);
+    correctTheCapacity(pilot);
+    pilot.use(u"Big"_s);
+    pilot.use(u"Big"_s);
 
-    pilot.goToEditPage();
-    pilot.choose(pilot.ui().cb_bat_choose_model, u"Big"_s);
-    pilot.click(pilot.ui().pb_choose_modify_battery);
-    pilot.type(pilot.ui().ledt_modifyBattery_capacity, u"2100"_s);
-    pilot.click(pilot.ui().pb_update_battery);
-    pilot.clickCard(pilot.battery(u"Big"_s));
-    pilot.clickCard(pilot.battery(u"Big"_s));
-
-    QCOMPARE(
-        figures(pilot.gui()),
-        QStringList(
-            {u"location Slope"_s,
-             u"battery Big: 2100 mAh, 10 tenths of C, 25 C, 6 cycles, bought 2023-05-01, discharged"_s,
-             u"  last 1680 mAh, 5250 hundredths of A"_s, u"  discharge 1760 mAh, 5500 hundredths of A"_s,
-             u"  discharge 1760 mAh, 5500 hundredths of A"_s, u"  discharge 1680 mAh, 5250 hundredths of A"_s,
-             u"model Wing: Plane, weight 114, size 1400, 7 flights, bought 2023-05-01, flies Big, notes "_s,
-             u"  flight at , 00:00:00, 0 degrees, notes "_s, u"  flight at , 00:00:00, 0 degrees, notes "_s,
-             u"  flight at Slope, 00:00:00, 0 degrees, notes "_s,
-             u"model SÄGER: Glider, weight 200, size 2600, 150 flights, bought 1999-12-31, flies Big, notes F5J"_s}));
-    pilot.compareWithASecondWindow();
+    const QDate mayDay(2023, 5, 1);
+    const QList<Discharge> history{{{}, 1760, 5500}, {{}, 1760, 5500}, {{}, 1680, 5250}};
+    const Battery big{u"Big"_s, false, history, 2100, 10, 25, 6, mayDay};
+    const Flight nowhere{{}, QString(), QTime(0, 0), 0};
+    const Flight onTheSlope{{}, u"Slope"_s, QTime(0, 0), 0};
+    const QList<Flight> flights{nowhere, nowhere, onTheSlope};
+    const Model wing{u"Wing"_s, {u"Big"_s}, flights, 114, 1400, 7, u"Plane"_s, QString(), mayDay};
+    Model glider{u"SÄGER"_s, {u"Big"_s}, {}, 200, 2600, 150, u"Glider"_s, u"F5J"_s};
+    glider.purchase = QDate(1999, 12, 31);
+    pilot.expect({{big}, {wing, glider}, {u"Slope"_s}});
 }
 
-void JourneysTest::aPilotWhoMakesMistakesAndCorrectsThem()
+void JourneysTest::addTheBatteryAtTheThirdAttempt(Pilot &pilot)
 {
-    Pilot pilot;
-    // The battery: no name at first, added twice, the wrong one chosen for deletion, half a date, a wrong
-    // rate.
+    // No name at first, added twice, the wrong one chosen for deletion, half a date, a wrong rate.
     pilot.buyBattery(QString(), u"220"_s, u" 5"_s, u"30"_s, u"0"_s, u"2026-1 -0 "_s);
     QVERIFY(pilot.shows(pilot.ui().addView, Page::AddBattery));
     pilot.type(pilot.ui().ledt_name, u"Pack"_s);
@@ -295,47 +291,66 @@ void JourneysTest::aPilotWhoMakesMistakesAndCorrectsThem()
                 {pilot.ui().ledt_modifyBattery_chargeRate, u"15"_s},
                 {pilot.ui().ledt_modifyBattery_purchaseDate, u"20260103"_s}});
     pilot.click(pilot.ui().pb_update_battery);
+}
 
-    // The location: misspelt, gone with the first click, added anew.
+void JourneysTest::correctTheLocation(Pilot &pilot)
+{
     pilot.addLocation(u"Medow"_s);
     pilot.addLocation(u"Hill"_s);
     pilot.goTo(pilot.ui().pb_choose_dellocation);
-    pilot.click(pilot.ui().pb_del_location);
+    pilot.click(pilot.ui().pb_del_location); // gone with the first click
     pilot.addLocation(u"Meadow"_s);
+}
 
-    // The model: its weight is lost in an update, so it is deleted and built again, under its old name.
+void JourneysTest::buildTheModelAgain(Pilot &pilot)
+{
+    // Its weight is lost in an update, so it is deleted and built again, under its old name.
     pilot.buildModel(u"Bird"_s, u"Hli"_s, u"150"_s, u"700"_s, u"0"_s, u"20260103"_s, u"x"_s);
     pilot.goTo(pilot.ui().pb_choose_modify_model);
     pilot.type(pilot.ui().ledt_modifyheli_type, u"Heli"_s);
     pilot.click(pilot.ui().pb_update_model);
     QCOMPARE(pilot.model(u"Bird"_s)->getModelWeight(), 0U);
     pilot.restart();
-    pilot.remove(pilot.ui().cb_modelList_delete, u"Bird"_s, pilot.ui().pb_choose_delmodel,
-                 pilot.ui().pb_deleteConfirm_model);
+    pilot.goTo(pilot.ui().pb_choose_delmodel);
+    pilot.click(pilot.ui().pb_deleteConfirm_model);
+    pilot.click(pilot.ui().pb_deleteConfirm_model);
+    QVERIFY(pilot.showsOverview());
     pilot.buildModel(u"Bird"_s, u"Heli"_s, u"150"_s, u"700"_s, u"0"_s, u"20260103"_s, u"two\tblades"_s);
+}
 
-    // The assignment: taken back once. The flight: begun, left with the menu button, then recorded.
+void JourneysTest::takeTheAssignmentBackOnce(Pilot &pilot)
+{
     pilot.assign(u"Pack"_s, u"Bird"_s);
     pilot.click(pilot.ui().pb_rem_batt_from_model);
     QVERIFY(pilot.model(u"Bird"_s)->getBatteries().isEmpty());
     pilot.click(pilot.ui().pb_add_batt_to_model);
-    pilot.chooseMode(pilot.ui().rb_modeAdvanced);
-    pilot.clickCard(pilot.battery(u"Pack"_s));
+}
+
+void JourneysTest::breakTheFirstCaptureOff(Pilot &pilot)
+{
+    pilot.use(u"Pack"_s);
     pilot.flyInFull(u"Pack"_s, u"99999"_s, u"40"_s);
     pilot.click(pilot.ui().pb_options);
     QVERIFY(pilot.battery(u"Pack"_s)->getBatteryCharged());
     pilot.flyInFull(u"Pack"_s, u"1810"_s, u"40"_s);
     pilot.click(pilot.ui().pb_save_discharged);
+}
 
-    QCOMPARE(
-        figures(pilot.gui()),
-        QStringList(
-            {u"location Hill"_s, u"location Meadow"_s,
-             u"battery Pack: 2200 mAh, 15 tenths of C, 30 C, 1 cycles, bought 2026-01-03, discharged"_s,
-             u"  last 1810 mAh, 4000 hundredths of A"_s, u"  discharge 1810 mAh, 4000 hundredths of A"_s,
-             u"model Bird: Heli, weight 150, size 700, 0 flights, bought 2026-01-03, flies Pack, notes two\tblades"_s,
-             u"  flight at Hill, 00:00:00, 0 degrees, notes "_s}));
-    pilot.compareWithASecondWindow();
+void JourneysTest::aPilotWhoMakesMistakesAndCorrectsThem()
+{
+    Pilot pilot;
+    addTheBatteryAtTheThirdAttempt(pilot);
+    correctTheLocation(pilot);
+    buildTheModelAgain(pilot);
+    takeTheAssignmentBackOnce(pilot);
+    pilot.chooseMode(pilot.ui().rb_modeAdvanced);
+    breakTheFirstCaptureOff(pilot);
+
+    const QDate bought(2026, 1, 3);
+    const Flight onTheHill{{}, u"Hill"_s, QTime(0, 0), 0};
+    const Battery pack{u"Pack"_s, false, {{{}, 1810, 4000}}, 2200, 15, 30, 1, bought};
+    const Model bird{u"Bird"_s, {u"Pack"_s}, {onTheHill}, 150, 700, 0, u"Heli"_s, u"two\tblades"_s, bought};
+    pilot.expect({{pack}, {bird}, {u"Hill"_s, u"Meadow"_s}});
 }
 
 QTEST_MAIN(JourneysTest)

@@ -41,18 +41,6 @@ struct Reading
     QStringList records;
 };
 
-/** Batteries, and models with as many of their flights. */
-QStringList described(const QList<BatteryWidget *> &batteries, const QList<ModelWidget *> &models,
-                      const QList<qsizetype> &flights)
-{
-    QStringList lines;
-    for (BatteryWidget *battery : batteries)
-        lines += RecordText::of(battery);
-    for (qsizetype i = 0; i < models.size(); ++i)
-        lines += RecordText::of(models.at(i), flights.at(i));
-    return lines;
-}
-
 /** What the loaders make of the data file in a folder. */
 Reading loaded(const QString &folder)
 {
@@ -66,7 +54,7 @@ Reading loaded(const QString &folder)
     processor.getModelWidgetsFromData(models);
     for (ModelWidget *model : std::as_const(models))
         reading.flights.append(model->getLogData().size());
-    reading.records = described(batteries, models, reading.flights);
+    reading.records = RecordText::of(batteries, models, reading.flights);
     qDeleteAll(batteries);
     qDeleteAll(models);
     return reading;
@@ -355,7 +343,7 @@ QString MonkeyTest::faultOfTheRecords(const QString &step)
     if (unwritten > allowed)
         return u"%1 flights are not written"_s.arg(unwritten);
     m_unwrittenFlights = unwritten;
-    const QStringList records = described(m_gui->batteryList, m_gui->modelList, m_reading.flights);
+    const QStringList records = RecordText::of(m_gui->batteryList, m_gui->modelList, m_reading.flights);
     if (records != m_reading.records)
         return u"the window has\n%1\nand the file\n%2"_s.arg(records.join(u'\n'),
                                                              m_reading.records.join(u'\n'));
