@@ -1,20 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/batterywidget.h"
+#include "tests/records/card.h"
 #include "tests/support/rawcard.h"
 
-#include <QApplication>
 #include <QFrame>
 #include <QGridLayout>
-#include <QLabel>
-#include <QProxyStyle>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QScopeGuard>
 #include <QTest>
-#include <QTranslator>
 
-#include <functional>
-#include <utility>
+using namespace Qt::Literals::StringLiterals;
 
 class BatteryCardTest : public QObject
 {
@@ -24,8 +19,6 @@ private Q_SLOTS:
     void init();
     void theCardIsAtLeast260WideAndAtMost170High();
     void theCardCarriesItsNeutralProperties();
-    void aNewCardShowsThePlaceholders_data();
-    void aNewCardShowsThePlaceholders();
     void theLabelsHaveTheirFontAndAlignment_data();
     void theLabelsHaveTheirFontAndAlignment();
     void theFramesHaveTheirShape_data();
@@ -34,84 +27,35 @@ private Q_SLOTS:
     void theWidgetsLieInTheirCells();
     void theLayoutsHaveTheirSpacing();
     void theSpacersPushTheCardUpAndToTheLeft();
-    void theButtonIsFixedInSizeAndStartsRed();
     void theFormWorksOnAnyWidget();
-    void theButtonAnswersItsStyleOnceItIsShown();
-    void theButtonLooksLikeAnyWithItsStyleSheet_data();
-    void theButtonLooksLikeAnyWithItsStyleSheet();
-    void aSetterRefreshesItsLabel_data();
-    void aSetterRefreshesItsLabel();
-    void theNameIsShownAsItStands();
-    void thePurchaseDateIsNotShown();
-    void theRatesShareOneLabel();
-    void numbersAreNotGroupedInAnyLanguage();
-    void theButtonShowsTheChargeState();
     void theSimpleModeHidesTheFiguresOfTheLastDischarge();
     void theComplexModeShowsEverything();
     void anotherModeIsStoredAndChangesNothingShown_data();
     void anotherModeIsStoredAndChangesNothingShown();
-    void theCaptionsAndTheButtonFollowTheLanguage();
-    void thePlaceholderOfTheButtonOutlivesAChangeOfLanguage();
 };
 
 namespace {
 
-template <typename Widget = QLabel>
-Widget *find(const QWidget &card, const char *name)
-{
-    auto *widget = card.findChild<Widget *>(QLatin1String(name));
-    Q_ASSERT(widget);
-    return widget;
-}
+using Card::find;
 
 const char *const details[] = {"lbl_discharged_label", "lbl_discharged", "lbl_maxCurrent_label",
                                "lbl_maxCurrent"};
 const char *const always[] = {"lbl_name",     "lbl_capacity", "lbl_rate",  "label_6",
                               "lbl_dateTime", "label",        "lbl_cycles"};
 
-const QString green = QStringLiteral("background-color: rgb(0, 255, 0);\ncolor: rgb(85, 170, 255);");
-const QString red = QStringLiteral("background-color: rgb(255, 50, 0);\ncolor: rgb(255, 255, 255);");
-
-/** Turns every text of the card into the same text in angle brackets. */
-class BracketTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        if (qstrcmp(context, "BatteryWidget") != 0)
-            return {};
-        return QLatin1Char('<') + QLatin1String(text) + QLatin1Char('>');
-    }
-    bool isEmpty() const override { return false; }
-};
-
-/** Counts how often a button has asked for the place that it takes in a layout. */
-class CountingStyle : public QProxyStyle
-{
-public:
-    QRect subElementRect(SubElement element, const QStyleOption *option, const QWidget *widget) const override
-    {
-        if (element == SE_PushButtonLayoutItem)
-            ++count;
-        return QProxyStyle::subElementRect(element, option, widget);
-    }
-
-    mutable int count = 0;
-};
-
 } // namespace
 
 void BatteryCardTest::init()
 {
     // The offscreen platform itself remarks on every window that is shown.
-    QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
+    QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
 }
 
 void BatteryCardTest::theCardIsAtLeast260WideAndAtMost170High()
 {
     BatteryWidget card;
-    QCOMPARE(card.objectName(), QStringLiteral("BatteryWidget"));
-    QCOMPARE(card.windowTitle(), QStringLiteral("BatteryWidget"));
+    QCOMPARE(card.objectName(), u"BatteryWidget"_s);
+    QCOMPARE(card.windowTitle(), u"BatteryWidget"_s);
     QCOMPARE(card.minimumSize(), QSize(260, 0));
     QCOMPARE(card.maximumSize(), QSize(11111, 170));
     QCOMPARE(card.size(), QSize(260, 154));
@@ -135,42 +79,6 @@ void BatteryCardTest::theCardCarriesItsNeutralProperties()
     for (const char *name : {"batteryCapacity", "batteryRating", "batteryCycles", "batteryLastDischarged",
                              "batteryLastMaxCurrent", "batteryChargeRate"})
         QCOMPARE(card.property(name), QVariant(0U));
-}
-
-void BatteryCardTest::aNewCardShowsThePlaceholders_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("name") << "lbl_name"
-                          << "Lipolar";
-    QTest::newRow("capacity") << "lbl_capacity"
-                              << "4500mAh";
-    QTest::newRow("rate") << "lbl_rate"
-                          << "30C";
-    QTest::newRow("last use") << "lbl_dateTime"
-                              << "01.01.2018 23:15:59";
-    QTest::newRow("discharged") << "lbl_discharged"
-                                << "4000mAh";
-    QTest::newRow("current") << "lbl_maxCurrent"
-                             << "100,0A";
-    QTest::newRow("cycles") << "lbl_cycles"
-                            << "11111";
-    QTest::newRow("caption of last use") << "label_6"
-                                         << "Last use:";
-    QTest::newRow("caption of discharged") << "lbl_discharged_label"
-                                           << "Discharged:";
-    QTest::newRow("caption of current") << "lbl_maxCurrent_label"
-                                        << "Max. Current:";
-    QTest::newRow("caption of cycles") << "label"
-                                       << "Cycles:";
-}
-
-void BatteryCardTest::aNewCardShowsThePlaceholders()
-{
-    QFETCH(QString, name);
-    BatteryWidget card;
-    QTEST(find(card, qPrintable(name))->text(), "text");
-    QCOMPARE(find<QPushButton>(card, "pushButton")->text(), QStringLiteral("Text"));
 }
 
 void BatteryCardTest::theLabelsHaveTheirFontAndAlignment_data()
@@ -285,20 +193,20 @@ void BatteryCardTest::theWidgetsLieInTheirCells()
 void BatteryCardTest::theLayoutsHaveTheirSpacing()
 {
     BatteryWidget card;
-    const auto *outer = card.findChild<QGridLayout *>(QStringLiteral("gridLayout_3"));
+    const auto *outer = card.findChild<QGridLayout *>(u"gridLayout_3"_s);
     QCOMPARE(outer->spacing(), 6);
     QCOMPARE(outer->contentsMargins(), QMargins());
-    const auto *border = card.findChild<QGridLayout *>(QStringLiteral("gridLayout"));
+    const auto *border = card.findChild<QGridLayout *>(u"gridLayout"_s);
     QCOMPARE(border->horizontalSpacing(), 0);
     QCOMPARE(border->verticalSpacing(), 10);
     QCOMPARE(border->contentsMargins(), QMargins(5, 5, 5, 5));
-    const auto *top = card.findChild<QHBoxLayout *>(QStringLiteral("horizontalLayout_2"));
+    const auto *top = card.findChild<QHBoxLayout *>(u"horizontalLayout_2"_s);
     QCOMPARE(top->spacing(), 6);
     QCOMPARE(top->contentsMargins(), QMargins());
-    QCOMPARE(top->itemAt(0)->widget()->objectName(), QStringLiteral("lbl_name"));
-    QCOMPARE(top->itemAt(1)->widget()->objectName(), QStringLiteral("lbl_capacity"));
-    QCOMPARE(top->itemAt(2)->widget()->objectName(), QStringLiteral("lbl_rate"));
-    const auto *figures = card.findChild<QGridLayout *>(QStringLiteral("gridLayout_2"));
+    QCOMPARE(top->itemAt(0)->widget()->objectName(), u"lbl_name"_s);
+    QCOMPARE(top->itemAt(1)->widget()->objectName(), u"lbl_capacity"_s);
+    QCOMPARE(top->itemAt(2)->widget()->objectName(), u"lbl_rate"_s);
+    const auto *figures = card.findChild<QGridLayout *>(u"gridLayout_2"_s);
     QCOMPARE(figures->horizontalSpacing(), 5);
     QCOMPARE(figures->verticalSpacing(), 2);
     QCOMPARE(figures->contentsMargins(), QMargins());
@@ -326,185 +234,13 @@ void BatteryCardTest::theSpacersPushTheCardUpAndToTheLeft()
     QCOMPARE(below->sizePolicy(), QSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding));
 }
 
-void BatteryCardTest::theButtonIsFixedInSizeAndStartsRed()
-{
-    BatteryWidget card;
-    const auto *button = find<QPushButton>(card, "pushButton");
-    QCOMPARE(button->minimumSize(), QSize(100, 35));
-    QCOMPARE(button->maximumSize(), QSize(100, 35));
-    QCOMPARE(button->styleSheet(), red);
-    QVERIFY(!card.getBatteryCharged());
-}
-
 void BatteryCardTest::theFormWorksOnAnyWidget()
 {
     const RawCard form;
-    QCOMPARE(form.widget.objectName(), QStringLiteral("BatteryWidget"));
-    QCOMPARE(form.pushButton->styleSheet(), red);
-    QCOMPARE(form.pushButton->text(), QStringLiteral("Text"));
+    QCOMPARE(form.widget.objectName(), u"BatteryWidget"_s);
+    QCOMPARE(form.pushButton->text(), u"Text"_s);
     QCOMPARE(form.pushButton->metaObject(), &QPushButton::staticMetaObject);
-    QCOMPARE(form.label_6->text(), QStringLiteral("Last use:"));
-}
-
-void BatteryCardTest::theButtonAnswersItsStyleOnceItIsShown()
-{
-    auto *style = new CountingStyle; // the application's from now on
-    QApplication::setStyle(style);
-    const auto restore = qScopeGuard([] { QApplication::setStyle(QStringLiteral("Fusion")); });
-    QWidget window;
-    const QPushButton plain(&window);
-    const int made = std::exchange(style->count, 0);
-    BatteryWidget card;
-    auto *button = find<QPushButton>(card, "pushButton");
-    QCOMPARE(style->count, made); // its style sheet changes nothing of its place
-    card.setBatteryCharged(true, false);
-    QCOMPARE(style->count, made);
-
-    card.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&card));
-    const int shown = style->count;
-    QEvent change(QEvent::StyleChange);
-    QCoreApplication::sendEvent(button, &change);
-    QCOMPARE(style->count, shown + 1);
-}
-
-void BatteryCardTest::theButtonLooksLikeAnyWithItsStyleSheet_data()
-{
-    QTest::addColumn<bool>("charged");
-    QTest::newRow("charged") << true;
-    QTest::newRow("discharged") << false;
-}
-
-void BatteryCardTest::theButtonLooksLikeAnyWithItsStyleSheet()
-{
-    QFETCH(bool, charged);
-    BatteryWidget card;
-    auto *button = find<QPushButton>(card, "pushButton");
-    button->setFocusPolicy(Qt::NoFocus); // a frame would show who has it
-    card.setBatteryCharged(charged, false);
-    card.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&card));
-    card.setBatteryCharged(!charged, false); // a click away, and back
-    card.setBatteryCharged(charged, false);
-    QVERIFY(button->isVisible());
-    const QImage picture = button->grab().toImage();
-    card.hide();
-
-    QWidget window;
-    auto *plain =
-        new QPushButton(charged ? QStringLiteral("Charged") : QStringLiteral("Discharged"), &window);
-    plain->move(20, 20); // not below the mouse, which would show
-    plain->setFixedSize(100, 35);
-    plain->setFocusPolicy(Qt::NoFocus);
-    plain->setStyleSheet(charged ? green : red);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QCOMPARE(picture, plain->grab().toImage());
-}
-
-void BatteryCardTest::aSetterRefreshesItsLabel_data()
-{
-    using Setter = std::function<void(BatteryWidget &)>;
-    QTest::addColumn<Setter>("set");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("text");
-
-    const auto row = [](const char *tag, const char *name, const char *text, const Setter &set) {
-        QTest::newRow(tag) << set << name << text;
-    };
-    row("capacity", "lbl_capacity", "2200mAh", [](BatteryWidget &card) { card.setBatteryCapacity(2200); });
-    row("no capacity", "lbl_capacity", "0mAh", [](BatteryWidget &card) { card.setBatteryCapacity(0); });
-    row("largest capacity", "lbl_capacity", "4294967295mAh",
-        [](BatteryWidget &card) { card.setBatteryCapacity(4294967295U); });
-    row("cycles", "lbl_cycles", "12", [](BatteryWidget &card) { card.setBatteryCycles(12); });
-    row("no cycles", "lbl_cycles", "0", [](BatteryWidget &card) { card.setBatteryCycles(0); });
-    row("discharged", "lbl_discharged", "1760mAh",
-        [](BatteryWidget &card) { card.setBatteryLastDischarged(1760); });
-    row("current", "lbl_maxCurrent", "45.50A",
-        [](BatteryWidget &card) { card.setBatteryLastMaxCurrent(4550); });
-    row("rating", "lbl_rate", "25C", [](BatteryWidget &card) { card.setBatteryRating(25); });
-    row("charge rate alone", "lbl_rate", "0C/1.5C",
-        [](BatteryWidget &card) { card.setBatteryChargeRate(15); });
-    row("charge rate 0", "lbl_rate", "30C", [](BatteryWidget &card) { card.setBatteryChargeRate(0); });
-    row("last use", "lbl_dateTime", "Sun Nov 15 12:04:22 2026", [](BatteryWidget &card) {
-        card.setLastUpdated(QDateTime(QDate(2026, 11, 15), QTime(12, 4, 22, 345)));
-    });
-    row("never used", "lbl_dateTime", "", [](BatteryWidget &card) { card.setLastUpdated(QDateTime()); });
-}
-
-void BatteryCardTest::aSetterRefreshesItsLabel()
-{
-    QFETCH(std::function<void(BatteryWidget &)>, set);
-    QFETCH(QString, name);
-    BatteryWidget card;
-    set(card);
-    QTEST(find(card, qPrintable(name))->text(), "text");
-}
-
-void BatteryCardTest::theNameIsShownAsItStands()
-{
-    BatteryWidget card;
-    for (QString name :
-         {QStringLiteral("Pack A"), QStringLiteral("<b>R&D</b> & %1"), QStringLiteral("  "), QString()}) {
-        card.setBatteryName(name);
-        QCOMPARE(find(card, "lbl_name")->text(), name);
-    }
-    QString markup = QStringLiteral("<b>X</b>");
-    QString plain = QStringLiteral("X");
-    card.setBatteryName(markup);
-    const int withMarkup = find(card, "lbl_name")->sizeHint().width();
-    card.setBatteryName(plain);
-    QVERIFY(withMarkup > find(card, "lbl_name")->sizeHint().width());
-}
-
-void BatteryCardTest::thePurchaseDateIsNotShown()
-{
-    BatteryWidget card;
-    QDate date(2025, 3, 9);
-    card.setDateOfPurchase(date);
-    const QList<QLabel *> labels = card.findChildren<QLabel *>();
-    for (const QLabel *label : labels)
-        QVERIFY2(!label->text().contains(QStringLiteral("2025")), qPrintable(label->objectName()));
-    QCOMPARE(labels.size(), 11);
-}
-
-void BatteryCardTest::theRatesShareOneLabel()
-{
-    BatteryWidget card;
-    const QLabel *label = find(card, "lbl_rate");
-    card.setBatteryRating(25);
-    card.setBatteryChargeRate(0);
-    QCOMPARE(label->text(), QStringLiteral("25C"));
-    card.setBatteryChargeRate(20);
-    QCOMPARE(label->text(), QStringLiteral("25C/2.0C"));
-    card.setBatteryRating(40);
-    QCOMPARE(label->text(), QStringLiteral("40C/2.0C"));
-}
-
-void BatteryCardTest::numbersAreNotGroupedInAnyLanguage()
-{
-    const QLocale before;
-    QLocale::setDefault(QLocale(QLocale::German));
-    BatteryWidget card;
-    card.setBatteryCapacity(1234567);
-    card.setBatteryLastMaxCurrent(123456705);
-    card.setLastUpdated(QDateTime(QDate(2026, 10, 6), QTime(8, 0)));
-    QLocale::setDefault(before);
-    QCOMPARE(find(card, "lbl_capacity")->text(), QStringLiteral("1234567mAh"));
-    QCOMPARE(find(card, "lbl_maxCurrent")->text(), QStringLiteral("1234567.5A"));
-    QCOMPARE(find(card, "lbl_dateTime")->text(), QStringLiteral("Tue Oct 6 08:00:00 2026"));
-}
-
-void BatteryCardTest::theButtonShowsTheChargeState()
-{
-    BatteryWidget card;
-    const auto *button = find<QPushButton>(card, "pushButton");
-    card.setBatteryCharged(true, false);
-    QCOMPARE(button->text(), QStringLiteral("Charged"));
-    QCOMPARE(button->styleSheet(), green); // light blue on bright green is meant
-    card.setBatteryCharged(false, false);
-    QCOMPARE(button->text(), QStringLiteral("Discharged"));
-    QCOMPARE(button->styleSheet(), red);
+    QCOMPARE(form.label_6->text(), u"Last use:"_s);
 }
 
 void BatteryCardTest::theSimpleModeHidesTheFiguresOfTheLastDischarge()
@@ -555,48 +291,6 @@ void BatteryCardTest::anotherModeIsStoredAndChangesNothingShown()
     QCOMPARE(static_cast<int>(card.getViewMode()), other);
     for (const char *name : details)
         QCOMPARE(find(card, name)->isHidden(), before == 0);
-}
-
-void BatteryCardTest::theCaptionsAndTheButtonFollowTheLanguage()
-{
-    BatteryWidget card;
-    QString name = QStringLiteral("Pack A");
-    card.setBatteryName(name);
-    card.setBatteryCapacity(2200);
-    card.setBatteryCharged(true, false);
-    card.setViewMode(BatteryWidget::Complex);
-
-    BracketTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    QCoreApplication::processEvents();
-    QCOMPARE(find(card, "label_6")->text(), QStringLiteral("<Last use:>"));
-    QCOMPARE(find(card, "lbl_discharged_label")->text(), QStringLiteral("<Discharged:>"));
-    QCOMPARE(find(card, "lbl_maxCurrent_label")->text(), QStringLiteral("<Max. Current:>"));
-    QCOMPARE(find(card, "label")->text(), QStringLiteral("<Cycles:>"));
-    QCOMPARE(card.windowTitle(), QStringLiteral("<BatteryWidget>"));
-    QCOMPARE(find<QPushButton>(card, "pushButton")->text(), QStringLiteral("<Charged>"));
-    QCOMPARE(find<QPushButton>(card, "pushButton")->styleSheet(), green);
-    QCOMPARE(find(card, "lbl_name")->text(), QStringLiteral("Pack A"));
-    QCOMPARE(find(card, "lbl_capacity")->text(), QStringLiteral("2200mAh"));
-    QVERIFY(!find(card, "lbl_discharged")->isHidden());
-
-    card.setBatteryCharged(false, false);
-    QCOMPARE(find<QPushButton>(card, "pushButton")->text(), QStringLiteral("<Discharged>"));
-    QVERIFY(QCoreApplication::removeTranslator(&translator));
-    QCoreApplication::processEvents();
-    QCOMPARE(find<QPushButton>(card, "pushButton")->text(), QStringLiteral("Discharged"));
-    QCOMPARE(find(card, "label")->text(), QStringLiteral("Cycles:"));
-}
-
-void BatteryCardTest::thePlaceholderOfTheButtonOutlivesAChangeOfLanguage()
-{
-    BatteryWidget card;
-    BracketTranslator translator;
-    QVERIFY(QCoreApplication::installTranslator(&translator));
-    QCoreApplication::processEvents();
-    QCOMPARE(find<QPushButton>(card, "pushButton")->text(), QStringLiteral("Text"));
-    QCOMPARE(find(card, "lbl_rate")->text(), QStringLiteral("30C"));
-    QVERIFY(QCoreApplication::removeTranslator(&translator));
 }
 
 QTEST_MAIN(BatteryCardTest)

@@ -12,6 +12,8 @@
 #include <climits>
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
+
 class BatteryWidgetTest : public QObject
 {
     Q_OBJECT
@@ -66,7 +68,7 @@ void addEntry(BatteryWidget &battery, QDateTime when, unsigned int discharged, u
 
 void BatteryWidgetTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
+    QTest::failOnWarning(QRegularExpression(u".?"_s));
 }
 
 void BatteryWidgetTest::aNewBatteryHasNoFiguresAndIsDischarged()
@@ -93,7 +95,7 @@ void BatteryWidgetTest::aNewBatteryHasNoFiguresAndIsDischarged()
 void BatteryWidgetTest::settersStoreWhatTheyAreGiven()
 {
     BatteryWidget battery;
-    QString name = QStringLiteral("Pack A");
+    QString name = u"Pack A"_s;
     QDate purchase(2025, 3, 9);
     battery.setBatteryName(name);
     battery.setBatteryCapacity(2200);
@@ -105,7 +107,7 @@ void BatteryWidgetTest::settersStoreWhatTheyAreGiven()
     battery.setDateOfPurchase(purchase);
     battery.setLastUpdated(noon);
 
-    QCOMPARE(battery.getBatteryName(), QStringLiteral("Pack A"));
+    QCOMPARE(battery.getBatteryName(), u"Pack A"_s);
     QCOMPARE(battery.getBatteryCapacity(), 2200U);
     QCOMPARE(battery.getBatteryRating(), 25U);
     QCOMPARE(battery.getBatteryCycles(), 12U);
@@ -114,7 +116,7 @@ void BatteryWidgetTest::settersStoreWhatTheyAreGiven()
     QCOMPARE(battery.getBatteryChargeRate(), 15U);
     QCOMPARE(battery.getdateOfPurchase(), QDate(2025, 3, 9));
     QCOMPARE(battery.getBatteryLastUpdated(), noon); // to the millisecond
-    QCOMPARE(name, QStringLiteral("Pack A"));
+    QCOMPARE(name, u"Pack A"_s);
 }
 
 void BatteryWidgetTest::settersTakeAnyNumberUnchanged()
@@ -141,7 +143,7 @@ void BatteryWidgetTest::settersEmitNothing()
     BatteryWidget battery;
     QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
     QSignalSpy asked(&battery, &BatteryWidget::chargeBatteryClicked);
-    QString name = QStringLiteral("Pack A");
+    QString name = u"Pack A"_s;
     QDate purchase(2025, 3, 9);
     battery.setBatteryName(name);
     battery.setBatteryCapacity(1);
@@ -164,7 +166,7 @@ void BatteryWidgetTest::theChargeRateCannotBeClearedOnPurpose()
     battery.setBatteryChargeRate(15);
     battery.setBatteryChargeRate(0);
     QCOMPARE(battery.getBatteryChargeRate(), 15U);
-    QCOMPARE(labelText(battery, "lbl_rate"), QStringLiteral("30C/1.5C"));
+    QCOMPARE(labelText(battery, "lbl_rate"), u"30C/1.5C"_s);
 }
 
 void BatteryWidgetTest::theMetaTypeSystemCreatesAndDestroysABattery()
@@ -221,8 +223,8 @@ void BatteryWidgetTest::loadingAChargeStateTouchesOnlyTheFlagAndTheButton()
     battery.setBatteryCharged(charged, false);
 
     QCOMPARE(battery.getBatteryCharged(), charged);
-    const auto *button = battery.findChild<QPushButton *>(QStringLiteral("pushButton"));
-    QCOMPARE(button->text(), charged ? QStringLiteral("Charged") : QStringLiteral("Discharged"));
+    const auto *button = battery.findChild<QPushButton *>(u"pushButton"_s);
+    QCOMPARE(button->text(), charged ? u"Charged"_s : u"Discharged"_s);
     QCOMPARE(battery.getBatteryCycles(), 4U);
     QCOMPARE(battery.getBatteryLastUpdated(), noon);
     QCOMPARE(battery.getDates().size(), 1);
@@ -247,7 +249,7 @@ void BatteryWidgetTest::aUsersDischargeCountsACycleAndLeavesAnEmptyEntry()
     const QDateTime after = QDateTime::currentDateTime();
     QVERIFY(!battery.getBatteryCharged());
     QCOMPARE(battery.getBatteryCycles(), 5U);
-    QCOMPARE(labelText(battery, "lbl_cycles"), QStringLiteral("5"));
+    QCOMPARE(labelText(battery, "lbl_cycles"), u"5"_s);
     QCOMPARE(battery.getDates().size(), 2);
     QVERIFY(battery.getDates().at(1) >= before && battery.getDates().at(1) <= after);
     QCOMPARE(battery.getDischarges(), (QList<unsigned int>{1200, 0}));
@@ -285,7 +287,7 @@ void BatteryWidgetTest::theTimeIsStampedBeforeTheChangeIsAnnounced()
         ++announced;
         QVERIFY(battery.getBatteryCharged());
         QVERIFY(battery.getBatteryLastUpdated().isValid());
-        QCOMPARE(battery.findChild<QPushButton *>()->text(), QStringLiteral("Charged"));
+        QCOMPARE(battery.findChild<QPushButton *>()->text(), u"Charged"_s);
     });
     battery.setBatteryCharged(true, true);
     QCOMPARE(announced, 1);
@@ -328,9 +330,9 @@ void BatteryWidgetTest::theChargeStateAlternates()
     auto *button = battery.findChild<QPushButton *>();
     for (int i = 0; i < 3; ++i) {
         QTest::mouseClick(button, Qt::LeftButton);
-        QCOMPARE(button->text(), QStringLiteral("Charged"));
+        QCOMPARE(button->text(), u"Charged"_s);
         QTest::mouseClick(button, Qt::LeftButton);
-        QCOMPARE(button->text(), QStringLiteral("Discharged"));
+        QCOMPARE(button->text(), u"Discharged"_s);
     }
 }
 
@@ -345,8 +347,8 @@ void BatteryWidgetTest::aFullEntryIsAppendedToTheThreeLists()
     QCOMPARE(battery.getCurrents(), QList<unsigned int>{4550});
     QCOMPARE(battery.getBatteryLastDischarged(), 1200U);
     QCOMPARE(battery.getBatteryLastMaxCurrent(), 4550U);
-    QCOMPARE(labelText(battery, "lbl_discharged"), QStringLiteral("1200mAh"));
-    QCOMPARE(labelText(battery, "lbl_maxCurrent"), QStringLiteral("45.50A"));
+    QCOMPARE(labelText(battery, "lbl_discharged"), u"1200mAh"_s);
+    QCOMPARE(labelText(battery, "lbl_maxCurrent"), u"45.50A"_s);
     QCOMPARE(battery.getBatteryCycles(), 0U);
     QVERIFY(battery.getBatteryLastUpdated().isNull());
     QCOMPARE(changed.count(), 0);
@@ -363,8 +365,8 @@ void BatteryWidgetTest::aSimpleEntryHasNoMeasurements()
     QCOMPARE(battery.getCurrents(), (QList<unsigned int>{4550, 0}));
     QCOMPARE(battery.getBatteryLastDischarged(), 0U);
     QCOMPARE(battery.getBatteryLastMaxCurrent(), 0U);
-    QCOMPARE(labelText(battery, "lbl_discharged"), QStringLiteral("0mAh"));
-    QCOMPARE(labelText(battery, "lbl_maxCurrent"), QStringLiteral("0.0A"));
+    QCOMPARE(labelText(battery, "lbl_discharged"), u"0mAh"_s);
+    QCOMPARE(labelText(battery, "lbl_maxCurrent"), u"0.0A"_s);
 }
 
 void BatteryWidgetTest::notifyingEntriesAnnounceOneChange_data()
@@ -401,7 +403,7 @@ void BatteryWidgetTest::theListsAreCompleteWhenTheChangeIsAnnounced()
         QCOMPARE(battery.getDischarges().size(), 1);
         QCOMPARE(battery.getCurrents().size(), 1);
         QCOMPARE(battery.getBatteryLastMaxCurrent(), 7U);
-        QCOMPARE(labelText(battery, "lbl_maxCurrent"), QStringLiteral("0.7A"));
+        QCOMPARE(labelText(battery, "lbl_maxCurrent"), u"0.7A"_s);
     });
     QDateTime when = noon;
     battery.addFullEntry(when, 1, 7, true);

@@ -10,6 +10,8 @@
 #include <memory>
 #include <type_traits>
 
+using namespace Qt::Literals::StringLiterals;
+
 class ModelWidgetTest : public QObject
 {
     Q_OBJECT
@@ -54,9 +56,9 @@ LogData flight(int number)
     LogData entry;
     entry.date = QDateTime(QDate(2026, 5, 1).addDays(number), QTime(14, 30, 15));
     entry.duration = QTime(0, 7, number);
-    entry.location = QStringLiteral("Field %1").arg(number);
+    entry.location = u"Field %1"_s.arg(number);
     entry.temperature = -number;
-    entry.notes = QStringLiteral("Note %1").arg(number);
+    entry.notes = u"Note %1"_s.arg(number);
     return entry;
 }
 
@@ -84,7 +86,7 @@ bool same(const LogData &left, const LogData &right)
 
 void ModelWidgetTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
+    QTest::failOnWarning(QRegularExpression(u".?"_s));
 }
 
 void ModelWidgetTest::aNewModelIsEmpty()
@@ -119,8 +121,8 @@ void ModelWidgetTest::theFlightIsCopiedByValueFieldByField()
     const LogData original = flight(3);
     LogData copy(original);
     QVERIFY(same(copy, original));
-    copy.notes = QStringLiteral("other");
-    QCOMPARE(original.notes, QStringLiteral("Note 3"));
+    copy.notes = u"other"_s;
+    QCOMPARE(original.notes, u"Note 3"_s);
 
     LogData assigned;
     assigned = original;
@@ -132,29 +134,29 @@ void ModelWidgetTest::settersStoreWhatTheyAreGiven()
 {
     ModelWidget model;
     const QDateTime updated(QDate(2026, 11, 15), QTime(12, 4, 22, 345));
-    model.setModelName(QStringLiteral("MyHeli"));
-    model.setModelType(QStringLiteral("Heli"));
+    model.setModelName(u"MyHeli"_s);
+    model.setModelType(u"Heli"_s);
     model.setModelWeight(3250);
     model.setModelSize(700);
     model.setModelFlights(41);
     model.setLastUpdated(updated);
     model.setDateOfPurchase(QDate(2024, 2, 29));
-    model.setAdditionalNotes(QStringLiteral("two\nlines"));
+    model.setAdditionalNotes(u"two\nlines"_s);
 
-    QCOMPARE(model.getModelName(), QStringLiteral("MyHeli"));
-    QCOMPARE(model.getModelType(), QStringLiteral("Heli"));
+    QCOMPARE(model.getModelName(), u"MyHeli"_s);
+    QCOMPARE(model.getModelType(), u"Heli"_s);
     QCOMPARE(model.getModelWeight(), 3250U);
     QCOMPARE(model.getModelSize(), 700U);
     QCOMPARE(model.getModelFlights(), 41U);
     QCOMPARE(model.getLastUpdated(), updated);
     QCOMPARE(model.getDateOfPurchase(), QDate(2024, 2, 29));
-    QCOMPARE(model.getAdditionalNotes(), QStringLiteral("two\nlines"));
+    QCOMPARE(model.getAdditionalNotes(), u"two\nlines"_s);
 }
 
 void ModelWidgetTest::settersTakeAnyValueUnchanged()
 {
     ModelWidget model;
-    model.setModelName(QStringLiteral("  spaced\t"));
+    model.setModelName(u"  spaced\t"_s);
     model.setModelWeight(UINT_MAX);
     model.setModelSize(UINT_MAX);
     model.setModelFlights(UINT_MAX);
@@ -163,7 +165,7 @@ void ModelWidgetTest::settersTakeAnyValueUnchanged()
     model.setLastUpdated(QDateTime::currentDateTime());
     model.setLastUpdated(QDateTime());
 
-    QCOMPARE(model.getModelName(), QStringLiteral("  spaced\t"));
+    QCOMPARE(model.getModelName(), u"  spaced\t"_s);
     QCOMPARE(model.getModelWeight(), UINT_MAX);
     QCOMPARE(model.getModelSize(), UINT_MAX);
     QCOMPARE(model.getModelFlights(), UINT_MAX);
@@ -175,21 +177,21 @@ void ModelWidgetTest::nothingEmitsDataChanged()
 {
     ModelWidget model;
     QSignalSpy changed(&model, &ModelWidget::dataChanged);
-    model.setModelName(QStringLiteral("A"));
-    model.setModelType(QStringLiteral("B"));
+    model.setModelName(u"A"_s);
+    model.setModelType(u"B"_s);
     model.setModelWeight(1);
     model.setModelSize(2);
     model.setModelFlights(3);
     model.setLastUpdated(QDateTime::currentDateTime());
     model.setDateOfPurchase(QDate::currentDate());
-    model.setAdditionalNotes(QStringLiteral("C"));
+    model.setAdditionalNotes(u"C"_s);
     addFlights(model, 2);
     LogData out;
     model.getLatestLog(out);
     model.getPrevLog(out);
     model.getNextLog(out);
-    model.addBattery(QStringLiteral("D"));
-    model.removeBattery(QStringLiteral("D"));
+    model.addBattery(u"D"_s);
+    model.removeBattery(u"D"_s);
     QCOMPARE(changed.count(), 0);
 }
 
@@ -251,7 +253,7 @@ void ModelWidgetTest::addingAFlightCopiesItAndChangesNothingElse()
     model.setModelFlights(7);
     LogData entry = flight(2);
     model.addLogData(entry);
-    entry.notes = QStringLiteral("changed afterwards");
+    entry.notes = u"changed afterwards"_s;
     QVERIFY(same(model.getLogData().constFirst(), flight(2)));
     QCOMPARE(model.getModelFlights(), 7U);
     QVERIFY(model.getLastUpdated().isNull());
@@ -427,10 +429,10 @@ void ModelWidgetTest::theListOfFlightsIsTheRecordsOwn()
 void ModelWidgetTest::aBatteryIsAssignedOnce()
 {
     ModelWidget model;
-    model.addBattery(QStringLiteral("Pack B"));
-    model.addBattery(QStringLiteral("Pack A"));
-    model.addBattery(QStringLiteral("Pack B"));
-    QCOMPARE(model.getBatteries(), (QList<QString>{QStringLiteral("Pack B"), QStringLiteral("Pack A")}));
+    model.addBattery(u"Pack B"_s);
+    model.addBattery(u"Pack A"_s);
+    model.addBattery(u"Pack B"_s);
+    QCOMPARE(model.getBatteries(), (QList<QString>{u"Pack B"_s, u"Pack A"_s}));
 }
 
 void ModelWidgetTest::batteriesAreComparedExactly_data()
@@ -452,7 +454,7 @@ void ModelWidgetTest::batteriesAreComparedExactly()
     QFETCH(QString, name);
     QFETCH(bool, contained);
     ModelWidget model;
-    model.addBattery(QStringLiteral("Pack A"));
+    model.addBattery(u"Pack A"_s);
     QCOMPARE(model.containsBattery(name), contained);
     model.addBattery(name);
     QCOMPARE(model.getBatteries().size(), contained ? 1 : 2);
@@ -462,31 +464,29 @@ void ModelWidgetTest::batteriesAreComparedExactly()
 void ModelWidgetTest::removingABatteryRemovesEveryEqualName()
 {
     ModelWidget model;
-    model.getBatteries() = {QStringLiteral("A"), QStringLiteral("B"), QStringLiteral("A"),
-                            QStringLiteral("a")};
-    model.removeBattery(QStringLiteral("A"));
-    QCOMPARE(model.getBatteries(), (QList<QString>{QStringLiteral("B"), QStringLiteral("a")}));
-    QVERIFY(!model.containsBattery(QStringLiteral("A")));
+    model.getBatteries() = {u"A"_s, u"B"_s, u"A"_s, u"a"_s};
+    model.removeBattery(u"A"_s);
+    QCOMPARE(model.getBatteries(), (QList<QString>{u"B"_s, u"a"_s}));
+    QVERIFY(!model.containsBattery(u"A"_s));
 }
 
 void ModelWidgetTest::removingABatteryThatIsNotAssignedChangesNothing()
 {
     ModelWidget model;
-    model.removeBattery(QStringLiteral("A"));
+    model.removeBattery(u"A"_s);
     QVERIFY(model.getBatteries().isEmpty());
-    model.addBattery(QStringLiteral("A"));
-    model.removeBattery(QStringLiteral("A"));
-    model.removeBattery(QStringLiteral("A"));
+    model.addBattery(u"A"_s);
+    model.removeBattery(u"A"_s);
+    model.removeBattery(u"A"_s);
     QVERIFY(model.getBatteries().isEmpty());
 }
 
 void ModelWidgetTest::aNameOfTheListItselfCanBeRemoved()
 {
     ModelWidget model;
-    model.getBatteries() = {QStringLiteral("A"), QStringLiteral("A"), QStringLiteral("B"),
-                            QStringLiteral("A")};
+    model.getBatteries() = {u"A"_s, u"A"_s, u"B"_s, u"A"_s};
     model.removeBattery(model.getBatteries().first());
-    QCOMPARE(model.getBatteries(), QList<QString>{QStringLiteral("B")});
+    QCOMPARE(model.getBatteries(), QList<QString>{u"B"_s});
     model.addBattery(model.getBatteries().first());
     QCOMPARE(model.getBatteries().size(), 1);
 }
