@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window's rhythm: write the whole file, read it back, refill every chooser from what was read.
+#include "tests/support/datafile.h"
 #include "tests/support/logbookwindow.h"
 #include "tests/support/xml.h"
 
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void batteriesThatAreGoneStayInTheChoosersOnPurpose();
     void locationsStayInTheChoosersWhenAFileHasNoneOnPurpose();
     void theLocationsWrittenAreTheItemsOfTheDischargePage();
+    void aSaveWritesTheBytesThatWereLoaded();
     void everyReloadReadsTheFileAgain();
     void aSaveWithoutAStoragePathWritesNothing();
     void aSaveThatFailsIsNotReported();
@@ -238,6 +240,20 @@ void OverviewReloadTest::theLocationsWrittenAreTheItemsOfTheDischargePage()
     const qsizetype hill = bytes.indexOf("<Location Name=\"Hill\"/>");
     QVERIFY(0 < meadow && meadow < shore && shore < hill);
     QCOMPARE(bytes.count("<Location "), 3);
+}
+
+void OverviewReloadTest::aSaveWritesTheBytesThatWereLoaded()
+{
+    using namespace Test;
+    const QDateTime moment(QDate(2026, 11, 15), QTime(12, 4, 22));
+    const Battery flown{u"Ä <6S>"_s, true, {{moment, 1760, 5500}, {}}};
+    const Battery unknown{u"new"_s, false, {}, 0, 0, 0, 0, QDate(), QDateTime()};
+    const Model heli{
+        u"Heli"_s, {u"new"_s, u"none"_s}, {{moment, u"\"calm\"\n"_s, u"Hill"_s, QTime(), -5}, {}}};
+    const QByteArray bytes = document({{flown, unknown}, {heli, {}}, {u"Hill"_s, u"Hill & Dale"_s}});
+    window->load(bytes);
+    window->gui().writeDataWithDataprocessor();
+    QCOMPARE(window->fileBytes(), bytes);
 }
 
 void OverviewReloadTest::everyReloadReadsTheFileAgain()

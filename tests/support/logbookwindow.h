@@ -5,6 +5,7 @@
 #include "plugin/rotavexplugin.h"
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
+#include "tests/support/files.h"
 #include "ui_voltbokgui.h"
 
 #include <QDir>
@@ -44,10 +45,7 @@ public:
     /** Puts a data file into the folder and loads it. */
     void load(const QByteArray &xml)
     {
-        QFile file(filePath());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(xml);
-        file.close();
+        QVERIFY(Test::write(filePath(), xml));
         m_gui->changeStoragePath(folder());
     }
 
@@ -56,14 +54,10 @@ public:
     Ui_VoltbokGui &ui() { return *m_gui->ui; }
 
     QString folder() const { return m_folder.path(); }
-    QString filePath() const { return m_folder.filePath(QStringLiteral("voltbok.xml")); }
+    QString filePath() const { return Test::dataFile(folder()); }
 
-    /** The data file's bytes; empty when there is none. */
-    QByteArray fileBytes() const
-    {
-        QFile file(filePath());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    /** The data file's bytes. */
+    QByteArray fileBytes() const { return Test::contents(filePath()); }
 
     /** The battery with this name; null when there is none. */
     BatteryWidget *battery(const QString &name)

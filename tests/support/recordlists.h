@@ -4,9 +4,8 @@
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
 #include "storage/dataprocessor.h"
+#include "tests/support/files.h"
 
-#include <QDir>
-#include <QFile>
 #include <QStringList>
 
 /** The three lists that the data processor fills and writes, with the records in them. */
@@ -103,21 +102,12 @@ public:
     QList<QString> locations;
 };
 
-inline QString dataFile(const QString &directory)
-{
-    return QDir(directory).filePath(QStringLiteral("voltbok.xml"));
-}
-
-inline QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
-}
+using Test::contents;
+using Test::dataFile;
 
 inline bool writeFile(const QString &path, const QByteArray &bytes)
 {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+    return Test::write(path, bytes);
 }
 
 /** @p body as the content of the root element. */
