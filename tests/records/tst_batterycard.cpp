@@ -5,6 +5,7 @@
 
 #include <QFrame>
 #include <QGridLayout>
+#include <QMap>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTest>
@@ -19,13 +20,8 @@ private Q_SLOTS:
     void init();
     void theCardIsAtLeast260WideAndAtMost170High();
     void theCardCarriesItsNeutralProperties();
-    void theLabelsHaveTheirFontAndAlignment_data();
-    void theLabelsHaveTheirFontAndAlignment();
-    void theFramesHaveTheirShape_data();
-    void theFramesHaveTheirShape();
-    void theWidgetsLieInTheirCells_data();
-    void theWidgetsLieInTheirCells();
-    void theLayoutsHaveTheirSpacing();
+    void thePartsHaveTheirPlaceAndLook_data();
+    void thePartsHaveTheirPlaceAndLook();
     void theSpacersPushTheCardUpAndToTheLeft();
     void theFormWorksOnAnyWidget();
     void theSimpleModeHidesTheFiguresOfTheLastDischarge();
@@ -42,6 +38,80 @@ const char *const details[] = {"lbl_discharged_label", "lbl_discharged", "lbl_ma
                                "lbl_maxCurrent"};
 const char *const always[] = {"lbl_name",     "lbl_capacity", "lbl_rate",  "label_6",
                               "lbl_dateTime", "label",        "lbl_cycles"};
+
+/** The layout that holds @p widget and its place there, as "gridLayout 1 0 1 3". */
+QString placeOf(QWidget &widget)
+{
+    for (const QLayout *layout : widget.parentWidget()->findChildren<QLayout *>()) {
+        const int index = layout->indexOf(&widget);
+        if (index < 0)
+            continue;
+        const auto *grid = qobject_cast<const QGridLayout *>(layout);
+        if (!grid)
+            return u"%1 %2"_s.arg(layout->objectName()).arg(index);
+        int row = 0;
+        int column = 0;
+        int rows = 0;
+        int columns = 0;
+        grid->getItemPosition(index, &row, &column, &rows, &columns);
+        return u"%1 %2 %3 %4 %5"_s.arg(layout->objectName()).arg(row).arg(column).arg(rows).arg(columns);
+    }
+    return {};
+}
+
+/** The spacing and the margins of a layout whose margins are the same on all sides. */
+QString lookOf(const QLayout &layout)
+{
+    const auto *grid = qobject_cast<const QGridLayout *>(&layout);
+    const QString spacing = grid ? u"%1 %2"_s.arg(grid->horizontalSpacing()).arg(grid->verticalSpacing())
+                                 : QString::number(layout.spacing());
+    const int margin = layout.contentsMargins().left();
+    if (layout.contentsMargins() != QMargins(margin, margin, margin, margin))
+        return u"uneven margins"_s;
+    return u"spacing %1, margins %2"_s.arg(spacing).arg(margin);
+}
+
+QString lookOf(const QLabel &label)
+{
+    const QFont font = label.font();
+    const bool isDefault = font.pointSize() == QFont().pointSize();
+    QStringList look{isDefault ? u"default"_s : QString::number(font.pointSize())};
+    if (font.weight() == QFont::Bold)
+        look.append(u"bold"_s);
+    if (!label.isEnabled())
+        look.append(u"disabled"_s);
+    const Qt::Alignment alignment = label.alignment();
+    if (alignment == Qt::AlignCenter)
+        look.append(u"centre"_s);
+    if (alignment == (Qt::AlignRight | Qt::AlignVCenter))
+        look.append(u"right"_s);
+    if (alignment == (Qt::AlignLeft | Qt::AlignVCenter))
+        look.append(u"left"_s);
+    return look.join(u' ');
+}
+
+QString lookOf(const QFrame &frame)
+{
+    const QMap<QFrame::Shape, QString> shapes{
+        {QFrame::NoFrame, u"none"_s}, {QFrame::Box, u"box"_s}, {QFrame::HLine, u"line"_s}};
+    const QMap<QFrame::Shadow, QString> shadows{
+        {QFrame::Plain, u"plain"_s}, {QFrame::Raised, u"raised"_s}, {QFrame::Sunken, u"sunken"_s}};
+    QStringList look{shapes.value(frame.frameShape()), shadows.value(frame.frameShadow())};
+    if (frame.lineWidth() != 1)
+        look.append(QString::number(frame.lineWidth()));
+    return look.join(u' ');
+}
+
+/** What the form fixes of @p widget beside its text. */
+QString lookOf(const QWidget &widget)
+{
+    if (const auto *label = qobject_cast<const QLabel *>(&widget))
+        return lookOf(*label);
+    if (const auto *frame = qobject_cast<const QFrame *>(&widget))
+        return lookOf(*frame);
+    const QSize size = widget.minimumSize();
+    return size == widget.maximumSize() ? u"%1 %2"_s.arg(size.width()).arg(size.height()) : QString();
+}
 
 } // namespace
 
@@ -81,135 +151,49 @@ void BatteryCardTest::theCardCarriesItsNeutralProperties()
         QCOMPARE(card.property(name), QVariant(0U));
 }
 
-void BatteryCardTest::theLabelsHaveTheirFontAndAlignment_data()
+void BatteryCardTest::thePartsHaveTheirPlaceAndLook_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("points"); // 0: the default font
-    QTest::addColumn<bool>("bold");
-    QTest::addColumn<int>("alignment");
-
-    const int left = Qt::AlignLeft | Qt::AlignVCenter;
-    const int right = Qt::AlignRight | Qt::AlignVCenter;
-    QTest::newRow("name") << "lbl_name" << 10 << true << left;
-    QTest::newRow("capacity") << "lbl_capacity" << 10 << true << int(Qt::AlignCenter);
-    QTest::newRow("rate") << "lbl_rate" << 10 << true << int(Qt::AlignCenter);
-    QTest::newRow("caption of last use") << "label_6" << 8 << false << right;
-    QTest::newRow("last use") << "lbl_dateTime" << 8 << false << left;
-    QTest::newRow("caption of discharged") << "lbl_discharged_label" << 8 << false << right;
-    QTest::newRow("discharged") << "lbl_discharged" << 8 << false << left;
-    QTest::newRow("caption of current") << "lbl_maxCurrent_label" << 8 << false << right;
-    QTest::newRow("current") << "lbl_maxCurrent" << 0 << false << left;
-    QTest::newRow("caption of cycles") << "label" << 0 << false << right;
-    QTest::newRow("cycles") << "lbl_cycles" << 0 << false << left;
+    QTest::addColumn<QString>("part");
+    QTest::addColumn<QString>("place"); // its layout, row, column, row span and column span there
+    QTest::addColumn<QString>("look");
+    const auto row = [](const char *part, const char *place, const char *look) {
+        QTest::newRow(part) << QString::fromLatin1(part) << QString::fromLatin1(place)
+                            << QString::fromLatin1(look);
+    };
+    row("frame_3", "gridLayout_3 0 0 1 1", "box plain 2");
+    row("pushButton", "gridLayout 1 1 1 1", "100 35");
+    row("line", "gridLayout 2 0 1 3", "line sunken");
+    row("frame_2", "gridLayout 0 0 1 3", "none raised");
+    row("lbl_name", "horizontalLayout_2 0", "10 bold left");
+    row("lbl_capacity", "horizontalLayout_2 1", "10 bold centre");
+    row("lbl_rate", "horizontalLayout_2 2", "10 bold centre");
+    row("frame", "gridLayout 3 0 1 3", "none raised");
+    row("label_6", "gridLayout_2 0 0 1 1", "8 right");
+    row("lbl_dateTime", "gridLayout_2 0 1 1 1", "8 left");
+    row("label", "gridLayout_2 1 0 1 1", "default right");
+    row("lbl_cycles", "gridLayout_2 1 1 1 1", "default left");
+    row("lbl_discharged_label", "gridLayout_2 2 0 1 1", "8 right");
+    row("lbl_discharged", "gridLayout_2 2 1 1 1", "8 left");
+    row("lbl_maxCurrent_label", "gridLayout_2 3 0 1 1", "8 right");
+    row("lbl_maxCurrent", "gridLayout_2 3 1 1 1", "default left");
+    row("gridLayout_3", "BatteryWidget", "spacing 6 6, margins 0");
+    row("gridLayout", "frame_3", "spacing 0 10, margins 5");
+    row("horizontalLayout_2", "frame_2", "spacing 6, margins 0");
+    row("gridLayout_2", "frame", "spacing 5 2, margins 0");
 }
 
-void BatteryCardTest::theLabelsHaveTheirFontAndAlignment()
+void BatteryCardTest::thePartsHaveTheirPlaceAndLook()
 {
-    QFETCH(QString, name);
-    QFETCH(int, points);
-    QFETCH(bool, bold);
-    QFETCH(int, alignment);
+    QFETCH(QString, part);
     BatteryWidget card;
-    const QLabel *label = find(card, qPrintable(name));
-    QCOMPARE(label->font().pointSize(), points == 0 ? QFont().pointSize() : points);
-    QCOMPARE(label->font().bold(), bold);
-    QCOMPARE(label->font().weight(), bold ? QFont::Bold : QFont::Normal);
-    QCOMPARE(int(label->alignment() & ~Qt::AlignLeading), alignment & ~int(Qt::AlignLeading));
-    QVERIFY(label->isEnabled());
-}
-
-void BatteryCardTest::theFramesHaveTheirShape_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<int>("shape");
-    QTest::addColumn<int>("shadow");
-    QTest::newRow("the card's border") << "frame_3" << int(QFrame::Box) << int(QFrame::Plain);
-    QTest::newRow("line") << "line" << int(QFrame::HLine) << int(QFrame::Sunken);
-    QTest::newRow("top row") << "frame_2" << int(QFrame::NoFrame) << int(QFrame::Raised);
-    QTest::newRow("figures") << "frame" << int(QFrame::NoFrame) << int(QFrame::Raised);
-}
-
-void BatteryCardTest::theFramesHaveTheirShape()
-{
-    QFETCH(QString, name);
-    BatteryWidget card;
-    const auto *frame = find<QFrame>(card, qPrintable(name));
-    QTEST(int(frame->frameShape()), "shape");
-    QTEST(int(frame->frameShadow()), "shadow");
-    QCOMPARE(find<QFrame>(card, "frame_3")->lineWidth(), 2);
-}
-
-void BatteryCardTest::theWidgetsLieInTheirCells_data()
-{
-    QTest::addColumn<QString>("layout");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QRect>("cell"); // column, row, column span, row span
-
-    QTest::newRow("border") << "gridLayout_3"
-                            << "frame_3" << QRect(0, 0, 1, 1);
-    QTest::newRow("top row") << "gridLayout"
-                             << "frame_2" << QRect(0, 0, 3, 1);
-    QTest::newRow("button") << "gridLayout"
-                            << "pushButton" << QRect(1, 1, 1, 1);
-    QTest::newRow("line") << "gridLayout"
-                          << "line" << QRect(0, 2, 3, 1);
-    QTest::newRow("figures") << "gridLayout"
-                             << "frame" << QRect(0, 3, 3, 1);
-    QTest::newRow("caption of last use") << "gridLayout_2"
-                                         << "label_6" << QRect(0, 0, 1, 1);
-    QTest::newRow("last use") << "gridLayout_2"
-                              << "lbl_dateTime" << QRect(1, 0, 1, 1);
-    QTest::newRow("caption of cycles") << "gridLayout_2"
-                                       << "label" << QRect(0, 1, 1, 1);
-    QTest::newRow("cycles") << "gridLayout_2"
-                            << "lbl_cycles" << QRect(1, 1, 1, 1);
-    QTest::newRow("caption of discharged") << "gridLayout_2"
-                                           << "lbl_discharged_label" << QRect(0, 2, 1, 1);
-    QTest::newRow("discharged") << "gridLayout_2"
-                                << "lbl_discharged" << QRect(1, 2, 1, 1);
-    QTest::newRow("caption of current") << "gridLayout_2"
-                                        << "lbl_maxCurrent_label" << QRect(0, 3, 1, 1);
-    QTest::newRow("current") << "gridLayout_2"
-                             << "lbl_maxCurrent" << QRect(1, 3, 1, 1);
-}
-
-void BatteryCardTest::theWidgetsLieInTheirCells()
-{
-    QFETCH(QString, layout);
-    QFETCH(QString, name);
-    BatteryWidget card;
-    const auto *grid = card.findChild<QGridLayout *>(layout);
-    QVERIFY(grid);
-    const int index = grid->indexOf(find<QWidget>(card, qPrintable(name)));
-    QVERIFY(index >= 0);
-    int row = -1;
-    int column = -1;
-    int rowSpan = -1;
-    int columnSpan = -1;
-    grid->getItemPosition(index, &row, &column, &rowSpan, &columnSpan);
-    QTEST(QRect(column, row, columnSpan, rowSpan), "cell");
-}
-
-void BatteryCardTest::theLayoutsHaveTheirSpacing()
-{
-    BatteryWidget card;
-    const auto *outer = card.findChild<QGridLayout *>(u"gridLayout_3"_s);
-    QCOMPARE(outer->spacing(), 6);
-    QCOMPARE(outer->contentsMargins(), QMargins());
-    const auto *border = card.findChild<QGridLayout *>(u"gridLayout"_s);
-    QCOMPARE(border->horizontalSpacing(), 0);
-    QCOMPARE(border->verticalSpacing(), 10);
-    QCOMPARE(border->contentsMargins(), QMargins(5, 5, 5, 5));
-    const auto *top = card.findChild<QHBoxLayout *>(u"horizontalLayout_2"_s);
-    QCOMPARE(top->spacing(), 6);
-    QCOMPARE(top->contentsMargins(), QMargins());
-    QCOMPARE(top->itemAt(0)->widget()->objectName(), u"lbl_name"_s);
-    QCOMPARE(top->itemAt(1)->widget()->objectName(), u"lbl_capacity"_s);
-    QCOMPARE(top->itemAt(2)->widget()->objectName(), u"lbl_rate"_s);
-    const auto *figures = card.findChild<QGridLayout *>(u"gridLayout_2"_s);
-    QCOMPARE(figures->horizontalSpacing(), 5);
-    QCOMPARE(figures->verticalSpacing(), 2);
-    QCOMPARE(figures->contentsMargins(), QMargins());
+    if (const auto *layout = card.findChild<QLayout *>(part)) {
+        QTEST(layout->parentWidget()->objectName(), "place");
+        QTEST(lookOf(*layout), "look");
+        return;
+    }
+    auto *widget = find<QWidget>(card, qPrintable(part));
+    QTEST(placeOf(*widget), "place");
+    QTEST(lookOf(*widget), "look");
 }
 
 void BatteryCardTest::theSpacersPushTheCardUpAndToTheLeft()
