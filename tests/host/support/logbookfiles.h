@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/safety/backups.h"
+#include "tests/support/zone.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,36 +11,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <ctime>
-
 inline mode_t modeOf(const QString &path)
 {
     struct stat status = {};
     stat(QFile::encodeName(path), &status);
     return status.st_mode & 07777;
 }
-
-/** While it lives, the clocks of this process show the time of another zone. */
-class Zone
-{
-    Q_DISABLE_COPY_MOVE(Zone)
-
-public:
-    explicit Zone(const QByteArray &name)
-        : m_before(qgetenv("TZ"))
-    {
-        set(name);
-    }
-    ~Zone() { set(m_before); }
-
-private:
-    static void set(const QByteArray &name)
-    {
-        qputenv("TZ", name);
-        tzset();
-    }
-    const QByteArray m_before;
-};
 
 /** While it lives, files that this process makes lack these rights. */
 class Umask
