@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The two-state cycle of a battery: charge, discharge with its flight, charge.
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
+#include "tests/support/samples.h"
 
 #include <QSignalSpy>
 #include <QTimer>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace Test;
 
 class CaptureTest : public QObject
 {
@@ -44,16 +47,9 @@ private:
 };
 
 namespace {
-QByteArray hangar()
-{
-    return Xml::file(Xml::locations({"Meadow", "Hill"}) + Xml::battery("Pack", true) +
-                     Xml::battery("Spare", true) + Xml::battery("Flat") +
-                     Xml::model("Heli", {"Pack", "Flat"}) + Xml::model("Plane", {"Spare"}));
-}
-
 QPushButton *buttonOf(BatteryWidget *card)
 {
-    return card->findChild<QPushButton *>(QStringLiteral("pushButton"));
+    return card->findChild<QPushButton *>(u"pushButton"_s);
 }
 
 QLineEdit *fieldOf(QAbstractSpinBox *box)
@@ -75,7 +71,7 @@ void CaptureTest::cleanup()
 
 void CaptureTest::loadInFullMode(const QByteArray &xml)
 {
-    RotavexPlugin::rotavexSettings->setValue(QStringLiteral("SETTINGS/voltbok"), QStringLiteral("Complex"));
+    LogbookWindow::storeFullMode();
     window->load(xml);
 }
 
@@ -94,16 +90,16 @@ void CaptureTest::aClickOnADischargedCardOnlyMarksItCharged()
     else
         window->load(hangar());
     BatteryWidget *card = window->battery("Flat");
-    QCOMPARE(buttonOf(card)->text(), QStringLiteral("Discharged"));
+    QCOMPARE(buttonOf(card)->text(), u"Discharged"_s);
     const QDateTime before = QDateTime::currentDateTime();
     window->clickCard(card);
 
     QVERIFY(card->getBatteryCharged());
-    QCOMPARE(buttonOf(card)->text(), QStringLiteral("Charged"));
-    QVERIFY(buttonOf(card)->styleSheet().contains(QStringLiteral("rgb(0, 255, 0)")));
+    QCOMPARE(buttonOf(card)->text(), u"Charged"_s);
+    QVERIFY(buttonOf(card)->styleSheet().contains(u"rgb(0, 255, 0)"_s));
     QVERIFY(before <= card->getBatteryLastUpdated() &&
             card->getBatteryLastUpdated() <= QDateTime::currentDateTime());
-    QCOMPARE(card->getBatteryCycles(), 4U);
+    QCOMPARE(card->getBatteryCycles(), 7U);
     QVERIFY(card->getDates().isEmpty());
     QVERIFY(window->model("Heli")->getLogData().isEmpty());
     QCOMPARE(window->gui().currentPage, 0);
@@ -121,13 +117,13 @@ void CaptureTest::aClickOnAChargedCardRecordsFlightAndDischargeAtOnce()
     window->clickCard(card);
 
     QVERIFY(!card->getBatteryCharged());
-    QCOMPARE(buttonOf(card)->text(), QStringLiteral("Discharged"));
-    QVERIFY(buttonOf(card)->styleSheet().contains(QStringLiteral("rgb(255, 50, 0)")));
-    QCOMPARE(card->getBatteryCycles(), 5U);
+    QCOMPARE(buttonOf(card)->text(), u"Discharged"_s);
+    QVERIFY(buttonOf(card)->styleSheet().contains(u"rgb(255, 50, 0)"_s));
+    QCOMPARE(card->getBatteryCycles(), 8U);
     QCOMPARE(card->getDischarges(), QList<unsigned int>({1760}));
     QCOMPARE(card->getCurrents(), QList<unsigned int>({5500}));
     QCOMPARE(window->model("Heli")->getLogData().size(), 1);
-    QCOMPARE(window->model("Heli")->getModelFlights(), 0U);
+    QCOMPARE(window->model("Heli")->getModelFlights(), 12U);
     QVERIFY(window->model("Plane")->getLogData().isEmpty());
 
     QCOMPARE(pages.count(), 0); // the overview stays on show
@@ -138,7 +134,7 @@ void CaptureTest::aClickOnAChargedCardRecordsFlightAndDischargeAtOnce()
 
     window->clickCard(card); // and it is charged again
     QVERIFY(card->getBatteryCharged());
-    QCOMPARE(card->getBatteryCycles(), 5U);
+    QCOMPARE(card->getBatteryCycles(), 8U);
 }
 
 void CaptureTest::aDischargeSavesOnceAndStampsNothing()
@@ -170,10 +166,10 @@ void CaptureTest::inFullModeTheDischargePageComesFirst()
     QVERIFY(window->model("Heli")->getLogData().isEmpty());
     QCOMPARE(window->fileBytes(), hangar());
 
-    window->type(fieldOf(ui->sb_discharged_capacity), QStringLiteral("1500"));
+    window->type(fieldOf(ui->sb_discharged_capacity), u"1500"_s);
     window->click(ui->pb_save_discharged);
     QVERIFY(!card->getBatteryCharged());
-    QCOMPARE(card->getBatteryCycles(), 5U);
+    QCOMPARE(card->getBatteryCycles(), 8U);
     QCOMPARE(card->getDischarges(), QList<unsigned int>({1500}));
     QCOMPARE(card->getCurrents(), QList<unsigned int>({5500}));
     QCOMPARE(ui->stackedWidget->currentWidget(), ui->scrollLayout);
@@ -188,19 +184,19 @@ void CaptureTest::whatThePilotLeavesOnThePageIsRecorded()
     window->clickCard(window->battery("Pack"));
     ui->dedt_dischargeDate->setDate(QDate(2026, 11, 15));
     ui->tedt_dischargeTime->setTime(QTime(12, 4));
-    window->type(fieldOf(ui->dsb_discharged_current), QStringLiteral("45.5"));
-    window->choose(ui->cb_log_location, QStringLiteral("Hill"));
+    window->type(fieldOf(ui->dsb_discharged_current), u"45.5"_s);
+    window->choose(ui->cb_log_location, u"Hill"_s);
     ui->sb_log_duration->setTime(QTime(0, 6, 30));
-    window->type(fieldOf(ui->sb_log_temp), QStringLiteral("-20"));
-    QTest::keyClicks(ui->ptext_log_notes, QStringLiteral("Windy & <cold>"));
+    window->type(fieldOf(ui->sb_log_temp), u"-20"_s);
+    QTest::keyClicks(ui->ptext_log_notes, u"Windy & <cold>"_s);
     window->click(ui->pb_save_discharged);
 
     const LogData flight = lastFlight(window->model("Heli"));
     QCOMPARE(flight.date, QDateTime(QDate(2026, 11, 15), QTime(12, 4)));
-    QCOMPARE(flight.location, QStringLiteral("Hill"));
+    QCOMPARE(flight.location, u"Hill"_s);
     QCOMPARE(flight.duration, QTime(0, 6, 30));
     QCOMPARE(flight.temperature, -20);
-    QCOMPARE(flight.notes, QStringLiteral("Windy & <cold>"));
+    QCOMPARE(flight.notes, u"Windy & <cold>"_s);
     QCOMPARE(window->battery("Pack")->getDates(), QList<QDateTime>({flight.date}));
     QCOMPARE(window->battery("Pack")->getCurrents(), QList<unsigned int>({4550}));
     QVERIFY(window->fileBytes().contains(
@@ -210,8 +206,8 @@ void CaptureTest::whatThePilotLeavesOnThePageIsRecorded()
 
 void CaptureTest::leavingThePageWithTheMenuButtonRecordsNothing()
 {
-    loadInFullMode(Xml::file(Xml::battery("Pack", true) + Xml::battery("Spare", true) +
-                             Xml::model("Heli", {"Pack", "Spare"})));
+    loadInFullMode(document({{Battery{u"Pack"_s, true}, Battery{u"Spare"_s, true}},
+                             {Model{u"Heli"_s, {u"Pack"_s, u"Spare"_s}}}}));
     const QByteArray before = window->fileBytes();
     window->clickCard(window->battery("Pack"));
     window->click(ui->pb_options);
@@ -254,7 +250,7 @@ void CaptureTest::thePageProposesAUsualDischarge()
 {
     QFETCH(unsigned int, capacity);
     QFETCH(unsigned int, rating);
-    loadInFullMode(Xml::file(Xml::battery("Pack", true, capacity, rating)));
+    loadInFullMode(document({{Battery{u"Pack"_s, true, {}, capacity, 20, rating}}}));
     window->clickCard(window->battery("Pack"));
     QTEST(ui->sb_discharged_capacity->value(), "discharge");
     QTEST(ui->dsb_discharged_current->value(), "current");
@@ -286,10 +282,10 @@ void CaptureTest::theCurrentIsTruncatedToHundredthsOnPurpose()
 
 void CaptureTest::withoutAModelTheDischargeIsRecordedAlone()
 {
-    window->load(Xml::file(Xml::battery("Pack", true)));
+    window->load(document({{Battery{u"Pack"_s, true}}}));
     window->clickCard(window->battery("Pack"));
     QVERIFY(!window->battery("Pack")->getBatteryCharged());
-    QCOMPARE(window->battery("Pack")->getBatteryCycles(), 5U);
+    QCOMPARE(window->battery("Pack")->getBatteryCycles(), 8U);
     QCOMPARE(window->battery("Pack")->getDischarges(), QList<unsigned int>({1760}));
     QVERIFY(window->fileBytes().contains("<Cycle "));
     QVERIFY(!window->fileBytes().contains("<LogData"));
@@ -298,8 +294,8 @@ void CaptureTest::withoutAModelTheDischargeIsRecordedAlone()
 
 void CaptureTest::ofTwoModelsOfOneNameTheLaterGetsTheFlightOnPurpose()
 {
-    window->load(
-        Xml::file(Xml::battery("Pack", true) + Xml::model("Heli", {"Pack"}) + Xml::model("Heli", {"Pack"})));
+    window->load(document(
+        {{Battery{u"Pack"_s, true}}, {Model{u"Heli"_s, {u"Pack"_s}}, Model{u"Heli"_s, {u"Pack"_s}}}}));
     window->clickCard(window->battery("Pack"));
     QCOMPARE(window->gui().modelList.at(0)->getLogData().size(), 0);
     QCOMPARE(window->gui().modelList.at(1)->getLogData().size(), 1);
@@ -307,23 +303,24 @@ void CaptureTest::ofTwoModelsOfOneNameTheLaterGetsTheFlightOnPurpose()
 
 void CaptureTest::theNextQuickCaptureRepeatsTheFlightOnPurpose()
 {
-    window->load(Xml::file(Xml::locations({"Meadow", "Hill"}) + Xml::battery("Pack", true) +
-                           Xml::battery("Spare", true) + Xml::model("Heli", {"Pack", "Spare"})));
+    window->load(document({{Battery{u"Pack"_s, true}, Battery{u"Spare"_s, true}},
+                           {Model{u"Heli"_s, {u"Pack"_s, u"Spare"_s}}},
+                           {u"Meadow"_s, u"Hill"_s}}));
     window->battery("Pack")->setViewMode(BatteryWidget::Complex); // each card's own mode decides
     window->clickCard(window->battery("Pack"));
-    window->choose(ui->cb_log_location, QStringLiteral("Hill"));
+    window->choose(ui->cb_log_location, u"Hill"_s);
     ui->sb_log_duration->setTime(QTime(0, 7));
     ui->sb_log_temp->setValue(15);
-    ui->ptext_log_notes->setPlainText(QStringLiteral("Loops"));
+    ui->ptext_log_notes->setPlainText(u"Loops"_s);
     window->click(ui->pb_save_discharged);
     window->clickCard(window->battery("Spare"));
 
     QCOMPARE(window->model("Heli")->getLogData().size(), 2);
     for (const LogData &flight : window->model("Heli")->getLogData()) {
-        QCOMPARE(flight.location, QStringLiteral("Hill"));
+        QCOMPARE(flight.location, u"Hill"_s);
         QCOMPARE(flight.duration, QTime(0, 7));
         QCOMPARE(flight.temperature, 15);
-        QCOMPARE(flight.notes, QStringLiteral("Loops"));
+        QCOMPARE(flight.notes, u"Loops"_s);
     }
     QCOMPARE(window->battery("Spare")->getDischarges(),
              QList<unsigned int>({1760})); // these are proposed anew
@@ -331,7 +328,7 @@ void CaptureTest::theNextQuickCaptureRepeatsTheFlightOnPurpose()
 
 void CaptureTest::withoutLocationsAFlightHasNone()
 {
-    window->load(Xml::file(Xml::battery("Pack", true) + Xml::model("Heli", {"Pack"})));
+    window->load(document({{Battery{u"Pack"_s, true}}, {Model{u"Heli"_s, {u"Pack"_s}}}}));
     window->clickCard(window->battery("Pack"));
     QCOMPARE(lastFlight(window->model("Heli")).location, QString());
     QCOMPARE(lastFlight(window->model("Heli")).temperature, 0);
@@ -339,9 +336,9 @@ void CaptureTest::withoutLocationsAFlightHasNone()
 
 void CaptureTest::aCardConnectedTwiceRecordsASecondFlightOnPurpose()
 {
-    window->load(
-        Xml::file(Xml::battery("Pack", true) + Xml::model("Heli", {"Pack"}) + Xml::model("Plane", {"Pack"})));
-    window->choose(ui->cb_select_model, QStringLiteral("Plane"));
+    window->load(document(
+        {{Battery{u"Pack"_s, true}}, {Model{u"Heli"_s, {u"Pack"_s}}, Model{u"Plane"_s, {u"Pack"_s}}}}));
+    window->choose(ui->cb_select_model, u"Plane"_s);
     BatteryWidget *card = window->battery("Pack");
     window->clickCard(card);
 
@@ -349,7 +346,7 @@ void CaptureTest::aCardConnectedTwiceRecordsASecondFlightOnPurpose()
     QCOMPARE(flights.size(), 2);
     QVERIFY(flights.at(0).date <= flights.at(1).date);
     QCOMPARE(card->getDates(), QList<QDateTime>({flights.at(0).date}));
-    QCOMPARE(card->getBatteryCycles(), 5U);
+    QCOMPARE(card->getBatteryCycles(), 8U);
     QVERIFY(!card->getBatteryCharged());
     QCOMPARE(window->gui().currentPage, 12);
     QCOMPARE(window->gui().chargeBattery, card);
@@ -364,9 +361,9 @@ void CaptureTest::aCardConnectedTwiceRecordsASecondFlightOnPurpose()
 
 void CaptureTest::aCardConnectedTwiceShowsThePageOnce()
 {
-    loadInFullMode(
-        Xml::file(Xml::battery("Pack", true) + Xml::model("Heli", {"Pack"}) + Xml::model("Plane", {"Pack"})));
-    window->choose(ui->cb_select_model, QStringLiteral("Plane"));
+    loadInFullMode(document(
+        {{Battery{u"Pack"_s, true}}, {Model{u"Heli"_s, {u"Pack"_s}}, Model{u"Plane"_s, {u"Pack"_s}}}}));
+    window->choose(ui->cb_select_model, u"Plane"_s);
     window->clickCard(window->battery("Pack"));
     window->click(ui->pb_save_discharged);
     QCOMPARE(window->model("Plane")->getLogData().size(), 1);
@@ -394,7 +391,7 @@ void CaptureTest::aBatteryThatIsNotChargedIsNotDischarged()
     window->click(ui->pb_save_discharged);
     QCOMPARE(window->model("Heli")->getLogData().size(), 1);
     QVERIFY(card->getDates().isEmpty());
-    QCOMPARE(card->getBatteryCycles(), 4U);
+    QCOMPARE(card->getBatteryCycles(), 7U);
     QCOMPARE(window->gui().chargeBattery, card);
     QCOMPARE(window->gui().currentPage, 12);
     QCOMPARE(ui->stackedWidget->currentWidget(), ui->dischargeView);

@@ -41,10 +41,10 @@ struct Battery
 struct Flight
 {
     QDateTime date = {};
-    QString notes = {};
     QString location = u"Meadow"_s;
     QTime duration = QTime(0, 6, 30);
     int temperature = 21;
+    QString notes = {};
 };
 
 struct Model

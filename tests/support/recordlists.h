@@ -8,6 +8,8 @@
 
 #include <QStringList>
 
+using namespace Qt::Literals::StringLiterals;
+
 /** The three lists that the data processor fills and writes, with the records in them. */
 class RecordLists
 {
@@ -64,7 +66,7 @@ public:
             QStringList words{battery->getBatteryName(), QString::number(battery->getBatteryCapacity()),
                               QString::number(battery->getBatteryCycles())};
             if (battery->getBatteryCharged())
-                words.append(QStringLiteral("charged"));
+                words.append(u"charged"_s);
             for (unsigned int discharged : battery->getDischarges())
                 words.append(QLatin1Char('-') + QString::number(discharged));
             lines.append(words.join(QLatin1Char(' ')));
