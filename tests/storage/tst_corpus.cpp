@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class CorpusTest : public QObject
 {
     Q_OBJECT
@@ -41,7 +43,7 @@ void CorpusTest::whatIsLoadedIsSavedAndLoadedUnchanged_data()
 
 void CorpusTest::whatIsLoadedIsSavedAndLoadedUnchanged()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+    QTest::failOnWarning(QRegularExpression(u"."_s));
     QFETCH(QString, path);
     QFile file(path);
     QVERIFY(file.open(QIODevice::ReadOnly));
