@@ -104,14 +104,6 @@ public:
     QList<QString> locations;
 };
 
-using Test::contents;
-using Test::dataFile;
-
-inline bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    return Test::write(path, bytes);
-}
-
 /** @p body as the content of the root element. */
 inline QByteArray document(const QByteArray &body)
 {
