@@ -26,7 +26,7 @@ QByteArray small()
     const QDateTime second(QDate(2025, 4, 21), QTime(12, 56, 7));
     const QDateTime lastUse(QDate(2026, 11, 10), QTime(21, 9, 54));
     const QList<Test::Discharge> history{{first, 376, 1317}, {second, 322, 786}};
-    const Test::Flight calm{first, u"calm"_s, u"Süd"_s, {0, 5, 12}, 18};
+    const Test::Flight calm{first, u"Süd"_s, {0, 5, 12}, 18, u"calm"_s};
     return Test::document({{{u"3S"_s, true, history, 450, 20, 45, 42, {2025, 3, 14}, lastUse},
                             {u"4S"_s, false, {}, 800, 20, 45, 0, {}, {}}},
                            {{u"Wing"_s,

@@ -3,7 +3,6 @@
 
 #include <QLabel>
 #include <QString>
-#include <QTranslator>
 #include <QWidget>
 
 using namespace Qt::Literals::StringLiterals;
@@ -18,18 +17,5 @@ Widget *find(const QWidget &card, const char *name)
     Q_ASSERT(widget);
     return widget;
 }
-
-/** Turns every text of the card into the same text in angle brackets. */
-class BracketTranslator : public QTranslator
-{
-public:
-    QString translate(const char *context, const char *text, const char *, int) const override
-    {
-        if (qstrcmp(context, "BatteryWidget") != 0)
-            return {};
-        return u'<' + QLatin1StringView(text) + u'>';
-    }
-    bool isEmpty() const override { return false; }
-};
 
 } // namespace Card

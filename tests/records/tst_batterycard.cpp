@@ -2,12 +2,12 @@
 #include "records/batterywidget.h"
 #include "tests/records/card.h"
 #include "tests/support/rawcard.h"
+#include "tests/support/warnings.h"
 
 #include <QFrame>
 #include <QGridLayout>
 #include <QMap>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -117,8 +117,7 @@ QString lookOf(const QWidget &widget)
 
 void BatteryCardTest::init()
 {
-    // The offscreen platform itself remarks on every window that is shown.
-    QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
+    Test::failOnWarnings();
 }
 
 void BatteryCardTest::theCardIsAtLeast260WideAndAtMost170High()

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/batterywidget.h"
 #include "tests/records/card.h"
+#include "tests/support/warnings.h"
 
-#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -40,7 +40,7 @@ void addEntry(BatteryWidget &battery, QDateTime when, unsigned int discharged, u
 
 void BatteryHistoryTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
+    Test::failOnWarnings();
 }
 
 void BatteryHistoryTest::aFullEntryIsAppendedToTheThreeLists()

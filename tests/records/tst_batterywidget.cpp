@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/batterywidget.h"
 #include "tests/records/card.h"
+#include "tests/support/warnings.h"
 
 #include <QMetaEnum>
 #include <QMetaType>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -47,7 +47,7 @@ const QDateTime noon(QDate(2026, 7, 1), QTime(12, 0, 0, 500));
 
 void BatteryWidgetTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
+    Test::failOnWarnings();
 }
 
 void BatteryWidgetTest::aNewBatteryHasNoFiguresAndIsDischarged()

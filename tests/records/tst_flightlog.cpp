@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/modelwidget.h"
+#include "tests/support/warnings.h"
 
-#include <QRegularExpression>
 #include <QTest>
 
 #include <climits>
@@ -70,7 +70,7 @@ bool same(const LogData &left, const LogData &right)
 
 void FlightLogTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
+    Test::failOnWarnings();
 }
 
 void FlightLogTest::aNewFlightIsEmpty()

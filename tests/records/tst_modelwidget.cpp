@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/modelwidget.h"
+#include "tests/support/warnings.h"
 
 #include <QMetaType>
-#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -34,7 +34,7 @@ private Q_SLOTS:
 
 void ModelWidgetTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
+    Test::failOnWarnings();
 }
 
 void ModelWidgetTest::aNewModelIsEmpty()

@@ -4,8 +4,8 @@
 #include "storage/textdate.h"
 #include "storage/valuetext.h"
 #include "tests/support/recordlists.h"
+#include "tests/support/warnings.h"
 
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -108,7 +108,7 @@ void addGoldenCatalogue(RecordLists &catalogue)
 
 void DataFileTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
+    Test::failOnWarnings();
 }
 
 void DataFileTest::theFileLiesInTheBaseDirectory()

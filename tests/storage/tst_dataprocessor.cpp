@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // When the data processor reads and writes, and what it leaves behind.
 #include "tests/support/recordlists.h"
+#include "tests/support/warnings.h"
 
 #include <QFileInfo>
 #include <QMetaObject>
-#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -45,7 +45,7 @@ const QString packA = u"Pack A"_s;
 
 void DataProcessorTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
+    Test::failOnWarnings();
 }
 
 void DataProcessorTest::aNewProcessorHasAnEmptyBasePathAndItsParent()

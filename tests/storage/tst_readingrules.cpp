@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What is read from a data file, element by element.
 #include "tests/support/recordlists.h"
+#include "tests/support/warnings.h"
 
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -49,7 +49,7 @@ void loadBody(RecordLists &catalogue, const QByteArray &body)
 
 void ReadingRulesTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
+    Test::failOnWarnings();
 }
 
 void ReadingRulesTest::batteriesAreReadByTheRules_data()

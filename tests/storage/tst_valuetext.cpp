@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/textdate.h"
 #include "storage/valuetext.h"
+#include "tests/support/warnings.h"
 
-#include <QRegularExpression>
 #include <QTest>
 
 #include <climits>
@@ -43,7 +43,7 @@ private Q_SLOTS:
 
 void ValueTextTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(u".?"_s));
+    Test::failOnWarnings();
 }
 
 void ValueTextTest::numbersAreUnsignedDecimals_data()

@@ -100,8 +100,8 @@ QByteArray smallLogbook()
     const QDateTime first(QDate(2026, 10, 25), QTime(15, 40, 28));
     const QDateTime second = november(8, {11, 2, 10});
     const QList<Test::Discharge> history{{first, 1040, 2750}, {second, 990, 3100}};
-    const QList<Test::Flight> log{{first, u""_s, u"Club field"_s, {0, 8, 30}, 12},
-                                  {second, u"Calm"_s, u"Meadow"_s, {0, 7, 5}, 4}};
+    const QList<Test::Flight> log{{first, u"Club field"_s, {0, 8, 30}, 12, u""_s},
+                                  {second, u"Meadow"_s, {0, 7, 5}, 4, u"Calm"_s}};
     return Test::document(
         {{{u"3S A"_s, true, history, 1300, 20, 30, 2, bought, november(10, {21, 9, 54})},
           {u"3S B"_s, false, {}, 1300, 20, 30, 0, bought, november(9, {20, 0})},
