@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gui/voltbokgui.h"
 
+#include "gui/deleteall.h"
 #include "gui/selectonentry.h"
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
@@ -8,8 +9,6 @@
 
 #include <QEvent>
 #include <QRegularExpression>
-
-#include <utility>
 
 namespace {
 /** The fields that the user types into; the edits inside spin boxes are not among them. */
@@ -38,9 +37,9 @@ VoltbokGui::VoltbokGui(QWidget *parent)
 
 VoltbokGui::~VoltbokGui()
 {
-    delete ui; // no object with a parent; its widgets have one, and go with the window as the chart views do
-    qDeleteAll(std::exchange(batteryList, {}));
-    qDeleteAll(std::exchange(modelList, {}));
+    delete ui; // the form is no QObject that a parent could own; its widgets live on until the window goes
+    deleteAll(batteryList);
+    deleteAll(modelList);
 }
 
 void VoltbokGui::changeStoragePath(const QString &path)
