@@ -7,6 +7,7 @@
 #include "records/modelwidget.h"
 #include "ui_voltbokgui.h"
 
+#include <QChartView>
 #include <QEvent>
 #include <QRegularExpression>
 
@@ -40,6 +41,7 @@ VoltbokGui::~VoltbokGui()
     delete ui; // the form is no QObject that a parent could own; its widgets live on until the window goes
     deleteAll(batteryList);
     deleteAll(modelList);
+    delete chartView; // ahead of its parent: it is to be gone before the data processor is
 }
 
 void VoltbokGui::changeStoragePath(const QString &path)
