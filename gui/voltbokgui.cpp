@@ -9,13 +9,14 @@
 
 #include <QChartView>
 #include <QEvent>
-#include <QRegularExpression>
 
 namespace {
 /** The fields that the user types into; the edits inside spin boxes are not among them. */
 QList<QLineEdit *> typedFields(const QWidget *pages)
 {
-    return pages->findChildren<QLineEdit *>(QRegularExpression(QStringLiteral("^ledt_")));
+    QList<QLineEdit *> fields = pages->findChildren<QLineEdit *>();
+    fields.removeIf([](const QLineEdit *field) { return qobject_cast<QAbstractSpinBox *>(field->parent()); });
+    return fields;
 }
 } // namespace
 
