@@ -10,6 +10,8 @@
 #include <QChartView>
 #include <QEvent>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 /** The fields that the user types into; the edits inside spin boxes are not among them. */
 QList<QLineEdit *> typedFields(const QWidget *pages)
@@ -26,7 +28,7 @@ VoltbokGui::VoltbokGui(QWidget *parent)
     , dataProcessor(this)
 {
     ui->setupUi(this);
-    setWindowTitle(QStringLiteral("Rotavex 15.7.0 64-bit"));
+    setWindowTitle(u"Rotavex 15.7.0 64-bit"_s);
     // lbl_reallydelete_location stays visible on purpose: the first deletion of a location takes one click.
     ui->lbl_really->hide();
     ui->lbl_reallydelete_model->hide();
