@@ -2,6 +2,7 @@
 #include "gui/voltbokgui.h"
 
 #include "gui/deleteall.h"
+#include "gui/fieldtexts.h"
 #include "gui/selectonentry.h"
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
@@ -32,6 +33,8 @@ VoltbokGui::VoltbokGui(QWidget *parent)
     // lbl_reallydelete_location stays visible on purpose: the first deletion of a location takes one click.
     ui->lbl_really->hide();
     ui->lbl_reallydelete_model->hide();
+
+    FieldTexts::noteDefaults(typedFields(ui->stackedWidget));
 
     auto *selectOnEntry = new SelectOnEntry(this);
     const auto fields = typedFields(ui->stackedWidget);
@@ -68,25 +71,13 @@ void VoltbokGui::changeEvent(QEvent *event)
 
 void VoltbokGui::retranslate()
 {
-    struct Input
-    {
-        QLineEdit *field;
-        QString text;
-        int cursor;
-    };
-    QList<Input> inputs;
-    const auto fields = typedFields(ui->stackedWidget);
-    for (QLineEdit *field : fields)
-        inputs.append({field, field->text(), field->cursorPosition()});
     const QString title = windowTitle();
+    FieldTexts contents(typedFields(ui->stackedWidget));
 
-    ui->retranslateUi(this); // puts every field back to its first text and mask
+    ui->retranslateUi(this); // sets every text and mask anew
 
+    contents.restore();
     setWindowTitle(title);
-    for (const Input &input : std::as_const(inputs)) {
-        input.field->setText(input.text);
-        input.field->setCursorPosition(input.cursor);
-    }
     for (QPushButton *button : {ui->pb_deleteConfirm, ui->pb_deleteConfirm_model, ui->pb_del_location})
         showConfirmationText(button);
     if (chartView)
