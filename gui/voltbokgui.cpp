@@ -3,6 +3,7 @@
 
 #include "gui/deleteall.h"
 #include "gui/fieldtexts.h"
+#include "gui/sectiontyping.h"
 #include "gui/selectonentry.h"
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
@@ -35,11 +36,7 @@ VoltbokGui::VoltbokGui(QWidget *parent)
     ui->lbl_reallydelete_model->hide();
 
     FieldTexts::noteDefaults(typedFields(ui->stackedWidget));
-
-    auto *selectOnEntry = new SelectOnEntry(this);
-    const auto fields = typedFields(ui->stackedWidget);
-    for (QLineEdit *field : fields)
-        field->installEventFilter(selectOnEntry);
+    easeInput();
 }
 
 VoltbokGui::~VoltbokGui()
@@ -48,6 +45,19 @@ VoltbokGui::~VoltbokGui()
     deleteAll(batteryList);
     deleteAll(modelList);
     delete chartView; // ahead of its parent: it is to be gone before the data processor is
+}
+
+void VoltbokGui::easeInput()
+{
+    auto *selectOnEntry = new SelectOnEntry(this);
+    const auto lineEdits = ui->stackedWidget->findChildren<QLineEdit *>();
+    for (QLineEdit *field : lineEdits)
+        field->installEventFilter(selectOnEntry);
+
+    auto *sectionTyping = new SectionTyping(this);
+    const auto moments = ui->stackedWidget->findChildren<QDateTimeEdit *>();
+    for (QDateTimeEdit *moment : moments)
+        moment->installEventFilter(sectionTyping);
 }
 
 void VoltbokGui::changeStoragePath(const QString &path)

@@ -106,6 +106,7 @@ private:
     enum class OtherBatteries { Clear, Keep };
 
     void retranslate();
+    void easeInput();
 
     // navigation
     QWidget *widgetOf(Page::Id page) const;

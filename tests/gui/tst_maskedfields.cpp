@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/logbookwindow.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 /** Typing into the fields with masks as a hurried user does: click anywhere, or Tab, and type. */
 class MaskedFieldsTest : public QObject
 {
@@ -19,7 +21,10 @@ private Q_SLOTS:
     void aClickAnywhereLetsTypingReplaceTheContent_data();
     void aClickAnywhereLetsTypingReplaceTheContent();
     void tabLetsTypingReplaceTheContent();
-    void aSecondClickSetsTheCursor();
+    void everyLaterClickLetsTypingReplaceTheContent();
+    void aDoubleClickLetsTypingReplaceTheContent();
+    void draggingSelectsAPart();
+    void anotherMouseButtonSelectsNothing();
     void aFieldWithoutAMaskIsLeftToItself();
 
 private:
@@ -72,16 +77,45 @@ void MaskedFieldsTest::tabLetsTypingReplaceTheContent()
     QCOMPARE(field->text(), QStringLiteral("22"));
 }
 
-void MaskedFieldsTest::aSecondClickSetsTheCursor()
+void MaskedFieldsTest::everyLaterClickLetsTypingReplaceTheContent()
 {
     QLineEdit *field = m_window->ui().ledt_capacity;
-    const QPoint left(3, field->height() / 2);
-    QTest::mouseClick(field, Qt::LeftButton, {}, left);
+    for (const double where : {0.05, 0.9, 0.05, 0.9}) {
+        const QPoint place(int(field->width() * where), field->height() / 2);
+        QTest::mouseClick(field, Qt::LeftButton, {}, place, QApplication::doubleClickInterval() + 50);
+        QTest::keyClicks(field, u"5200"_s);
+        QCOMPARE(field->text(), u"5200"_s);
+    }
+}
+
+void MaskedFieldsTest::aDoubleClickLetsTypingReplaceTheContent()
+{
+    QLineEdit *field = m_window->ui().ledt_purchaseDate;
+    QTest::mouseClick(field, Qt::LeftButton);
+    QTest::mouseDClick(field, Qt::LeftButton);
+    QTest::mouseRelease(field, Qt::LeftButton);
+    QTest::keyClicks(field, u"2024-02-29"_s);
+    QCOMPARE(field->text(), u"2024-02-29"_s);
+}
+
+void MaskedFieldsTest::draggingSelectsAPart()
+{
+    QLineEdit *field = m_window->ui().ledt_capacity;
+    field->setFocus();
+    const int middle = field->height() / 2;
+    QTest::mousePress(field, Qt::LeftButton, {}, QPoint(1, middle));
+    QTest::mouseMove(field, QPoint(field->cursorRect().left() + 4, middle));
+    QTest::mouseMove(field, QPoint(24, middle));
+    QTest::mouseRelease(field, Qt::LeftButton, {}, QPoint(24, middle));
     QVERIFY(field->hasSelectedText());
-    QTest::mouseClick(field, Qt::LeftButton, {}, left, QApplication::doubleClickInterval() + 50);
+    QVERIFY(field->selectedText().size() < field->text().size());
+}
+
+void MaskedFieldsTest::anotherMouseButtonSelectsNothing()
+{
+    QLineEdit *field = m_window->ui().ledt_capacity;
+    QTest::mouseClick(field, Qt::RightButton);
     QVERIFY(!field->hasSelectedText());
-    QTest::keyClicks(field, QStringLiteral("9"));
-    QCOMPARE(field->text(), QStringLiteral("9000"));
 }
 
 void MaskedFieldsTest::aFieldWithoutAMaskIsLeftToItself()
