@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gui/voltbokgui.h"
 
+#include "gui/decimalsign.h"
 #include "gui/deleteall.h"
 #include "gui/fieldtexts.h"
 #include "gui/sectiontyping.h"
@@ -53,6 +54,11 @@ void VoltbokGui::easeInput()
     const auto lineEdits = ui->stackedWidget->findChildren<QLineEdit *>();
     for (QLineEdit *field : lineEdits)
         field->installEventFilter(selectOnEntry);
+
+    auto *decimalSign = new DecimalSign(this);
+    const auto fields = typedFields(ui->stackedWidget);
+    for (QLineEdit *field : fields)
+        field->installEventFilter(decimalSign);
 
     auto *sectionTyping = new SectionTyping(this);
     const auto moments = ui->stackedWidget->findChildren<QDateTimeEdit *>();

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void aDoubleClickLetsTypingReplaceTheContent();
     void draggingSelectsAPart();
     void anotherMouseButtonSelectsNothing();
+    void pointAndCommaAreBothTheDecimalSign_data();
+    void pointAndCommaAreBothTheDecimalSign();
     void aFieldWithoutAMaskIsLeftToItself();
 
 private:
@@ -116,6 +118,25 @@ void MaskedFieldsTest::anotherMouseButtonSelectsNothing()
     QLineEdit *field = m_window->ui().ledt_capacity;
     QTest::mouseClick(field, Qt::RightButton);
     QVERIFY(!field->hasSelectedText());
+}
+
+void MaskedFieldsTest::pointAndCommaAreBothTheDecimalSign_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("point") << u"1.5"_s << u"1.5"_s;
+    QTest::newRow("comma") << u"1,5"_s << u"1.5"_s;
+    QTest::newRow("point first") << u".5"_s << u".5"_s;
+    QTest::newRow("comma first") << u",5"_s << u".5"_s;
+}
+
+void MaskedFieldsTest::pointAndCommaAreBothTheDecimalSign()
+{
+    QFETCH(QString, typed);
+    QLineEdit *field = m_window->ui().ledt_chargeRate;
+    QTest::mouseClick(field, Qt::LeftButton);
+    QTest::keyClicks(field, typed);
+    QTEST(field->text(), "expected");
 }
 
 void MaskedFieldsTest::aFieldWithoutAMaskIsLeftToItself()

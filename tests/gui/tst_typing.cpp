@@ -4,6 +4,7 @@
 #include "tests/support/xml.h"
 
 #include <QApplication>
+#include <QClipboard>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,6 +27,8 @@ private Q_SLOTS:
     void aWholeDateOrTimeCanBeTyped();
     void draggingSelectsAPart();
     void anotherMouseButtonSelectsNothing();
+    void pointAndCommaAreBothTheDecimalSign_data();
+    void pointAndCommaAreBothTheDecimalSign();
     void whatIsTypedIsWhatIsRecorded();
 
 private:
@@ -223,6 +226,38 @@ void TypingTest::anotherMouseButtonSelectsNothing()
     QVERIFY(!editOf(capacity)->hasSelectedText());
 }
 
+void TypingTest::pointAndCommaAreBothTheDecimalSign_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("sign");
+    const QLocale locales[] = {QLocale::c(),
+                               QLocale(QLocale::English, QLocale::UnitedStates),
+                               QLocale(QLocale::German),
+                               QLocale(QLocale::German, QLocale::Switzerland),
+                               QLocale(QLocale::French),
+                               QLocale(QLocale::Persian)};
+    for (const QLocale &locale : locales) {
+        for (const char *sign : {".", ","})
+            QTest::addRow("%s in %s", sign, qPrintable(locale.name())) << locale << QString::fromLatin1(sign);
+    }
+}
+
+void TypingTest::pointAndCommaAreBothTheDecimalSign()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, sign);
+    QDoubleSpinBox *current = m_window->ui().dsb_discharged_current;
+    current->setLocale(locale);
+    QTest::mouseClick(editOf(current), Qt::LeftButton);
+    QTest::keyClicks(current, u"187"_s + sign + u'5');
+    QCOMPARE(current->value(), 187.5);
+    QApplication::clipboard()->setText(u"92"_s + sign + u"25"_s);
+    QTest::keyClick(current, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(current, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(current->value(), 92.25);
+    QVERIFY(current->text().contains(locale.decimalPoint()));
+}
+
 void TypingTest::whatIsTypedIsWhatIsRecorded()
 {
     const auto enter = [this](const QString &name, int position, const QString &typed) {
@@ -231,7 +266,7 @@ void TypingTest::whatIsTypedIsWhatIsRecorded()
         QTest::keyClicks(entered, typed);
     };
     enter(u"sb_discharged_capacity"_s, 2, u"2600"_s);
-    enter(u"dsb_discharged_current"_s, 2, u"92.5"_s);
+    enter(u"dsb_discharged_current"_s, 2, u"92,5"_s);
     enter(u"sb_log_duration"_s, 0, u"00:06:30"_s);
     enter(u"sb_log_temp"_s, -1, u"7"_s);
     enter(u"dedt_dischargeDate"_s, 0, u"2025-02-14"_s);
