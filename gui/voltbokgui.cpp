@@ -6,6 +6,7 @@
 #include "gui/fieldtexts.h"
 #include "gui/sectiontyping.h"
 #include "gui/selectonentry.h"
+#include "gui/wheelguard.h"
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
 #include "ui_voltbokgui.h"
@@ -64,6 +65,14 @@ void VoltbokGui::easeInput()
     const auto moments = ui->stackedWidget->findChildren<QDateTimeEdit *>();
     for (QDateTimeEdit *moment : moments)
         moment->installEventFilter(sectionTyping);
+
+    auto *wheelGuard = new WheelGuard(this);
+    const auto choosers = ui->stackedWidget->findChildren<QComboBox *>();
+    for (QComboBox *chooser : choosers)
+        wheelGuard->watch(chooser);
+    const auto numbers = ui->stackedWidget->findChildren<QAbstractSpinBox *>();
+    for (QAbstractSpinBox *number : numbers)
+        wheelGuard->watch(number);
 }
 
 void VoltbokGui::changeStoragePath(const QString &path)
