@@ -83,7 +83,7 @@ void FieldTextsTest::follow(const QList<QAbstractButton *> &buttons)
 void FieldTextsTest::aFieldWithItsDefaultTextFollows()
 {
     follow({ui->pb_options, ui->pb_edit_data, ui->pb_choose_addbattery});
-    ui->ledt_name->selectAll();
+    QCOMPARE(ui->ledt_name->selectedText(), u"MyBattery"_s);
     changeLanguage();
     QCOMPARE(ui->ledt_name->text(), u"~MyBattery"_s);
     QCOMPARE(ui->ledt_name->selectedText(), u"~MyBattery"_s); // typing still replaces all of it
