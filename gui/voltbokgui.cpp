@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gui/voltbokgui.h"
 
+#include "gui/datemark.h"
 #include "gui/decimalsign.h"
 #include "gui/deleteall.h"
 #include "gui/fieldtexts.h"
+#include "gui/readonlylook.h"
 #include "gui/sectiontyping.h"
 #include "gui/selectonentry.h"
 #include "gui/wheelguard.h"
@@ -17,6 +19,11 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+constexpr int WidestForm = 680; // beyond it the name fields, which stop at 250, no longer fill their column
+constexpr QMargins LogMargins{3, 9, 3, 9};
+constexpr QMargins LogMarginsRightToLeft{0, 9, 0, 9}; // makes room for the gap
+constexpr QMargins LabelGap{0, 0, 6, 0};
+
 /** The fields that the user types into; the edits inside spin boxes are not among them. */
 QList<QLineEdit *> typedFields(const QWidget *pages)
 {
@@ -39,6 +46,7 @@ VoltbokGui::VoltbokGui(QWidget *parent)
 
     FieldTexts::noteDefaults(typedFields(ui->stackedWidget));
     easeInput();
+    adaptForms();
 }
 
 VoltbokGui::~VoltbokGui()
@@ -73,6 +81,25 @@ void VoltbokGui::easeInput()
     const auto numbers = ui->stackedWidget->findChildren<QAbstractSpinBox *>();
     for (QAbstractSpinBox *number : numbers)
         wheelGuard->watch(number);
+
+    auto *dateMark = new DateMark(this);
+    for (QLineEdit *date : {ui->ledt_purchaseDate, ui->ledt_addheli_purchase, ui->ledt_modifyheli_purchase,
+                            ui->ledt_modifyBattery_purchaseDate})
+        dateMark->watch(date);
+}
+
+void VoltbokGui::adaptForms()
+{
+    for (QLineEdit *name : {ui->ledt_modifyBattery_name, ui->ledt_modifyheli_name})
+        showAsReadOnly(name, palette());
+    // A page that is narrower than the stack lies at its left, where a form read from the right must not be.
+    const int widest = isRightToLeft() ? QWIDGETSIZE_MAX : WidestForm;
+    for (QWidget *form : {ui->addLocationView, ui->addView, ui->addModelView, ui->dischargeView,
+                          ui->modModelView, ui->modBatteryView})
+        form->setMaximumWidth(widest);
+    // There, a label that is as wide as its words stands left of another one.
+    ui->layout_log->setContentsMargins(isRightToLeft() ? LogMarginsRightToLeft : LogMargins);
+    ui->label_40->setContentsMargins(isRightToLeft() ? LabelGap : QMargins());
 }
 
 void VoltbokGui::changeStoragePath(const QString &path)
@@ -91,6 +118,8 @@ void VoltbokGui::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         retranslate();
+    else if (event->type() == QEvent::PaletteChange || event->type() == QEvent::LayoutDirectionChange)
+        adaptForms();
     QMainWindow::changeEvent(event);
 }
 

@@ -107,6 +107,7 @@ private:
 
     void retranslate();
     void easeInput();
+    void adaptForms();
 
     // navigation
     QWidget *widgetOf(Page::Id page) const;
