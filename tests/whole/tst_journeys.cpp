@@ -2,6 +2,9 @@
 // Three pilots, each from an empty folder to a full catalogue, with clicks and keys alone.
 #include "tests/support/editingwindow.h"
 
+#include <QApplication>
+#include <QClipboard>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -104,12 +107,14 @@ public:
         click(ui().pb_addNewModel);
     }
 
+    /** Pastes, for a tab that is typed leaves the notes. */
     static void write(QPlainTextEdit *field, const QString &notes)
     {
         QVERIFY(field->isVisible());
         field->selectAll();
         QTest::keyClick(field, Qt::Key_Delete);
-        QTest::keyClicks(field, notes);
+        QApplication::clipboard()->setText(notes);
+        QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
     }
 
     static void enter(QAbstractSpinBox *field, const QString &value)
