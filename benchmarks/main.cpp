@@ -11,6 +11,8 @@
 #include <QTemporaryDir>
 #include <QTextStream>
 
+#include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 #include <time.h>
@@ -82,6 +84,11 @@ int main(int argc, char *argv[])
     Benchmarks::Plan plan;
     plan.quick = parser.isSet(quick);
     const QStringList subjects = parser.positionalArguments();
+    const auto isUnknown = [](const QString &name) {
+        return std::none_of(All.begin(), All.end(), [&](const auto &each) { return each.first == name; });
+    };
+    if (std::any_of(subjects.begin(), subjects.end(), isUnknown))
+        parser.showHelp(EXIT_FAILURE);
     Report report(parser.value(json).toStdString());
     for (const auto &[subject, benchmark] : All) {
         if (!subjects.isEmpty() && !subjects.contains(subject))
