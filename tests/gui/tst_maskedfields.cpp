@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/support/logbookwindow.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 /** Typing into the fields with masks as a hurried user does: click anywhere, or Tab, and type. */
 class MaskedFieldsTest : public QObject
 {
@@ -34,17 +36,14 @@ void MaskedFieldsTest::aClickAnywhereLetsTypingReplaceTheContent_data()
     QTest::addColumn<QString>("expected");
 
     for (const double where : {0.05, 0.3, 0.9}) {
-        const QByteArray place = " at " + QByteArray::number(where);
-        QTest::newRow("capacity" + place) << "ledt_capacity" << where << "220"
-                                          << "220";
-        QTest::newRow("charge rate" + place) << "ledt_chargeRate" << where << "35"
-                                             << "3.5";
-        QTest::newRow("charge rate with its point" + place) << "ledt_chargeRate" << where << "3.5"
-                                                            << "3.5";
-        QTest::newRow("date" + place) << "ledt_purchaseDate" << where << "20240229"
-                                      << "2024-02-29";
-        QTest::newRow("date with hyphens" + place) << "ledt_purchaseDate" << where << "2024-02-29"
-                                                   << "2024-02-29";
+        const auto row = [where](const char *tag, const char *name, const char *typed, const char *expected) {
+            QTest::addRow("%s at %g", tag, where) << name << where << typed << expected;
+        };
+        row("capacity", "ledt_capacity", "220", "220");
+        row("charge rate", "ledt_chargeRate", "35", "3.5");
+        row("charge rate with its point", "ledt_chargeRate", "3.5", "3.5");
+        row("date", "ledt_purchaseDate", "20240229", "2024-02-29");
+        row("date with hyphens", "ledt_purchaseDate", "2024-02-29", "2024-02-29");
     }
 }
 
@@ -68,8 +67,8 @@ void MaskedFieldsTest::tabLetsTypingReplaceTheContent()
     auto *field = qobject_cast<QLineEdit *>(focused);
     QVERIFY(field);
     QVERIFY2(!field->inputMask().isEmpty(), qPrintable(field->objectName()));
-    QTest::keyClicks(field, QStringLiteral("22"));
-    QCOMPARE(field->text(), QStringLiteral("22"));
+    QTest::keyClicks(field, u"22"_s);
+    QCOMPARE(field->text(), u"22"_s);
 }
 
 void MaskedFieldsTest::aSecondClickSetsTheCursor()
@@ -80,8 +79,8 @@ void MaskedFieldsTest::aSecondClickSetsTheCursor()
     QVERIFY(field->hasSelectedText());
     QTest::mouseClick(field, Qt::LeftButton, {}, left, QApplication::doubleClickInterval() + 50);
     QVERIFY(!field->hasSelectedText());
-    QTest::keyClicks(field, QStringLiteral("9"));
-    QCOMPARE(field->text(), QStringLiteral("9000"));
+    QTest::keyClicks(field, u"9"_s);
+    QCOMPARE(field->text(), u"9000"_s);
 }
 
 void MaskedFieldsTest::aFieldWithoutAMaskIsLeftToItself()
@@ -90,8 +89,8 @@ void MaskedFieldsTest::aFieldWithoutAMaskIsLeftToItself()
     m_window->ui().ledt_capacity->setFocus();
     QTest::mouseClick(field, Qt::LeftButton);
     QVERIFY(!field->hasSelectedText());
-    QTest::keyClicks(field, QStringLiteral("X"));
-    QCOMPARE(field->text(), QStringLiteral("MyBatteryX"));
+    QTest::keyClicks(field, u"X"_s);
+    QCOMPARE(field->text(), u"MyBatteryX"_s);
 }
 
 QTEST_MAIN(MaskedFieldsTest)
