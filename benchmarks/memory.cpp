@@ -119,7 +119,7 @@ void measureGrowth(Report &report, int repetitions)
                          }),
                   6.0);
         addGrowth(report, QStringLiteral("a model switch") + onShow, repetitions,
-                  growthOfSwitches(window, repetitions), 6.0);
+                  growthOfSwitches(window, repetitions), 8.0);
     }
     {
         OpenWindow window(fiftyBatteries(10));
