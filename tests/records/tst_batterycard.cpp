@@ -2,19 +2,15 @@
 #include "records/batterywidget.h"
 #include "tests/support/rawcard.h"
 
-#include <QApplication>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
-#include <QProxyStyle>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QScopeGuard>
 #include <QTest>
 #include <QTranslator>
 
 #include <functional>
-#include <utility>
 
 class BatteryCardTest : public QObject
 {
@@ -36,9 +32,6 @@ private Q_SLOTS:
     void theSpacersPushTheCardUpAndToTheLeft();
     void theButtonIsFixedInSizeAndStartsRed();
     void theFormWorksOnAnyWidget();
-    void theButtonAnswersItsStyleOnceItIsShown();
-    void theButtonLooksLikeAnyWithItsStyleSheet_data();
-    void theButtonLooksLikeAnyWithItsStyleSheet();
     void aSetterRefreshesItsLabel_data();
     void aSetterRefreshesItsLabel();
     void theNameIsShownAsItStands();
@@ -83,20 +76,6 @@ public:
         return QLatin1Char('<') + QLatin1String(text) + QLatin1Char('>');
     }
     bool isEmpty() const override { return false; }
-};
-
-/** Counts how often a button has asked for the place that it takes in a layout. */
-class CountingStyle : public QProxyStyle
-{
-public:
-    QRect subElementRect(SubElement element, const QStyleOption *option, const QWidget *widget) const override
-    {
-        if (element == SE_PushButtonLayoutItem)
-            ++count;
-        return QProxyStyle::subElementRect(element, option, widget);
-    }
-
-    mutable int count = 0;
 };
 
 } // namespace
@@ -344,62 +323,6 @@ void BatteryCardTest::theFormWorksOnAnyWidget()
     QCOMPARE(form.pushButton->text(), QStringLiteral("Text"));
     QCOMPARE(form.pushButton->metaObject(), &QPushButton::staticMetaObject);
     QCOMPARE(form.label_6->text(), QStringLiteral("Last use:"));
-}
-
-void BatteryCardTest::theButtonAnswersItsStyleOnceItIsShown()
-{
-    auto *style = new CountingStyle; // the application's from now on
-    QApplication::setStyle(style);
-    const auto restore = qScopeGuard([] { QApplication::setStyle(QStringLiteral("Fusion")); });
-    QWidget window;
-    const QPushButton plain(&window);
-    const int made = std::exchange(style->count, 0);
-    BatteryWidget card;
-    auto *button = find<QPushButton>(card, "pushButton");
-    QCOMPARE(style->count, made); // its style sheet changes nothing of its place
-    card.setBatteryCharged(true, false);
-    QCOMPARE(style->count, made);
-
-    card.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&card));
-    const int shown = style->count;
-    QEvent change(QEvent::StyleChange);
-    QCoreApplication::sendEvent(button, &change);
-    QCOMPARE(style->count, shown + 1);
-}
-
-void BatteryCardTest::theButtonLooksLikeAnyWithItsStyleSheet_data()
-{
-    QTest::addColumn<bool>("charged");
-    QTest::newRow("charged") << true;
-    QTest::newRow("discharged") << false;
-}
-
-void BatteryCardTest::theButtonLooksLikeAnyWithItsStyleSheet()
-{
-    QFETCH(bool, charged);
-    BatteryWidget card;
-    auto *button = find<QPushButton>(card, "pushButton");
-    button->setFocusPolicy(Qt::NoFocus); // a frame would show who has it
-    card.setBatteryCharged(charged, false);
-    card.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&card));
-    card.setBatteryCharged(!charged, false); // a click away, and back
-    card.setBatteryCharged(charged, false);
-    QVERIFY(button->isVisible());
-    const QImage picture = button->grab().toImage();
-    card.hide();
-
-    QWidget window;
-    auto *plain =
-        new QPushButton(charged ? QStringLiteral("Charged") : QStringLiteral("Discharged"), &window);
-    plain->move(20, 20); // not below the mouse, which would show
-    plain->setFixedSize(100, 35);
-    plain->setFocusPolicy(Qt::NoFocus);
-    plain->setStyleSheet(charged ? green : red);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QCOMPARE(picture, plain->grab().toImage());
 }
 
 void BatteryCardTest::aSetterRefreshesItsLabel_data()
