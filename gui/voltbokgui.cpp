@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gui/voltbokgui.h"
 
+#include "gui/doubleclickguard.h"
 #include "gui/selectonentry.h"
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
@@ -29,6 +30,7 @@ VoltbokGui::VoltbokGui(QWidget *parent)
     // lbl_reallydelete_location stays visible on purpose: the first deletion of a location takes one click.
     ui->lbl_really->hide();
     ui->lbl_reallydelete_model->hide();
+    new DoubleClickGuard({ui->pb_add_batt_to_model, ui->pb_rem_batt_from_model}, ui->dischargeView, this);
 
     auto *selectOnEntry = new SelectOnEntry(this);
     const auto fields = typedFields(ui->stackedWidget);

@@ -118,8 +118,8 @@ void addStylesAndStates()
     QTest::addColumn<QColor>("text");
     const QStringList styles = QStyleFactory::keys();
     for (const QString &style : styles) {
-        QTest::addRow("charged in %ls", qUtf16Printable(style)) << style << true << Green << LightBlue;
-        QTest::addRow("discharged in %ls", qUtf16Printable(style)) << style << false << Red << White;
+        QTest::addRow("charged in %s", qPrintable(style)) << style << true << Green << LightBlue;
+        QTest::addRow("discharged in %s", qPrintable(style)) << style << false << Red << White;
     }
 }
 
