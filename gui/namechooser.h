@@ -157,7 +157,7 @@ protected:
     }
 
 private:
-    static constexpr int TextMargins = 2; // a pixel at either side, as styles leave it
+    static constexpr int TextMargins = 10; // styles leave up to five pixels at either side
 
     QString fittedText() const
     {
