@@ -8,21 +8,9 @@
 #include <QStyle>
 #include <QToolTip>
 
-#include <algorithm>
-
-namespace {
-constexpr int FewestCharacters = 4;
-}
-
 NameLabel::NameLabel(QWidget *parent)
     : QLabel(parent)
 {
-}
-
-QSize NameLabel::minimumSizeHint() const
-{
-    const QSize whole = QLabel::minimumSizeHint();
-    return {std::min(whole.width(), FewestCharacters * fontMetrics().averageCharWidth()), whole.height()};
 }
 
 bool NameLabel::event(QEvent *event)

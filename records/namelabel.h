@@ -5,15 +5,12 @@
 
 /**
  * A label for a name of any length. Where there is too little room for it, it ends in an ellipsis and a
- * tooltip tells the whole; its text stays what it was set to. It never makes its surroundings wider than they
- * are.
+ * tooltip tells the whole; its text stays what it was set to.
  */
 class NameLabel : public QLabel // clazy:exclude=missing-qobject-macro
 {
 public:
     explicit NameLabel(QWidget *parent = nullptr);
-
-    QSize minimumSizeHint() const override;
 
 protected:
     bool event(QEvent *event) override;
