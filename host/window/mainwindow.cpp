@@ -6,10 +6,14 @@
 #include "host/safety/storagefolder.h"
 #include "host/window/messagebar.h"
 #include "host/window/savecare.h"
+#include "plugin/rotavexplugin.h"
 
+#include <QAbstractButton>
+#include <QButtonGroup>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QPixmap>
+#include <QSettings>
 #include <QVBoxLayout>
 
 using namespace Qt::Literals::StringLiterals;
@@ -41,6 +45,9 @@ MainWindow::MainWindow(Questions &questions, QWidget *parent)
     layout->addWidget(m_logbook, 1);
     setCentralWidget(content);
     resize(size);
+    // The one page that changes a setting; after the logbook, whose slots are connected already.
+    connect(m_logbook->findChild<QButtonGroup *>(u"btnGrp_mode"_s), &QButtonGroup::buttonClicked, this,
+            &MainWindow::tellAboutSettings);
     connect(m_logbook, &VoltbokGui::closeVoltbokGui, this, &QWidget::close);
     connect(m_messages, &MessageBar::told, this, &MainWindow::told);
 }
@@ -69,8 +76,24 @@ void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> l
                                                       [this] { m_logbook->writeDataWithDataprocessor(); },
                                                       [this] { m_logbook->updateBatteryGui(); }},
                                         *m_messages, m_questions);
+    tellAboutSettings();
     // Queued: the care ends with the folder that it speaks of.
     connect(m_care.get(), &SaveCare::keptElsewhere, this, &MainWindow::goOnIn, Qt::QueuedConnection);
+}
+
+/** The settings that the logbook shares with others fail silently. */
+void MainWindow::tellAboutSettings()
+{
+    RotavexPlugin::rotavexSettings->sync();
+    if (RotavexPlugin::rotavexSettings->isWritable()) {
+        m_messages->retract(u"settings"_s);
+        return;
+    }
+    tell(u"settings"_s,
+         tr("The settings cannot be saved: there is no permission to write “%1”. The capture mode "
+            "that you choose will be forgotten. Change the permissions of this file and its "
+            "folder.")
+             .arg(RotavexPlugin::rotavexSettings->fileName()));
 }
 
 void MainWindow::goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock)

@@ -50,6 +50,7 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    void tellAboutSettings();
     void goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock);
 
     Questions &m_questions;

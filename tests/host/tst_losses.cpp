@@ -76,7 +76,7 @@ private Q_SLOTS:
     void eachOfManyLossesIsSaidOnce();
     void everyMutationIsJudgedAsByItsFacts_data();
     void everyMutationIsJudgedAsByItsFacts();
-    void aHundredThousandEntriesTakeNoTime();
+    void comparingAHundredThousandEntriesTakesNoLongerThanReadingThem();
     void nestingHasNoDepthThatCrashes();
 };
 
@@ -323,20 +323,21 @@ void LossesTest::everyMutationIsJudgedAsByItsFacts()
     QVERIFY2(lossy > rounds / 4 && lossy < rounds, qPrintable(QString::number(lossy)));
 }
 
-void LossesTest::aHundredThousandEntriesTakeNoTime()
+void LossesTest::comparingAHundredThousandEntriesTakesNoLongerThanReadingThem()
 {
     QByteArray document = Files::sample();
     const qsizetype begin = document.indexOf("<Cycle ");
     const QByteArray entry = document.mid(begin, document.indexOf("/>", begin) + 2 - begin);
     document.insert(begin, QByteArray(entry + "\n").repeated(100'000) + "<Wind/>");
-    const CatalogueFile::Saved saved = CatalogueFile::loadAndSave(document);
     QElapsedTimer timer;
     timer.start();
+    const CatalogueFile::Saved saved = CatalogueFile::loadAndSave(document);
+    const qint64 loadedAndSaved = timer.restart();
     const QStringList found = losses(document, saved.document);
-    const qint64 elapsed = timer.elapsed();
-    qInfo("%lld ms", static_cast<long long>(elapsed));
+    const qint64 compared = timer.elapsed();
+    qInfo("%lld ms, %lld ms", static_cast<long long>(loadedAndSaved), static_cast<long long>(compared));
     QCOMPARE(found.size(), 1);
-    QVERIFY(elapsed < 5000); // in a debug build, on a busy machine
+    QVERIFY(compared < 3 * loadedAndSaved);
 }
 
 void LossesTest::nestingHasNoDepthThatCrashes()

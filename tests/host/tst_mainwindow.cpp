@@ -2,6 +2,9 @@
 // Opening a folder, closing the window, and what is in the file afterwards.
 #include "tests/host/support/brokensaves.h"
 
+#include <QScopedValueRollback>
+#include <QSettings>
+
 using namespace Qt::Literals::StringLiterals;
 
 class MainWindowTest : public QObject
@@ -22,6 +25,7 @@ private Q_SLOTS:
     void theTitleOfTheDemoSaysSo();
     void anotherFolderEndsTheMessagesAndTheCareForTheOneBefore();
     void messagesStandAboveTheLogbook();
+    void settingsThatCannotBeSavedAreToldOnce();
 
 private:
     /** The first battery's card is saved twice with each click, and its second flight is in the window alone.
@@ -192,6 +196,25 @@ void MainWindowTest::messagesStandAboveTheLogbook()
     const int bottom = window.messages().mapTo(&window.window(), QPoint(0, window.messages().height())).y();
     QTRY_VERIFY(window.gui().mapTo(&window.window(), QPoint()).y() >= bottom);
     QCOMPARE(window.told, QStringList(u"What there is to say."_s));
+}
+
+void MainWindowTest::settingsThatCannotBeSavedAreToldOnce()
+{
+    HostWindow window;
+    QCOMPARE(window.message(u"settings"_s), QString());
+    QSettings *const store = RotavexPlugin::rotavexSettings;
+    const QString blocked = window.place() + u"/settings.conf"_s;
+    QVERIFY(QDir().mkdir(blocked)); // where a folder lies no file can be written
+    QSettings unwritable(blocked, QSettings::IniFormat);
+    const QScopedValueRollback<QSettings *> swapped(RotavexPlugin::rotavexSettings, &unwritable);
+    LogbookWindow::click(window.ui().pb_options);
+    LogbookWindow::click(window.ui().pb_mode);
+    LogbookWindow::click(window.ui().rb_modeAdvanced);
+    LogbookWindow::click(window.ui().rb_modeSimple);
+    QCOMPARE(window.told.filter(blocked).size(), 1);
+    RotavexPlugin::rotavexSettings = store;
+    LogbookWindow::click(window.ui().rb_modeAdvanced);
+    QCOMPARE(window.message(u"settings"_s), QString());
 }
 
 QTEST_MAIN(MainWindowTest)
