@@ -4,6 +4,7 @@
 #include "gui/datemark.h"
 #include "gui/decimalsign.h"
 #include "gui/deleteall.h"
+#include "gui/doubleclickguard.h"
 #include "gui/fieldtexts.h"
 #include "gui/readonlylook.h"
 #include "gui/sectiontyping.h"
@@ -43,6 +44,7 @@ VoltbokGui::VoltbokGui(QWidget *parent)
     // lbl_reallydelete_location stays visible on purpose: the first deletion of a location takes one click.
     ui->lbl_really->hide();
     ui->lbl_reallydelete_model->hide();
+    new DoubleClickGuard({ui->pb_add_batt_to_model, ui->pb_rem_batt_from_model}, ui->dischargeView, this);
 
     FieldTexts::noteDefaults(typedFields(ui->stackedWidget));
     easeInput();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // In which order the window takes down what it owns.
+#include "tests/support/datafile.h"
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
 
 #include <QChartView>
 
@@ -19,8 +19,7 @@ private Q_SLOTS:
 namespace {
 QByteArray smallFile()
 {
-    return Xml::file(Xml::battery("One", true) + Xml::battery("Two") + Xml::model("Heli", {"One"}) +
-                     Xml::model("Plane"));
+    return Test::document({{{u"One"_s, true}, {u"Two"_s}}, {{u"Heli"_s, {u"One"_s}}, {u"Plane"_s}}});
 }
 
 /** The names of what a window deletes, in the order in which it does. */

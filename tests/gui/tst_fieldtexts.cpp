@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The language changes: default texts follow, whatever else stands in the fields stays.
+#include "tests/support/datafile.h"
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
 
 #include <QTranslator>
 
@@ -112,9 +112,7 @@ void FieldTextsTest::aDefaultTextTypedAgainFollows()
 
 void FieldTextsTest::aRecordOnItsPageStaysEvenIfItReadsLikeADefaultText()
 {
-    const QByteArray type = Xml::element("Type", "Heli");
-    window->load(
-        Xml::file(Xml::battery("MyBattery") + Xml::element("Model", Xml::element("Name", "MyHeli") + type)));
+    window->load(Test::document({{{u"MyBattery"_s}}, {{u"MyHeli"_s}}})); // its type is "Heli"
     follow({ui->pb_options, ui->pb_edit_data, ui->pb_choose_modify_model});
     QCOMPARE(ui->ledt_modifyheli_name->text(), u"MyHeli"_s);
     changeLanguage();
@@ -122,7 +120,7 @@ void FieldTextsTest::aRecordOnItsPageStaysEvenIfItReadsLikeADefaultText()
     QCOMPARE(ui->ledt_modifyheli_type->text(), u"Heli"_s);
     window->type(ui->ledt_modifyheli_size, u"450"_s);
     window->click(ui->pb_update_model);
-    QVERIFY(window->fileBytes().contains(type.trimmed()));
+    QVERIFY(window->fileBytes().contains("<Type>Heli</Type>"));
     QCOMPARE(window->model(u"MyHeli"_s)->getModelSize(), 450u);
 }
 

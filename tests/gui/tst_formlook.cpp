@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the forms look like: read-only names, wrong dates, wide windows, large fonts, right to left.
+#include "tests/support/datafile.h"
 #include "tests/support/editingwindow.h"
-#include "tests/support/xml.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -50,8 +50,8 @@ void FormLookTest::init()
 {
     m_font = QApplication::font();
     m_window = std::make_unique<EditingWindow>();
-    m_window->load(Xml::file(Xml::locations({"Meadow"}) + Xml::battery("Pack", true) +
-                             Xml::model(QByteArray("A glider of ") + QByteArray(80, 'x'), {"Pack"})));
+    m_window->load(Test::document(
+        {{{u"Pack"_s, true}}, {{u"A glider of "_s + QString(80, u'x'), {u"Pack"_s}}}, {u"Meadow"_s}}));
     QVERIFY(QTest::qWaitForWindowActive(&m_window->gui()));
 }
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // A page that comes on show waits for the keyboard at the right place.
 #include "gui/pages.h"
+#include "tests/support/datafile.h"
 #include "tests/support/editingwindow.h"
-#include "tests/support/xml.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -38,8 +38,8 @@ void PageEntryTest::init()
 {
     m_window = std::make_unique<EditingWindow>();
     RotavexPlugin::rotavexSettings->setValue(u"SETTINGS/voltbok"_s, u"Complex"_s);
-    m_window->load(Xml::file(Xml::locations({"Meadow"}) + Xml::battery("Pack", true) + Xml::battery("Spare") +
-                             Xml::model("Heli", {"Pack"})));
+    m_window->load(
+        Test::document({{{u"Pack"_s, true}, {u"Spare"_s}}, {{u"Heli"_s, {u"Pack"_s}}}, {u"Meadow"_s}}));
     QVERIFY(QTest::qWaitForWindowActive(&m_window->gui()));
 }
 

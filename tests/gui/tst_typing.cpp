@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Typing on the discharge page as a hurried user does: one click, the keys, Tab, OK.
+#include "tests/support/datafile.h"
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -44,8 +44,8 @@ void TypingTest::init()
 {
     m_window = std::make_unique<LogbookWindow>();
     RotavexPlugin::rotavexSettings->setValue(u"SETTINGS/voltbok"_s, u"Complex"_s);
-    m_window->load(Xml::file(Xml::locations({"Meadow"}) + Xml::battery("Pack", true, 3700, 50) +
-                             Xml::model("Heli", {"Pack"})));
+    m_window->load(
+        Test::document({{{u"Pack"_s, true, {}, 3700, 20, 50}}, {{u"Heli"_s, {u"Pack"_s}}}, {u"Meadow"_s}}));
     LogbookWindow::clickCard(m_window->battery(u"Pack"_s));
     Ui_VoltbokGui &ui = m_window->ui();
     ui.dedt_dischargeDate->setDate(QDate(2026, 11, 21));

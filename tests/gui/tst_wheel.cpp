@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The wheel over inputs: it belongs to the page until an input has the focus.
+#include "tests/support/datafile.h"
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
 
 #include <QApplication>
 #include <QScrollBar>
@@ -35,14 +35,15 @@ private:
 /** Enough cards to scroll, and two of everything to choose from. */
 QByteArray WheelTest::fleet()
 {
-    QByteArray batteries;
-    QByteArrayList names;
+    QList<Test::Battery> batteries;
+    QStringList names;
     for (int i = 0; i < 12; ++i) {
-        names.append("Pack" + QByteArray::number(i));
-        batteries += Xml::battery(names.last(), true);
+        names.append(u"Pack%1"_s.arg(i));
+        batteries.append({names.constLast(), true});
     }
-    return Xml::file(Xml::locations({"Meadow", "Hill", "Field"}) + batteries + Xml::model("Heli", names) +
-                     Xml::model("Plane", names) + Xml::model("Glider", names));
+    return Test::document({batteries,
+                           {{u"Heli"_s, names}, {u"Plane"_s, names}, {u"Glider"_s, names}},
+                           {u"Meadow"_s, u"Hill"_s, u"Field"_s}});
 }
 
 void WheelTest::init()
