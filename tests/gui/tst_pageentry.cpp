@@ -38,8 +38,10 @@ void PageEntryTest::init()
 {
     m_window = std::make_unique<EditingWindow>();
     RotavexPlugin::rotavexSettings->setValue(u"SETTINGS/voltbok"_s, u"Complex"_s);
-    m_window->load(
-        Test::document({{{u"Pack"_s, true}, {u"Spare"_s}}, {{u"Heli"_s, {u"Pack"_s}}}, {u"Meadow"_s}}));
+    Test::Model heli{u"Heli"_s, {u"Pack"_s}};
+    heli.type.clear();
+    heli.notes.clear();
+    m_window->load(Test::document({{{u"Pack"_s, true}, {u"Spare"_s}}, {heli}, {u"Meadow"_s}}));
     QVERIFY(QTest::qWaitForWindowActive(&m_window->gui()));
 }
 
