@@ -12,6 +12,8 @@
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int KeptCharts = 200;
@@ -50,8 +52,7 @@ void measureDrawing(Report &report, int discharges, int rounds)
     const QSize size = window->chartView->size();
     std::unique_ptr<QChartView> bare;
     report.compare(
-        QStringLiteral("chart drawn, %1 entries").arg(discharges),
-        QStringLiteral("a bare chart view with the same points"), rounds,
+        u"chart drawn, %1 entries"_s.arg(discharges), u"a bare chart view with the same points"_s, rounds,
         [&] {
             return Measure::seconds([&] {
                 window->on_pb_chart_clicked();
@@ -87,8 +88,8 @@ void measureResizing(Report &report, int rounds)
         many->on_pb_chart_clicked();
     one->on_pb_chart_clicked();
     settle();
-    report.compare(QStringLiteral("window resized with %1 kept charts").arg(KeptCharts),
-                   QStringLiteral("with one chart"), rounds, resizing(many), resizing(one), 1.5);
+    report.compare(u"window resized with %1 kept charts"_s.arg(KeptCharts), u"with one chart"_s, rounds,
+                   resizing(many), resizing(one), 1.5);
 }
 
 } // namespace
