@@ -21,7 +21,12 @@ private Q_SLOTS:
     void aClickAnywhereLetsTypingReplaceTheContent_data();
     void aClickAnywhereLetsTypingReplaceTheContent();
     void tabLetsTypingReplaceTheContent();
-    void aSecondClickSetsTheCursor();
+    void everyLaterClickLetsTypingReplaceTheContent();
+    void aDoubleClickLetsTypingReplaceTheContent();
+    void draggingSelectsAPart();
+    void anotherMouseButtonSelectsNothing();
+    void pointAndCommaAreBothTheDecimalSign_data();
+    void pointAndCommaAreBothTheDecimalSign();
     void aFieldWithoutAMaskIsLeftToItself();
 
 private:
@@ -71,22 +76,71 @@ void MaskedFieldsTest::tabLetsTypingReplaceTheContent()
     QCOMPARE(field->text(), u"22"_s);
 }
 
-void MaskedFieldsTest::aSecondClickSetsTheCursor()
+void MaskedFieldsTest::everyLaterClickLetsTypingReplaceTheContent()
 {
     QLineEdit *field = m_window->ui().ledt_capacity;
-    const QPoint left(3, field->height() / 2);
-    QTest::mouseClick(field, Qt::LeftButton, {}, left);
+    for (const double where : {0.05, 0.9, 0.05, 0.9}) {
+        const QPoint place(int(field->width() * where), field->height() / 2);
+        QTest::mouseClick(field, Qt::LeftButton, {}, place, QApplication::doubleClickInterval() + 50);
+        QTest::keyClicks(field, u"5200"_s);
+        QCOMPARE(field->text(), u"5200"_s);
+    }
+}
+
+void MaskedFieldsTest::aDoubleClickLetsTypingReplaceTheContent()
+{
+    QLineEdit *field = m_window->ui().ledt_purchaseDate;
+    QTest::mouseClick(field, Qt::LeftButton);
+    QTest::mouseDClick(field, Qt::LeftButton);
+    QTest::mouseRelease(field, Qt::LeftButton);
+    QTest::keyClicks(field, u"2024-02-29"_s);
+    QCOMPARE(field->text(), u"2024-02-29"_s);
+}
+
+void MaskedFieldsTest::draggingSelectsAPart()
+{
+    QLineEdit *field = m_window->ui().ledt_capacity;
+    field->setFocus();
+    const int middle = field->height() / 2;
+    QTest::mousePress(field, Qt::LeftButton, {}, QPoint(1, middle));
+    QTest::mouseMove(field, QPoint(field->cursorRect().left() + 4, middle));
+    QTest::mouseMove(field, QPoint(24, middle));
+    QTest::mouseRelease(field, Qt::LeftButton, {}, QPoint(24, middle));
     QVERIFY(field->hasSelectedText());
-    QTest::mouseClick(field, Qt::LeftButton, {}, left, QApplication::doubleClickInterval() + 50);
+    QVERIFY(field->selectedText().size() < field->text().size());
+}
+
+void MaskedFieldsTest::anotherMouseButtonSelectsNothing()
+{
+    QLineEdit *field = m_window->ui().ledt_capacity;
+    QTest::mouseClick(field, Qt::RightButton);
     QVERIFY(!field->hasSelectedText());
-    QTest::keyClicks(field, u"9"_s);
-    QCOMPARE(field->text(), u"9000"_s);
+}
+
+void MaskedFieldsTest::pointAndCommaAreBothTheDecimalSign_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("point") << u"1.5"_s << u"1.5"_s;
+    QTest::newRow("comma") << u"1,5"_s << u"1.5"_s;
+    QTest::newRow("point first") << u".5"_s << u".5"_s;
+    QTest::newRow("comma first") << u",5"_s << u".5"_s;
+}
+
+void MaskedFieldsTest::pointAndCommaAreBothTheDecimalSign()
+{
+    QFETCH(QString, typed);
+    QLineEdit *field = m_window->ui().ledt_chargeRate;
+    QTest::mouseClick(field, Qt::LeftButton);
+    QTest::keyClicks(field, typed);
+    QTEST(field->text(), "expected");
 }
 
 void MaskedFieldsTest::aFieldWithoutAMaskIsLeftToItself()
 {
     QLineEdit *field = m_window->ui().ledt_name;
     m_window->ui().ledt_capacity->setFocus();
+    field->deselect(); // the page came on show with it selected
     QTest::mouseClick(field, Qt::LeftButton);
     QVERIFY(!field->hasSelectedText());
     QTest::keyClicks(field, u"X"_s);

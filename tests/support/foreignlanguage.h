@@ -8,6 +8,8 @@
 
 namespace Test {
 
+using namespace Qt::Literals::StringLiterals;
+
 /** How a text reads in the foreign language: in brackets, but for what a mask must let in. */
 inline QString foreign(const QString &source)
 {
@@ -16,9 +18,9 @@ inline QString foreign(const QString &source)
             return characters.contains(character);
         });
     };
-    if (isOneOf(QStringLiteral("0.-"))) // a mask gets another place
+    if (isOneOf(u"0.-"_s)) // a mask gets another place
         return u'0' + source;
-    if (!isOneOf(QStringLiteral("0123456789.-")))
+    if (!isOneOf(u"0123456789.-"_s))
         return u'[' + source + u']';
     QString number = source; // a mask must let it in: every digit is the next one
     for (QChar &character : number) {

@@ -5,6 +5,9 @@
 
 #include <QRegularExpression>
 
+#include <QApplication>
+#include <QClipboard>
+
 using namespace Qt::Literals::StringLiterals;
 using namespace Test;
 
@@ -70,12 +73,14 @@ public:
         click(ui().pb_addNewModel);
     }
 
+    /** Pastes, for a tab that is typed leaves the notes. */
     static void write(QPlainTextEdit *field, const QString &notes)
     {
         QVERIFY(field->isVisible());
         field->selectAll();
         QTest::keyClick(field, Qt::Key_Delete);
-        QTest::keyClicks(field, notes);
+        QApplication::clipboard()->setText(notes);
+        QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
     }
 
     static void enter(QAbstractSpinBox *field, const QString &value)

@@ -273,7 +273,7 @@ QString MonkeyTest::faultOfThePage()
                               ui.dischargeView, ui.modBatteryView,  ui.modModelView};
     const int id = m_gui->currentPage;
     const QWidget *shown = ui.stackedWidget->currentWidget();
-    // A card that is connected twice and discharged in quick mode leaves 12 behind on the overview, as meant.
+    // A card that is connected twice and discharged in quick mode leaves 12 behind on the overview, intentionally.
     const bool quickCapture = id == 12 && shown == ui.scrollLayout;
     if (id < 0 || id >= 15 || (shown != pages[id] && !quickCapture))
         return u"page %1 is not %2"_s.arg(id).arg(shown->objectName());
@@ -314,7 +314,7 @@ QString MonkeyTest::faultOfTheRecords(const QString &step)
     const bool rewritten = readBack();
     if (!m_wellFormed)
         return u"the file is not well-formed:\n"_s + QString::fromUtf8(m_bytes);
-    // A file without any location leaves those that were on offer, as meant; one that was written holds what
+    // A file without any location leaves those that were on offer, intentionally; one that was written holds what
     // is.
     if (m_loaded ? !m_reading.locations.isEmpty() : rewritten)
         m_locations = m_reading.locations;
