@@ -2,6 +2,7 @@
 #include "host/app/commandline.h"
 
 #include "host/safety/storagefolder.h"
+#include "host/window/mainwindow.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -41,6 +42,9 @@ struct Options
     QCommandLineOption screenshot{
         u"screenshot"_s, Text::tr("Draw the window into the PNG file FILE and exit; needs no display."),
         u"FILE"_s};
+    QCommandLineOption page{
+        u"page"_s, Text::tr("Show the page or tab NAME: %1.").arg(MainWindow::pageNames().join(u", "_s)),
+        u"NAME"_s};
     QCommandLineOption help{{u"h"_s, u"help"_s}, Text::tr("Show this help.")};
     QCommandLineOption helpAll{u"help-all"_s}; // of earlier versions
     QCommandLineOption version{{u"v"_s, u"version"_s}, Text::tr("Show the version.")};
@@ -97,7 +101,8 @@ QString needsValue(const QString &option)
 {
     return nameOf(option) == "screenshot"_L1 ? Text::tr("“%1” needs the name of a PNG file.").arg(option)
            : nameOf(option) == "data"_L1     ? Text::tr("“%1” needs the name of a folder.").arg(option)
-                                             : Text::tr("“%1” needs a value.").arg(option);
+           : nameOf(option) == "page"_L1 ? Text::tr("“%1” needs the name of a page or tab.").arg(option)
+                                         : Text::tr("“%1” needs a value.").arg(option);
 }
 
 /** Why the arguments could not be understood one by one. */
@@ -109,7 +114,7 @@ QString misunderstanding(const QCommandLineParser &parser, const QStringList &ar
     if (!unknown.isEmpty())
         return Text::tr("“%1” is not an option of this program.").arg(spelled(arguments, unknown.first()));
     const QString &last = arguments.last();
-    if (nameOf(last) == "data"_L1 || nameOf(last) == "screenshot"_L1)
+    if (nameOf(last) == "data"_L1 || nameOf(last) == "screenshot"_L1 || nameOf(last) == "page"_L1)
         return needsValue(last);
     for (const QString &argument : arguments) {
         if (!nameOf(argument).isEmpty() && argument.contains(u'='))
@@ -133,6 +138,8 @@ QString contradiction(const QCommandLineParser &parser, const Options &options, 
     if (parser.isSet(options.screenshot) && !read.screenshot.endsWith(".png"_L1, Qt::CaseInsensitive))
         return Text::tr("“--screenshot” draws PNG files, and the name “%1” does not end in “.png”.")
             .arg(read.screenshot);
+    if (parser.isSet(options.page) && !MainWindow::pageNames().contains(read.page))
+        return Text::tr("There is no page or tab “%1”.").arg(read.page);
     for (const QString &name : {read.storagePath, read.screenshot}) {
         if (name.contains(QChar::ReplacementCharacter)) // another folder than the one that was meant
             return Text::tr("The name “%1” holds characters that are not valid UTF-8.").arg(name);
@@ -189,8 +196,8 @@ CommandLine readCommandLine(const QStringList &allArguments)
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
     parser.setApplicationDescription(
         Text::tr("A battery and flight logbook for people who fly radio-controlled models."));
-    parser.addOptions({options.data, options.demo, options.resetDemo, options.screenshot, options.help,
-                       options.helpAll, options.version});
+    parser.addOptions({options.data, options.demo, options.resetDemo, options.screenshot, options.page,
+                       options.help, options.helpAll, options.version});
     if (!parser.parse(arguments))
         return usageError(misunderstanding(parser, arguments));
 
@@ -209,6 +216,7 @@ CommandLine readCommandLine(const QStringList &allArguments)
     result.resetDemo = parser.isSet(options.resetDemo);
     result.demo = result.resetDemo || parser.isSet(options.demo);
     result.storagePath = chosenPath(parser, options, result.demo);
+    result.page = parser.value(options.page);
     result.screenshot = withHome(parser.value(options.screenshot));
     const QString wrong = contradiction(parser, options, result);
     return wrong.isEmpty() ? result : usageError(wrong);

@@ -14,6 +14,7 @@ struct CommandLine
     int status = 0;      ///< the program's exit status where it has nothing to do but to print one of these
     QString storagePath; ///< absolute path of the storage folder
     QString screenshot;  ///< name of the picture to draw instead of opening the window
+    QString page;        ///< the page or tab to show; empty for the first
     bool dataGiven = false; ///< the folder was named on the command line
     bool demo = false;
     bool resetDemo = false;

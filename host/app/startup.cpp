@@ -49,9 +49,10 @@ public:
         connect(&m_window, &MainWindow::folderTaken, this, &Program::serve);
     }
 
-    int run(Opened opened, bool wasNamed)
+    int run(Opened opened, const CommandLine &commandLine)
     {
-        show(std::move(opened), wasNamed);
+        show(std::move(opened), commandLine.dataGiven);
+        m_window.showPage(commandLine.page);
         m_window.show();
         return QApplication::exec();
     }
@@ -101,7 +102,7 @@ int draw(Opening &opening, const CommandLine &commandLine)
                                             "and it is no picture. Choose another name."))
                 .arg(path));
     QImageWriter writer(path, "png");
-    if (writer.write(MainWindow::picture(folder).toImage()))
+    if (writer.write(MainWindow::picture(folder, commandLine.page).toImage()))
         return EXIT_SUCCESS;
     return opening.refuse(
         tr(QT_TRANSLATE_NOOP("Startup", "The picture “%1” cannot be written: %2. Choose another name."))
@@ -130,7 +131,7 @@ int start(const CommandLine &commandLine, Questions &questions)
         return draw(opening, commandLine);
     if (const Opening::Status ended = opening.prepareFile())
         return *ended;
-    return Program(questions).run(opening.opened(), commandLine.dataGiven);
+    return Program(questions).run(opening.opened(), commandLine);
 }
 
 } // namespace Host

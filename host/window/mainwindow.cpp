@@ -3,6 +3,7 @@
 
 #include "gui/voltbokgui.h"
 #include "host/safety/folderlock.h"
+#include "host/window/logbookpages.h"
 #include "host/window/messagebar.h"
 #include "host/window/openlogbook.h"
 #include "host/window/pendinginput.h"
@@ -86,11 +87,47 @@ void MainWindow::connectLogbook()
             &MainWindow::tellAboutSettings);
 }
 
-QPixmap MainWindow::picture(const StorageFolder &folder)
+QPixmap MainWindow::picture(const StorageFolder &folder, const QString &page)
 {
-    VoltbokGui logbook;
-    logbook.changeStoragePath(folder.path());
-    return logbook.grab();
+    UnattendedQuestions questions;
+    MainWindow window(questions);
+    window.lookInto(folder);
+    window.buildPanel();
+    window.showPanel(true);
+    window.showPage(page);
+    window.resize(window.sizeHint());
+    window.ensurePolished();
+    window.m_panel->refreshNow();
+    return window.grab();
+}
+
+QStringList MainWindow::pageNames()
+{
+    return LogbookPages::names() + SidePanel::tabNames();
+}
+
+void MainWindow::showPage(const QString &name)
+{
+    const auto tab = SidePanel::tabNames().indexOf(name);
+    if (tab < 0)
+        return LogbookPages::show(*m_gui, name);
+    m_panel->setCurrentIndex(static_cast<int>(tab));
+    showPanel(true);
+}
+
+void MainWindow::lookInto(const StorageFolder &folder)
+{
+    m_folder = folder;
+    setWindowTitle(titleOf(folder));
+    m_gui->changeStoragePath(folder.path());
+}
+
+void MainWindow::buildPanel()
+{
+    m_logbook = std::make_unique<OpenLogbook>(m_folder, m_care.get());
+    connect(m_logbook.get(), &OpenLogbook::possibilitiesChanged, this, &MainWindow::updateActions);
+    m_panel = new SidePanel(*m_logbook, m_questions);
+    m_splitter->addWidget(m_panel);
 }
 
 void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> lock)
@@ -98,19 +135,14 @@ void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> l
     keepLayout();
     closeLogbook(); // it is saved and copied while its lock is held
     m_lock = std::move(lock);
-    m_folder = folder;
     m_messages->clear(); // they speak of the folder before
-    setWindowTitle(titleOf(folder));
-    m_gui->changeStoragePath(folder.path());
+    lookInto(folder);
     m_care = std::make_unique<SaveCare>(
         folder, LogbookAccess{m_gui, [this] { m_gui->writeDataWithDataprocessor(); }, [this] { reload(); }},
         *m_messages, m_questions);
     // Queued: the care ends with the folder that it speaks of.
     connect(m_care.get(), &SaveCare::keptElsewhere, this, &MainWindow::goOnIn, Qt::QueuedConnection);
-    m_logbook = std::make_unique<OpenLogbook>(folder, *m_care);
-    connect(m_logbook.get(), &OpenLogbook::possibilitiesChanged, this, &MainWindow::updateActions);
-    m_panel = new SidePanel(*m_logbook, m_questions);
-    m_splitter->addWidget(m_panel);
+    buildPanel();
     restoreLayout();
     updateActions();
     m_settings.addRecentFolder(folder.path());

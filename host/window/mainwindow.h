@@ -49,8 +49,13 @@ public:
     /** Brings the window to the front. */
     void raiseAndActivate();
 
-    /** The logbook's first page, without any of the program around it. */
-    static QPixmap picture(const StorageFolder &folder);
+    /** Shows a page of the logbook or a tab of the side panel; @see pageNames(). */
+    void showPage(const QString &name);
+    /** What can be shown by its name, the same in every language. */
+    static QStringList pageNames();
+
+    /** The window over the logbook of a folder, which is only read. @param page may be empty. */
+    static QPixmap picture(const StorageFolder &folder, const QString &page);
 
 Q_SIGNALS:
     /** A message was shown. */
@@ -65,6 +70,8 @@ protected:
 
 private:
     void connectLogbook();
+    void lookInto(const StorageFolder &folder);
+    void buildPanel();
     void buildMenus();
     void buildLogbookMenu();
     void buildEditMenu();

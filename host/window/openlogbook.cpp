@@ -21,16 +21,18 @@ QString noSpace()
 
 } // namespace
 
-OpenLogbook::OpenLogbook(const StorageFolder &folder, SaveCare &care)
+OpenLogbook::OpenLogbook(const StorageFolder &folder, SaveCare *care)
     : m_folder(folder)
     , m_care(care)
 {
     const QByteArray document = WholeFile::read(m_folder.dataFile()).bytes;
     m_history.restart(document.isEmpty() ? CatalogueFile::emptyDocument() : document);
-    m_mayChange = m_care.isInOrder();
-    connect(&m_care, &SaveCare::written, this, &OpenLogbook::versionWritten);
-    connect(&m_care, &SaveCare::writtenByOthers, this, &OpenLogbook::versionOfOthers);
-    connect(&m_care, &SaveCare::orderChanged, this, &OpenLogbook::updatePossibilities);
+    m_mayChange = m_care && m_care->isInOrder();
+    if (!m_care)
+        return;
+    connect(m_care, &SaveCare::written, this, &OpenLogbook::versionWritten);
+    connect(m_care, &SaveCare::writtenByOthers, this, &OpenLogbook::versionOfOthers);
+    connect(m_care, &SaveCare::orderChanged, this, &OpenLogbook::updatePossibilities);
 }
 
 std::shared_ptr<const Catalogue> OpenLogbook::catalogue()
@@ -95,7 +97,7 @@ QString OpenLogbook::obstacle()
 {
     if (m_capturing)
         return tr("Record the flight on the discharge page first, or leave that page.");
-    if (!m_care.makeFileCurrent())
+    if (!m_care->makeFileCurrent())
         return tr(
             "Nothing was changed: the logbook file does not hold what this window shows. See the message "
             "above the logbook.");
@@ -111,14 +113,14 @@ QString OpenLogbook::put(const QByteArray &document)
 {
     const QByteArray before = m_history.present();
     QString problem = WholeFile::write(m_folder.dataFileTarget(), document);
-    if (problem.isEmpty() && m_care.takeWritten(document))
+    if (problem.isEmpty() && m_care->takeWritten(document))
         return QString();
     m_stepName.clear();
     m_move = nullptr;
     if (problem.isEmpty()) {
         problem = tr("it cannot be read back");
         WholeFile::write(m_folder.dataFileTarget(), before);
-        m_care.takeWritten(before);
+        m_care->takeWritten(before);
         m_history.restart(before);
         announce();
     }
@@ -153,7 +155,7 @@ void OpenLogbook::announce()
 
 void OpenLogbook::updatePossibilities()
 {
-    m_mayChange = !m_capturing && m_care.isInOrder();
+    m_mayChange = !m_capturing && m_care && m_care->isInOrder();
     Q_EMIT possibilitiesChanged();
 }
 

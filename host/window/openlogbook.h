@@ -28,8 +28,8 @@ public:
     /** Changes the catalogue. @return why it cannot be done, in whole sentences; empty when it is. */
     using Change = std::function<QString(Catalogue &)>;
 
-    /** @param care of the same folder; outlives the logbook. */
-    OpenLogbook(const StorageFolder &folder, SaveCare &care);
+    /** @param care of the same folder, which outlives the logbook; without one it is only looked at. */
+    OpenLogbook(const StorageFolder &folder, SaveCare *care);
 
     /** What the file holds now, read once for each version of it; null when a full disk does not let it be
      * read. */
@@ -73,7 +73,7 @@ private:
     void announce();
 
     const StorageFolder m_folder;
-    SaveCare &m_care;
+    SaveCare *m_care;
     UndoHistory m_history;
     std::shared_ptr<const Catalogue> m_catalogue; ///< null when the file has another version since
     QString m_stepName;                           ///< of the version that is being written

@@ -7,6 +7,8 @@
 #include "host/window/statisticstab.h"
 #include "host/window/todaytab.h"
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Host {
 
 SidePanel::SidePanel(OpenLogbook &logbook, Questions &questions, QWidget *parent)
@@ -23,14 +25,19 @@ SidePanel::SidePanel(OpenLogbook &logbook, Questions &questions, QWidget *parent
     setAccessibleName(tr("Side panel"));
     setUsesScrollButtons(false);
     m_whenIdle.setSingleShot(true);
-    connect(&m_whenIdle, &QTimer::timeout, this, &SidePanel::refreshNow);
-    connect(this, &QTabWidget::currentChanged, this, &SidePanel::refreshNow);
+    connect(&m_whenIdle, &QTimer::timeout, this, &SidePanel::refreshIfSeen);
+    connect(this, &QTabWidget::currentChanged, this, &SidePanel::refreshIfSeen);
     connect(&logbook, &OpenLogbook::changed, this, &SidePanel::refreshAll);
     connect(m_today, &TodayTab::batteryRequested, this, &SidePanel::showBattery);
     refreshAll();
 }
 
 SidePanel::~SidePanel() = default;
+
+QStringList SidePanel::tabNames()
+{
+    return {u"today"_s, u"batteries"_s, u"flights"_s, u"statistics"_s};
+}
 
 void SidePanel::refreshAll()
 {
@@ -40,9 +47,14 @@ void SidePanel::refreshAll()
 
 void SidePanel::refreshNow()
 {
-    if (!isVisible() || !m_stale.remove(currentIndex()))
-        return;
-    static_cast<PanelTab *>(currentWidget())->refresh();
+    if (m_stale.remove(currentIndex()))
+        static_cast<PanelTab *>(currentWidget())->refresh();
+}
+
+void SidePanel::refreshIfSeen()
+{
+    if (isVisible())
+        refreshNow();
 }
 
 void SidePanel::showBattery(const QString &name)

@@ -33,6 +33,9 @@ public:
     /** Shows everything anew, each tab when it is next seen. */
     void refreshAll();
 
+    /** The names of the tabs, the same in every language, in their order. */
+    static QStringList tabNames();
+
     /** Shows the first battery of this name on its tab. */
     void showBattery(const QString &name);
 
@@ -42,6 +45,8 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    void refreshIfSeen();
+
     TodayTab *m_today;
     BatteriesTab *m_batteries;
     FlightsTab *m_flights;

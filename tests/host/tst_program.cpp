@@ -177,7 +177,7 @@ void ProgramTest::aScreenshotShowsTheWindow()
     QCOMPARE(result.status, 0);
     QCOMPARE(result.errors, QString());
     const QImage image(picture);
-    QCOMPARE(image.size(), QSize(350, 531));
+    QVERIFY(image.width() > 600 && image.height() > 531); // the logbook, and the panel beside it
     int green = 0; // the buttons of charged batteries
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
