@@ -30,9 +30,9 @@ void NameLabel::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     const QRect place = contentsRect();
     const QString line = QString(text()).replace(u'\n', u' ');
-    style()->drawItemText(&painter, place, QStyle::visualAlignment(layoutDirection(), alignment()), palette(),
-                          isEnabled(), fontMetrics().elidedText(line, Qt::ElideRight, place.width()),
-                          foregroundRole());
+    const auto flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment()));
+    style()->drawItemText(&painter, place, flags, palette(), isEnabled(),
+                          fontMetrics().elidedText(line, Qt::ElideRight, place.width()), foregroundRole());
 }
 
 bool NameLabel::isCut() const
