@@ -23,9 +23,13 @@ QDateTime timeOf(qint64 moment)
 {
     if (moment == NoMoment)
         return QDateTime();
-    const QDate date = QDate::fromJulianDay(moment / SecondsOfADay);
-    const QTime clock =
-        QTime::fromMSecsSinceStartOfDay(static_cast<int>(moment % SecondsOfADay) * MillisecondsOfASecond);
+    const auto seconds = static_cast<int>(moment % SecondsOfADay);
+    return timeOf(QDate::fromJulianDay(moment / SecondsOfADay),
+                  QTime::fromMSecsSinceStartOfDay(seconds * MillisecondsOfASecond));
+}
+
+QDateTime timeOf(QDate date, QTime clock)
+{
 #if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
     // As the file is read: in standard time where the clocks show it twice.
     const QDateTime time(date, clock, QDateTime::TransitionResolution::PreferStandard);

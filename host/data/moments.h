@@ -48,6 +48,7 @@ qint64 momentOf(const QDateTime &time);
 
 /** The time as it comes back from a data file; invalid where the clock does not show it. */
 QDateTime timeOf(qint64 moment);
+QDateTime timeOf(QDate date, QTime clock);
 
 /**
  * Which flights and discharges stand at which time, by their places. Those at the identical valid time belong

@@ -198,7 +198,7 @@ Qt::ItemFlags FlightsModel::flags(const QModelIndex &index) const
 
 bool FlightsModel::setData(const QModelIndex &index, const QVariant &value, int role)
 {
-    if (role != Qt::EditRole || !index.isValid() || value == data(index, Qt::EditRole))
+    if (role != Qt::EditRole || !index.isValid())
         return false;
     Q_EMIT editRequested(placeOf(index.row()), index.column(), value);
     return false;

@@ -50,7 +50,7 @@ void FlightsFilter::match()
     m_batteries.clear();
     if (m_filter.battery)
         m_batteries = matches(FlightsModel::Batteries, [this](const QString &names) {
-            return names.split(u"; "_s).contains(*m_filter.battery);
+            return (u"; "_s + names + u"; "_s).contains(u"; "_s + *m_filter.battery + u"; "_s);
         });
     m_first = m_filter.from.isValid() ? momentOf(m_filter.from.startOfDay()) : NoMoment;
     m_last = m_filter.to.isValid() ? momentOf(m_filter.to.endOfDay()) : NoMoment;
