@@ -186,7 +186,7 @@ QVariant FlightsModel::headerData(int section, Qt::Orientation orientation, int 
 
 Qt::ItemFlags FlightsModel::flags(const QModelIndex &index) const
 {
-    const Qt::ItemFlags flags = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
     if (!m_editable || !index.isValid())
         return flags;
     const auto column = static_cast<Column>(index.column());
