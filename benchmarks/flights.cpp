@@ -36,6 +36,13 @@ public:
         });
     }
 
+    /** What all tabs share, once for each version of the file. */
+    static double read(const QByteArray &document)
+    {
+        Host::CatalogueFile::Loaded loaded;
+        return Measure::threadSeconds([&] { loaded = Host::CatalogueFile::load(document); });
+    }
+
     /** Each column in its turn, in either order. */
     double sort()
     {
@@ -86,7 +93,8 @@ void Benchmarks::flights(Report &report, const Plan &plan)
     const QList<int> counts = plan.quick ? QList<int>{100'000} : QList<int>{100'000, 300'000};
     for (const int count : counts) {
         OpenWindow plain(Catalogue::withEntries(2 * count)); // a discharge for each flight
-        FlightsWindow window(contents(plain.path()));
+        const QByteArray document = contents(plain.path());
+        FlightsWindow window(document);
         const Measure::Run reload = [&plain] {
             return Measure::threadSeconds([&plain] {
                 plain->updateBatteryGui();
@@ -97,6 +105,10 @@ void Benchmarks::flights(Report &report, const Plan &plan)
             report.compare(QStringLiteral("%1 the table of flights, %2 flights").arg(work).arg(count),
                            QStringLiteral("the window's own reload"), plan.rounds(count), run, reload, 0.5);
         };
+        report.compare(
+            QStringLiteral("reading the catalogue of %1 flights as plain values").arg(count),
+            QStringLiteral("the window's own reload"), plan.rounds(count),
+            [&document] { return FlightsWindow::read(document); }, reload);
         compare(QStringLiteral("opening"), [&window] { return window.open(); });
         compare(QStringLiteral("sorting"), [&window] { return window.sort(); });
         compare(QStringLiteral("filtering"), [&window] { return window.search(); });

@@ -35,7 +35,7 @@ QList<double> figuresIn(const QVariant &value)
     for (const QString &text : texts) {
         bool isRead = false;
         figures.append(QLocale().toDouble(text.trimmed(), &isRead));
-        if (!isRead || figures.constLast() < 0.0)
+        if (!isRead || !(figures.constLast() >= 0.0)) // nor what is no number
             return {};
     }
     return figures;

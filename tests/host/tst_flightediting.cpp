@@ -57,7 +57,7 @@ void FlightEditingTest::aTimeIsCorrectedWithItsDischarges()
     auto *edit = window.openEditor<QDateTimeEdit>(u"10:00:00"_s, FlightsModel::Time);
     QVERIFY(edit);
     QCOMPARE(edit->text(), u"2026-05-03 10:00:00"_s); // local, though the field thinks in another zone
-    edit->setCurrentSection(QDateTimeEdit::HourSection);
+    edit->setSelectedSection(QDateTimeEdit::HourSection);
     QTest::keyClicks(edit, u"15"_s);
     window.endEditor(edit);
     Catalogue meant = logbook();

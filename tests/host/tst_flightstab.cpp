@@ -86,7 +86,7 @@ void FlightsTabTest::choiceAndScrollSurviveANewVersion()
     window.select({u"13:01:30"_s, u"13:02:00"_s});
     window.table().verticalScrollBar()->setValue(70);
     window.table().horizontalScrollBar()->setValue(40);
-    window.clickCard(u"C"_s); // of another matter
+    window.clickCard(u"A"_s); // which records another flight
     window.settle();
     QTRY_VERIFY(window.tab().m_flights.catalogue() == window.logbook().catalogue());
     QVERIFY(window.logbook().canUndo());

@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDateEdit>
+#include <QDialog>
 #include <QDialogButtonBox>
 #include <QTimer>
 
@@ -91,6 +92,7 @@ public:
     void endEditor(QWidget *editor, Qt::Key key = Qt::Key_Return)
     {
         QTest::keyClick(editor, key);
+        QTest::qWait(1); // the editor ends when it has taken the key
         settleTab();
     }
     void settleTab()
