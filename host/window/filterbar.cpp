@@ -14,8 +14,6 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace Host {
 
 FilterBar::FilterBar(QWidget *parent)
@@ -59,10 +57,7 @@ void FilterBar::addDate(const QString &name, QCheckBox *&box, QDateEdit *&edit)
     auto *row = new QHBoxLayout(pair);
     row->setContentsMargins(0, 0, 0, 0);
     box = new QCheckBox(name);
-    edit = new QDateEdit;
-    edit->setDisplayFormat(u"yyyy-MM-dd"_s);
-    edit->setDateRange(QDate(Edits::FirstYear, 1, 1), QDate(Edits::LastYear, 12, 31));
-    edit->setCalendarPopup(true);
+    edit = FlightFields::date();
     edit->setAccessibleName(name);
     edit->setEnabled(false);
     row->addWidget(box);

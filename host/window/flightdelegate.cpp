@@ -138,6 +138,16 @@ void FlightDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionVie
     editor->setGeometry(place);
 }
 
+/** A time is read from left to right everywhere. */
+void FlightDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    constexpr QChar Isolate(0x2066);
+    constexpr QChar EndOfIsolate(0x2069);
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (index.column() == FlightsModel::Time && option->direction == Qt::RightToLeft)
+        option->text = Isolate + option->text + EndOfIsolate;
+}
+
 /** Return ends the notes, too; with Shift it begins another line. */
 bool FlightDelegate::eventFilter(QObject *object, QEvent *event)
 {

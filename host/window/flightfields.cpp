@@ -13,6 +13,7 @@ namespace Host {
 QDateTimeEdit *FlightFields::time(QWidget *parent)
 {
     auto *edit = new QDateTimeEdit(parent);
+    edit->setLayoutDirection(Qt::LeftToRight); // else seconds come first where one reads from right to left
     edit->setDisplayFormat(u"yyyy-MM-dd HH:mm:ss"_s);
     edit->setDateRange(QDate(Edits::FirstYear, 1, 1), QDate(Edits::LastYear, 12, 31));
     edit->setCalendarPopup(true);
@@ -28,8 +29,19 @@ void FlightFields::setMoment(QDateTimeEdit &edit, const QDateTime &moment)
 QDateTimeEdit *FlightFields::duration(QWidget *parent)
 {
     auto *edit = new QTimeEdit(parent);
+    edit->setLayoutDirection(Qt::LeftToRight);
     edit->setDisplayFormat(u"HH:mm:ss"_s);
     edit->setCurrentSection(QDateTimeEdit::MinuteSection);
+    return edit;
+}
+
+QDateEdit *FlightFields::date(QWidget *parent)
+{
+    auto *edit = new QDateEdit(parent);
+    edit->setLayoutDirection(Qt::LeftToRight);
+    edit->setDisplayFormat(u"yyyy-MM-dd"_s);
+    edit->setDateRange(QDate(Edits::FirstYear, 1, 1), QDate(Edits::LastYear, 12, 31));
+    edit->setCalendarPopup(true);
     return edit;
 }
 

@@ -16,6 +16,7 @@ namespace Host::FlightFields {
 QDateTimeEdit *time(QWidget *parent = nullptr);
 /** Sets date and time apart: set together, the field would convert between local time and its own UTC. */
 void setMoment(QDateTimeEdit &edit, const QDateTime &moment);
+QDateEdit *date(QWidget *parent = nullptr);
 QDateTimeEdit *duration(QWidget *parent = nullptr);
 bool isDuration(const QDateTimeEdit &edit);
 QComboBox *chooser(const QStringList &names, QWidget *parent = nullptr);
