@@ -28,6 +28,7 @@ private Q_SLOTS:
     void everythingHasANameForAScreenReader();
     void everythingIsReachedByTheTabKey();
     void itIsDrawnFromRightToLeftAndLarge();
+    void theFilterIsAsHighAsItsRows();
 };
 
 void FlightsTabTest::theNewestFlightStandsFirst()
@@ -212,6 +213,19 @@ void FlightsTabTest::itIsDrawnFromRightToLeftAndLarge()
     }
     QApplication::setLayoutDirection(Qt::LeftToRight);
     QApplication::setFont(font);
+}
+
+void FlightsTabTest::theFilterIsAsHighAsItsRows()
+{
+    FilterBar bar;
+    bar.show();
+    for (int width = 250; width < 1000; width += 25) {
+        bar.resize(width, bar.heightForWidth(width));
+        QCoreApplication::processEvents();
+        const auto fields = bar.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+        for (const QWidget *field : fields)
+            QVERIFY2(bar.rect().contains(field->geometry()), field->metaObject()->className());
+    }
 }
 
 QTEST_MAIN(FlightsTabTest)
