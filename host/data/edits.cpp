@@ -18,7 +18,8 @@ struct Texts
 QString timeProblem(const QDateTime &time)
 {
     if (!time.isValid())
-        return Texts::tr("There is no such date and time: the clock leaves it out where summer time begins.");
+        return Texts::tr(
+            "There is no such time: the clock leaves it out, as it does where summer time begins.");
     const int year = time.date().year();
     if (year < Edits::FirstYear || year > Edits::LastYear)
         return Texts::tr("The year must be from %1 to %2.")

@@ -14,6 +14,7 @@ QDateTimeEdit *FlightFields::time(QWidget *parent)
 {
     auto *edit = new QDateTimeEdit(parent);
     edit->setLayoutDirection(Qt::LeftToRight); // else seconds come first where one reads from right to left
+    edit->setTimeSpec(Qt::UTC); // else it shifts what this zone's clock leaves out, and nobody is told
     edit->setDisplayFormat(u"yyyy-MM-dd HH:mm:ss"_s);
     edit->setDateRange(QDate(Edits::FirstYear, 1, 1), QDate(Edits::LastYear, 12, 31));
     edit->setCalendarPopup(true);

@@ -17,6 +17,7 @@ class FlightEditingTest : public QObject
 
 private Q_SLOTS:
     void aTimeIsCorrectedWithItsDischarges();
+    void aTimeThatTheClockLeavesOutIsRefused();
     void aDurationIsCorrected();
     void aTemperatureIsCorrected();
     void aLocationIsChosenOrTyped();
@@ -66,6 +67,19 @@ void FlightEditingTest::aTimeIsCorrectedWithItsDischarges()
     meant.batteries[1].discharges[0].time = at(15, 0);
     QCOMPARE(window.selected(), QStringList(u"15:00:00"_s));
     isOneStep(window, meant, before);
+}
+
+void FlightEditingTest::aTimeThatTheClockLeavesOutIsRefused()
+{
+    FlightsWindow window;
+    const QByteArray before = window.bytes();
+    auto *edit = window.openEditor<QDateTimeEdit>(u"10:00:00"_s, FlightsModel::Time);
+    edit->setDate(QDate(1986, 1, 1)); // when Nepal's clocks went from midnight to a quarter past
+    edit->setTime(QTime(0, 5));
+    window.endEditor(edit);
+    QCOMPARE(window.questions.told().size(), 1);
+    QVERIFY(window.questions.told().constFirst().contains(u"leaves it out"_s));
+    QCOMPARE(window.bytes(), before);
 }
 
 void FlightEditingTest::aDurationIsCorrected()
