@@ -35,5 +35,7 @@ void startup(Report &report, const Plan &plan);
 /** What the program's care for the file costs the window's thread, against the window's own save and reload.
  */
 void care(Report &report, const Plan &plan);
+/** Opening, sorting and filtering the table of all flights, against the window's own reload. */
+void flights(Report &report, const Plan &plan);
 
 } // namespace Benchmarks

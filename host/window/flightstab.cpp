@@ -1,7 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/flightstab.h"
 
+#include "host/data/edits.h"
+#include "host/window/filterbar.h"
+#include "host/window/flightdialog.h"
+#include "host/window/flightedits.h"
+#include "host/window/flightstable.h"
+#include "host/window/flowlayout.h"
+#include "host/window/movedialog.h"
 #include "host/window/openlogbook.h"
+#include "host/window/questions.h"
+#include "host/window/renamedialog.h"
+#include "host/window/tidydialog.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLocale>
+#include <QPushButton>
+#include <QVBoxLayout>
 
 namespace Host {
 
@@ -9,9 +25,211 @@ FlightsTab::FlightsTab(OpenLogbook &logbook, Questions &questions, QWidget *pare
     : PanelTab(parent)
     , m_logbook(logbook)
     , m_questions(questions)
+    , m_filter(m_flights)
+    , m_bar(new FilterBar)
+    , m_hint(new QLabel)
+    , m_table(new FlightsTable(m_flights, m_filter))
+    , m_count(new QLabel)
+    , m_buttons(new FlowLayout)
+    , m_add(addCommand(tr("&Add…"), &FlightsTab::addFlight))
+    , m_delete(addCommand(tr("&Delete"), &FlightsTab::deleteFlights))
+    , m_move(addCommand(tr("&Move…"), &FlightsTab::moveFlights))
+    , m_tidy(addCommand(tr("&Tidy Up…"), &FlightsTab::tidyUp))
+    , m_rename(addCommand(tr("&Rename…"), &FlightsTab::rename))
 {
+    buildLayout();
+    m_delete->setShortcut(QKeySequence::Delete);
+    m_delete->setShortcutContext(Qt::WidgetShortcut); // in a field it deletes a character
+    connect(&m_logbook, &OpenLogbook::possibilitiesChanged, this, &FlightsTab::updateCommands);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &FlightsTab::updateCommands);
+    // Queued: the editor is gone when the table is shown anew.
+    connect(&m_flights, &FlightsModel::editRequested, this, &FlightsTab::edit, Qt::QueuedConnection);
+    connect(m_bar, &FilterBar::changed, this, [this] {
+        m_filter.setFilter(m_bar->filter());
+        updateCount();
+        updateCommands();
+    });
+    updateCommands();
 }
 
-void FlightsTab::refresh() {}
+FlightsTab::~FlightsTab()
+{
+    delete m_table; // it looks at the models, which are members
+}
+
+/** A command stands on a button and in the table's menu. */
+QAction *FlightsTab::addCommand(const QString &caption, void (FlightsTab::*run)())
+{
+    auto *action = new QAction(caption, this);
+    connect(action, &QAction::triggered, this, run);
+    m_table->addAction(action);
+    auto *button = new QPushButton(caption);
+    connect(button, &QPushButton::clicked, action, &QAction::trigger);
+    connect(action, &QAction::enabledChanged, button, &QWidget::setEnabled);
+    m_buttons->addWidget(button);
+    return action;
+}
+
+void FlightsTab::buildLayout()
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_bar);
+    layout->addWidget(m_hint);
+    layout->addWidget(m_table, 1);
+    layout->addWidget(m_count);
+    layout->addLayout(m_buttons);
+    m_hint->setWordWrap(true);
+    m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void FlightsTab::refresh()
+{
+    refreshWith({});
+}
+
+void FlightsTab::refreshWith(const QList<FlightPlace> &chosen)
+{
+    const std::shared_ptr<const Catalogue> catalogue = m_logbook.catalogue();
+    if (catalogue && catalogue != m_flights.catalogue()) {
+        m_bar->offer(*catalogue);
+        m_table->showVersion(catalogue, chosen);
+    }
+    updateCount();
+    updateCommands();
+}
+
+void FlightsTab::updateCount()
+{
+    const Catalogue *catalogue = m_flights.catalogue().get();
+    const int all = m_flights.rowCount();
+    if (catalogue && catalogue->models.isEmpty())
+        m_hint->setText(tr("There is no model yet. Add your first one: press the menu button, then Edit."));
+    else
+        m_hint->setText(
+            tr("There is no flight yet. Add one here, or click the card of a charged battery when "
+               "you have flown it."));
+    m_hint->setVisible(all == 0);
+    m_bar->setEnabled(all > 0);
+    const QLocale locale;
+    const int shown = m_filter.rowCount();
+    m_count->setText(shown == all
+                         ? tr("Flights: %1").arg(locale.toString(all))
+                         : tr("Flights: %1 of %2").arg(locale.toString(shown), locale.toString(all)));
+}
+
+void FlightsTab::updateCommands()
+{
+    const Catalogue *catalogue = m_flights.catalogue().get();
+    const bool mayChange = catalogue && m_logbook.mayChange();
+    const bool mayChangeChosen = mayChange && m_table->isAnyChosen();
+    m_flights.setEditable(mayChange);
+    m_add->setEnabled(mayChange && !catalogue->models.isEmpty());
+    m_delete->setEnabled(mayChangeChosen);
+    m_move->setEnabled(mayChangeChosen);
+    m_tidy->setEnabled(mayChange && m_flights.rowCount() > 0);
+    m_rename->setEnabled(mayChange);
+}
+
+/** Shows what has become of a change. */
+void FlightsTab::finish(const QString &problem, const QList<FlightPlace> &chosen)
+{
+    if (!problem.isEmpty())
+        m_questions.tell(problem);
+    refreshWith(problem.isEmpty() ? chosen : QList<FlightPlace>());
+}
+
+void FlightsTab::edit(const FlightPlace &place, int column, const QVariant &value)
+{
+    const std::shared_ptr<const Catalogue> shown = m_flights.catalogue();
+    FlightPlace edited = place;
+    const QString problem = m_logbook.change(tr("Flight edited"), [&](Catalogue &catalogue) {
+        if (!FlightEdits::areThere({place}, *shown, catalogue))
+            return FlightEdits::changedMeanwhile();
+        return FlightEdits::apply(catalogue, edited, column, value);
+    });
+    finish(problem, {edited});
+}
+
+void FlightsTab::addFlight()
+{
+    const std::shared_ptr<const Catalogue> catalogue = m_logbook.catalogue();
+    if (!catalogue)
+        return;
+    FlightDialog dialog(catalogue, m_logbook, m_questions, this);
+    if (dialog.exec() == QDialog::Accepted)
+        finish(QString(), {dialog.added()});
+}
+
+void FlightsTab::deleteFlights()
+{
+    enum { DeleteAll, DeleteFlights, Cancel };
+    const std::shared_ptr<const Catalogue> shown = m_flights.catalogue();
+    const QList<FlightPlace> places = m_table->chosen();
+    const auto count = static_cast<int>(places.size());
+    Question question;
+    question.text = count == 1 ? tr("Delete this flight?") : tr("Delete these %n flights?", nullptr, count);
+    question.details =
+        tr("Discharges at the same times can be deleted with them; the cycles of the batteries "
+           "are then reduced. The models' numbers of flights stay as they are. This can be "
+           "undone.");
+    question.answers = QStringList{tr("Delete With Discharges"), tr("Delete Flights Only"), tr("Cancel")};
+    question.preferred = Cancel;
+    question.refusal = Cancel;
+    const int answer = m_questions.ask(question).button;
+    if (answer == Cancel)
+        return;
+    const auto discharges = answer == DeleteAll ? Edits::Discharges::Delete : Edits::Discharges::Keep;
+    const QString name = count == 1 ? tr("Flight deleted") : tr("%n flights deleted", nullptr, count);
+    finish(m_logbook.change(name, [&](Catalogue &catalogue) {
+        if (!FlightEdits::areThere(places, *shown, catalogue))
+            return FlightEdits::changedMeanwhile();
+        return Edits::deleteFlights(catalogue, places, discharges);
+    }));
+}
+
+void FlightsTab::moveFlights()
+{
+    const std::shared_ptr<const Catalogue> shown = m_flights.catalogue();
+    QList<FlightPlace> places = m_table->chosen();
+    MoveDialog dialog(*shown, places, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QString name = places.size() == 1
+                             ? tr("Flight moved")
+                             : tr("%n flights moved", nullptr, static_cast<int>(places.size()));
+    const QString problem = m_logbook.change(name, [&](Catalogue &catalogue) {
+        if (!FlightEdits::areThere(places, *shown, catalogue))
+            return FlightEdits::changedMeanwhile();
+        return dialog.apply(catalogue, places);
+    });
+    finish(problem, places);
+}
+
+void FlightsTab::tidyUp()
+{
+    const std::shared_ptr<const Catalogue> shown = m_flights.catalogue();
+    const QList<Edits::Double> doubles = Edits::doubles(*shown);
+    if (doubles.isEmpty()) {
+        m_questions.tell(tr("No flight stands twice. A flight is taken for a double when it is at most 5 s "
+                            "after another one of the same model and the same in everything else."));
+        return;
+    }
+    TidyDialog dialog(*shown, doubles, this);
+    if (dialog.exec() != QDialog::Accepted || dialog.chosen().isEmpty())
+        return;
+    const QList<FlightPlace> places = dialog.chosen();
+    finish(m_logbook.change(tr("Flights that stood twice removed"), [&](Catalogue &catalogue) {
+        if (!FlightEdits::areThere(places, *shown, catalogue))
+            return FlightEdits::changedMeanwhile();
+        return Edits::deleteFlights(catalogue, places, Edits::Discharges::Delete);
+    }));
+}
+
+void FlightsTab::rename()
+{
+    renameRecord(m_logbook, m_questions, this);
+    refresh();
+}
 
 } // namespace Host

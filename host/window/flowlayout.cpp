@@ -56,8 +56,11 @@ QSize FlowLayout::minimumSize() const
 
 int FlowLayout::heightForWidth(int width) const
 {
+    int height = 0;
     const QList<QRect> rects = places(QRect(0, 0, width, 0));
-    return rects.isEmpty() ? 0 : rects.constLast().bottom() + 1;
+    for (const QRect &rect : rects) // the last item need not be the highest of its row
+        height = qMax(height, rect.bottom() + 1);
+    return height;
 }
 
 QList<QRect> FlowLayout::places(const QRect &rect) const

@@ -8,9 +8,9 @@
 #include "gui/pages.h"
 #include "host/safety/backups.h"
 #include "host/safety/folderlock.h"
-#include "host/window/openlogbook.h"
 #include "host/window/mainwindow.h"
 #include "host/window/messagebar.h"
+#include "host/window/openlogbook.h"
 #include "host/window/savecare.h"
 #include "tests/support/warnings.h"
 
