@@ -180,7 +180,7 @@ QString BatteriesModel::spoken(const BatteryFigures &figures, int column)
     if (column == Counted)
         return tr("%1 measured or entered").arg(number);
     if (column == Age)
-        return tr("%n day(s) old", nullptr, static_cast<int>(*figures.ageDays));
+        return tr("%n days old", nullptr, static_cast<int>(*figures.ageDays));
     return tr("%1: %2").arg(title(column), number);
 }
 

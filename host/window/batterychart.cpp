@@ -185,7 +185,7 @@ QString batteryChartDescription(const Battery &battery, Quantity quantity, const
     const auto [lowest, highest] =
         std::minmax_element(history.points.cbegin(), history.points.cend(), isLower);
     const QLocale locale;
-    QString text = BatteryChart::tr("%1 of %2: %Ln discharge(s) from %3 to %4, %5 to %6.", nullptr,
+    QString text = BatteryChart::tr("%1 of %2: %Ln discharges from %3 to %4, %5 to %6.", nullptr,
                                     static_cast<int>(history.points.size()));
     text =
         text.arg(nameOf(quantity), battery.name,
@@ -203,7 +203,7 @@ QString batteryChartDescription(const Battery &battery, Quantity quantity, const
     if (history.limit)
         text += u' ' + limitName(quantity, *history.limit) + u'.';
     if (history.withoutTime > 0)
-        text += u' ' + BatteryChart::tr("%Ln discharge(s) without a time are in the table alone.", nullptr,
+        text += u' ' + BatteryChart::tr("%Ln discharges without a time are in the table alone.", nullptr,
                                         history.withoutTime);
     return text;
 }

@@ -3,12 +3,12 @@
 
 #include "host/window/batterychart.h"
 #include "host/window/dischargesmodel.h"
-#include "host/window/flowlayout.h"
 #include "host/window/plotbuttons.h"
 #include "host/window/plotview.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QStackedWidget>
@@ -40,11 +40,12 @@ BatteryPlot::BatteryPlot(Questions &questions, QWidget *parent)
     buildTable();
 
     auto *choices = new QWidget;
-    auto *row = new FlowLayout(choices);
+    auto *row = new QHBoxLayout(choices);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(label);
     row->addWidget(m_quantity);
     row->addWidget(m_asTable);
+    row->addStretch();
     for (QWidget *page :
          {static_cast<QWidget *>(m_plot), static_cast<QWidget *>(m_table), static_cast<QWidget *>(m_note)})
         m_pages->addWidget(page);
@@ -53,8 +54,8 @@ BatteryPlot::BatteryPlot(Questions &questions, QWidget *parent)
     layout->addWidget(choices);
     layout->addWidget(m_pages, 1);
     layout->addWidget(m_buttons);
-    connect(m_quantity, &QComboBox::currentIndexChanged, this, &BatteryPlot::show);
-    connect(m_asTable, &QCheckBox::toggled, this, &BatteryPlot::show);
+    connect(m_quantity, &QComboBox::currentIndexChanged, this, &BatteryPlot::showChosen);
+    connect(m_asTable, &QCheckBox::toggled, this, &BatteryPlot::showChosen);
 }
 
 void BatteryPlot::buildTable()
@@ -72,7 +73,7 @@ void BatteryPlot::setBattery(const std::optional<Battery> &battery)
 {
     m_battery = battery;
     m_discharges->setBattery(battery.value_or(Battery()));
-    show();
+    showChosen();
 }
 
 /** Why there is no plot; empty when there is one. */
@@ -85,7 +86,7 @@ QString BatteryPlot::obstacle() const
     return QString();
 }
 
-void BatteryPlot::show()
+void BatteryPlot::showChosen()
 {
     const auto quantity = static_cast<Quantity>(m_quantity->currentData().toInt());
     QString problem = obstacle();

@@ -35,7 +35,7 @@ public:
 
 private:
     void buildTable();
-    void show();
+    void showChosen();
     QString obstacle() const;
 
     std::optional<Battery> m_battery;

@@ -6,6 +6,7 @@
 #include <QBarSet>
 #include <QChart>
 #include <QEvent>
+#include <QGraphicsLayout>
 #include <QLegend>
 #include <QLineSeries>
 #include <QScatterSeries>
@@ -73,6 +74,8 @@ void PlotView::setPlot(std::unique_ptr<QChart> plot, const QString &name, const 
     setChart(plot.release()); // it is the view's now
     chart()->setTitle(name);
     chart()->setLocalizeNumbers(true);
+    chart()->setBackgroundRoundness(0);
+    chart()->layout()->setContentsMargins(0, 0, 0, 0);
     setAccessibleName(name);
     setAccessibleDescription(description);
     setToolTip(description);

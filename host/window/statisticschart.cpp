@@ -45,16 +45,16 @@ QDate firstDayOf(const GroupFigures &month)
     return QDate::fromString(month.name + u"-01"_s, u"yyyy-MM-dd"_s);
 }
 
-/** The newest months, those without a flight between them included. */
+/** Of months that come in descending order the first ones, ascending; those between them included. */
 QList<GroupFigures> newestMonths(const QList<GroupFigures> &months)
 {
     QList<GroupFigures> newest;
-    QDate day = firstDayOf(months.constLast());
-    for (qsizetype i = months.size() - 1; i >= 0 && newest.size() < MostMonths; day = day.addMonths(-1)) {
+    QDate day = firstDayOf(months.constFirst());
+    for (qsizetype i = 0; i < months.size() && newest.size() < MostMonths; day = day.addMonths(-1)) {
         if (day.isValid() && firstDayOf(months.at(i)) < day)
-            newest.prepend({day.toString(u"yyyy-MM"_s)});
+            newest.prepend({day.toString(u"yyyy-MM")});
         else
-            newest.prepend(months.at(i--));
+            newest.prepend(months.at(i++));
     }
     return newest;
 }
@@ -113,7 +113,7 @@ StatisticsPlot plotOf(const QList<GroupFigures> &groups, Grouping grouping, Meas
     if (grouping != Grouping::Month)
         return {highestOf(groups, measure), grouping, measure, groups.size() <= MostOthers};
     const QList<GroupFigures> newest = newestMonths(groups);
-    return {newest, grouping, measure, newest.constFirst().name <= groups.constFirst().name};
+    return {newest, grouping, measure, newest.constFirst().name == groups.constLast().name};
 }
 
 QString statisticsChartName(const StatisticsPlot &plot)
@@ -124,7 +124,7 @@ QString statisticsChartName(const StatisticsPlot &plot)
     case Grouping::Month:
         return plot.isComplete
                    ? StatisticsChart::tr("%1 by month").arg(what)
-                   : StatisticsChart::tr("%1 by month, the newest %n month(s)", nullptr, count).arg(what);
+                   : StatisticsChart::tr("%1 by month, the newest %n months", nullptr, count).arg(what);
     case Grouping::Model:
         return plot.isComplete
                    ? StatisticsChart::tr("%1 by model").arg(what)

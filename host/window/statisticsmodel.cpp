@@ -10,7 +10,7 @@ QList<GroupFigures> groupsOf(const Figures &figures, Grouping grouping)
     QList<GroupFigures> groups;
     if (grouping == Grouping::Month) {
         for (const MonthFigures &month : figures.months)
-            groups.append({month.month, month.flights, month.minutes, month.discharged});
+            groups.prepend({month.month, month.flights, month.minutes, month.discharged});
     } else if (grouping == Grouping::Model) {
         for (const ModelFigures &model : figures.models)
             groups.append({model.name, model.flights, model.minutes});

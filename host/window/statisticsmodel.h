@@ -19,7 +19,7 @@ struct GroupFigures
     quint64 discharged = 0; ///< mAh; of months alone
 };
 
-/** The groups of a kind, in the order of the figures. */
+/** The groups of a kind: months, the newest first; others in the order of the figures. */
 QList<GroupFigures> groupsOf(const Figures &figures, Grouping grouping);
 
 /** Flights, minutes and mAh of months, models or locations, a row for each. */

@@ -145,7 +145,7 @@ void StatisticsTab::buildTable()
     m_table->setWordWrap(false);
     m_table->verticalHeader()->hide();
     m_table->setSortingEnabled(true);
-    m_table->sortByColumn(-1, Qt::AscendingOrder); // as in the figures, until the user wishes otherwise
+    m_table->sortByColumn(-1, Qt::AscendingOrder); // as they come, until the user wishes otherwise
     m_table->setAccessibleName(tr("Flights, added up"));
     QHeaderView *header = m_table->horizontalHeader();
     header->setHighlightSections(false);
@@ -235,14 +235,14 @@ QString StatisticsTab::summary() const
         return tr("The first day is after the last one.");
     const QLocale locale;
     const MonthFigures &total = m_figures.total;
-    QString text = tr("In all: %Ln flight(s), %1 minutes, %2 mAh.", nullptr, total.flights)
+    QString text = tr("In all: %Ln flights, %1 minutes, %2 mAh.", nullptr, total.flights)
                        .arg(locale.toString(total.minutes, 'f', 1), locale.toString(total.discharged));
     const auto grouping = static_cast<Grouping>(m_grouping->currentData().toInt());
     const int missing = total.flights - flightsOf(groupsOf(m_figures, grouping));
     if (missing > 0)
         text += u' ' + (grouping == Grouping::Month
-                            ? tr("%Ln flight(s) without a time are not in the table.", nullptr, missing)
-                            : tr("%Ln flight(s) without a location are not in the table.", nullptr, missing));
+                            ? tr("%Ln flights without a time are not in the table.", nullptr, missing)
+                            : tr("%Ln flights without a location are not in the table.", nullptr, missing));
     return text;
 }
 

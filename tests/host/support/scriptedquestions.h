@@ -35,96 +35,89 @@ public:
     /** Whether every answer was asked for. */
     bool isDone() const
     {
-        {
-            return m_answers.isEmpty() && m_folders.isEmpty() && m_files.isEmpty() && m_prints.isEmpty();
+        return m_answers.isEmpty() && m_folders.isEmpty() && m_files.isEmpty() && m_prints.isEmpty();
+    }
+
+    Host::Answer ask(const Host::Question &question) override
+    {
+        record(question);
+        if (m_answers.isEmpty()) {
+            fail("a question that nobody expected: " + question.text);
+            return {question.refusal, -1};
         }
+        const Scripted scripted = m_answers.takeFirst();
+        const auto button = static_cast<int>(question.answers.indexOf(scripted.caption));
+        if (button < 0)
+            fail("\"" + question.text + "\" has no answer \"" + scripted.caption + "\"");
+        return {button < 0 ? question.refusal : button, rowFor(question, scripted.row)};
+    }
 
-        Host::Answer ask(const Host::Question &question) override
-        {
-            record(question);
-            if (m_answers.isEmpty()) {
-                fail("a question that nobody expected: " + question.text);
-                return {question.refusal, -1};
-            }
-            const Scripted scripted = m_answers.takeFirst();
-            const auto button = static_cast<int>(question.answers.indexOf(scripted.caption));
-            if (button < 0)
-                fail("\"" + question.text + "\" has no answer \"" + scripted.caption + "\"");
-            return {button < 0 ? question.refusal : button, rowFor(question, scripted.row)};
-        }
+    void tell(const QString &text) override { m_told.append(text); }
 
-        void tell(const QString &text) override
-        {
-            m_told.append(text);
-        }
+    QString chooseFolder(const QString &caption) override
+    {
+        if (!m_folders.isEmpty())
+            return m_folders.takeFirst();
+        fail("a folder that nobody expected to be asked for: " + caption);
+        return QString();
+    }
 
-        QString chooseFolder(const QString &caption) override
-        {
-            if (!m_folders.isEmpty())
-                return m_folders.takeFirst();
-            fail("a folder that nobody expected to be asked for: " + caption);
-            return QString();
-        }
+    QString chooseSaveFile(const QString &caption, const QString &name, const QStringList &) override
+    {
+        m_proposed.append(name);
+        if (!m_files.isEmpty())
+            return m_files.takeFirst();
+        fail("a file that nobody expected to be asked for: " + caption);
+        return QString();
+    }
 
-        QString chooseSaveFile(const QString &caption, const QString &name, const QStringList &) override
-        {
-            m_proposed.append(name);
-            if (!m_files.isEmpty())
-                return m_files.takeFirst();
-            fail("a file that nobody expected to be asked for: " + caption);
-            return QString();
-        }
+    void print(const QString &name, const std::function<void(QPrinter &)> &paint) override
+    {
+        m_proposed.append(name);
+        if (m_prints.isEmpty())
+            return fail("something that nobody expected to be printed: " + name);
+        const QString path = m_prints.takeFirst();
+        if (path.isEmpty())
+            return;
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setDocName(name);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(path);
+        paint(printer);
+    }
 
-        void print(const QString &name, const std::function<void(QPrinter &)> &paint) override
-        {
-            m_proposed.append(name);
-            if (m_prints.isEmpty())
-                return fail("something that nobody expected to be printed: " + name);
-            const QString path = m_prints.takeFirst();
-            if (path.isEmpty())
-                return;
-            QPrinter printer(QPrinter::HighResolution);
-            printer.setDocName(name);
-            printer.setOutputFormat(QPrinter::PdfFormat);
-            printer.setOutputFileName(path);
-            paint(printer);
-        }
-
-    private:
-        struct Scripted
-        {
-            QString caption;
-            int row;
-        };
-
-        static int rowFor(const Host::Question &question, int row)
-        {
-            if (!question.choices)
-                return -1;
-            return row < 0 ? question.chosen : row;
-        }
-
-        void record(const Host::Question &question)
-        {
-            QStringList table;
-            for (int row = 0; question.choices && row < question.choices->rowCount(); ++row)
-                table.append(question.choices->index(row, 0).data().toString());
-            m_tables.append(table);
-            m_asked.append(question);
-            m_asked.last().choices = nullptr;
-        }
-
-        static void fail(const QString &what)
-        {
-            QTest::qFail(qPrintable(what), __FILE__, __LINE__);
-        }
-
-        QList<Scripted> m_answers;
-        QStringList m_folders;
-        QStringList m_files;
-        QStringList m_prints;
-        QStringList m_proposed;
-        QList<Host::Question> m_asked;
-        QList<QStringList> m_tables;
-        QStringList m_told;
+private:
+    struct Scripted
+    {
+        QString caption;
+        int row;
     };
+
+    static int rowFor(const Host::Question &question, int row)
+    {
+        if (!question.choices)
+            return -1;
+        return row < 0 ? question.chosen : row;
+    }
+
+    void record(const Host::Question &question)
+    {
+        QStringList table;
+        for (int row = 0; question.choices && row < question.choices->rowCount(); ++row)
+            table.append(question.choices->index(row, 0).data().toString());
+        m_tables.append(table);
+        m_asked.append(question);
+        m_asked.last().choices = nullptr;
+    }
+
+    static void fail(const QString &what) { QTest::qFail(qPrintable(what), __FILE__, __LINE__); }
+
+    QList<Scripted> m_answers;
+    QStringList m_folders;
+    QStringList m_files;
+    QStringList m_prints;
+    QStringList m_proposed;
+    QList<Host::Question> m_asked;
+    QList<QStringList> m_tables;
+    QStringList m_told;
+};
