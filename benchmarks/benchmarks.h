@@ -35,5 +35,7 @@ void startup(Report &report, const Plan &plan);
 /** What the program's care for the file costs the window's thread, against the window's own save and reload.
  */
 void care(Report &report, const Plan &plan);
+/** Figures and plots of a large logbook, against the window's own reload. */
+void figures(Report &report, const Plan &plan);
 
 } // namespace Benchmarks

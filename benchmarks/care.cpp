@@ -32,10 +32,10 @@ public:
     {
         Host::SaveWatch &watch = window.m_care->m_watch;
         double time = Measure::threadSeconds([&] { watch.beforeClick(); });
-        window.m_logbook->writeDataWithDataprocessor();
+        window.m_gui->writeDataWithDataprocessor();
         time += Measure::threadSeconds([&] {
             if (edited) { // as if the overview had got new cards; a reload would have to be drawn here
-                watch.watchCards(window.m_logbook->ui->scrollArea->widget());
+                watch.watchCards(window.m_gui->ui->scrollArea->widget());
                 watch.m_contentBeforeClick = nullptr;
                 watch.editClicked();
             } else {

@@ -24,7 +24,8 @@ using Benchmark = void (*)(Report &, const Benchmarks::Plan &);
 const QList<std::pair<QString, Benchmark>> All = {
     {u"storage"_s, Benchmarks::storage}, {u"window"_s, Benchmarks::window},
     {u"charts"_s, Benchmarks::charts},   {u"memory"_s, Benchmarks::memory},
-    {u"startup"_s, Benchmarks::startup}, {u"care"_s, Benchmarks::care}};
+    {u"startup"_s, Benchmarks::startup}, {u"care"_s, Benchmarks::care},
+    {u"figures"_s, Benchmarks::figures}};
 
 /** The same surroundings everywhere; the user's own settings are neither read nor written. */
 void settleSurroundings(const QString &home)
@@ -74,9 +75,9 @@ int main(int argc, char *argv[])
     const QCommandLineOption json(u"json"_s, u"Save the figures in <file>."_s, u"file"_s);
     const QCommandLineOption plot(u"plot"_s, u"Save the plot of cost against size in <file>."_s, u"file"_s);
     parser.addOptions({quick, json, plot});
-    parser.addPositionalArgument(u"subject"_s,
-                                 u"storage, window, charts, memory, startup, care; all by default."_s,
-                                 u"[subject...]"_s);
+    parser.addPositionalArgument(
+        u"subject"_s, u"storage, window, charts, memory, startup, care, figures; all by default."_s,
+        u"[subject...]"_s);
     parser.process(application);
 
     Benchmarks::Plan plan;
