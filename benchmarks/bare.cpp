@@ -16,6 +16,8 @@
 #include <algorithm>
 #include <initializer_list>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace Key = DataFile::Key;
 
 namespace {
@@ -26,7 +28,7 @@ void writeAll(QXmlStreamWriter &writer, const QList<Bare::Element> &elements)
 {
     writer.setAutoFormatting(true);
     writer.writeStartDocument();
-    writer.writeDTD(QStringLiteral("<!DOCTYPE Voltbok>"));
+    writer.writeDTD(u"<!DOCTYPE Voltbok>"_s);
     for (const Element &element : elements) {
         switch (element.kind) {
         case Element::Start:

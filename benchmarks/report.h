@@ -3,48 +3,47 @@
 
 #include "measure.h"
 
-#include <QList>
-#include <QPointF>
 #include <QString>
 
-#include <optional>
+#include <benchmark/benchmark.h>
 
-/** What was measured, with the targets; printed as a Markdown table, saved as JSON, drawn as a plot. */
-class Report
+#include <fstream>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+/**
+ * Has Google Benchmark measure one piece of work after the other, and writes what it found into one file of
+ * JSON.
+ *
+ * A work that is done at several sizes ends in ", N entries".
+ */
+class Report : private benchmark::JSONReporter
 {
 public:
-    struct Row
-    {
-        QString work;
-        QString against; ///< or what the value counts
-        double value = 0.0;
-        QString unit;
-        std::optional<double> target; ///< the value may be as high as this
-        Measure::Pair times;          ///< all 0 where no times were compared
-    };
+    explicit Report(const std::string &path);
+    ~Report() override;
+    Q_DISABLE_COPY_MOVE(Report)
 
-    /** The cost of one piece of work at several sizes, in processor seconds. */
-    struct Curve
-    {
-        QString work;
-        QList<QPointF> points;
-    };
-
-    /** Measures two pieces of work in turn and adds a row with their ratio. */
-    Measure::Pair compare(const QString &work, const QString &against, int rounds, const Measure::Run &run,
-                          const Measure::Run &other, std::optional<double> target = {});
+    /**
+     * Measures two pieces of work in turn, after one run of each that does not count: what disturbs one
+     * disturbs the other. The ratio is that of two neighbouring runs; it may be as high as @p limit.
+     */
+    void compare(const QString &work, const QString &against, int rounds, const Measure::Run &run,
+                 const Measure::Run &other, std::optional<double> limit = {});
     void addValue(const QString &work, const QString &what, double value, const QString &unit,
-                  std::optional<double> target = {});
-    /** Adds a point to the curve with this name. */
-    void addPoint(const QString &curve, int entries, double seconds);
-    /** Turns the curve into a row with its slope. */
-    void addSlope(const QString &curve, std::optional<double> target = {});
-
-    QString markdown() const;
-    bool saveJson(const QString &path, bool quick) const;
-    bool savePlot(const QString &path) const;
+                  std::optional<double> limit = {});
 
 private:
-    QList<Row> rows;
-    QList<Curve> curves;
+    using Round = std::function<void(benchmark::State &)>;
+
+    void measure(const QString &work, const QString &against, int rounds, const Round &round,
+                 std::optional<double> limit);
+    bool ReportContext(const Context &context) override;
+    void ReportRuns(const std::vector<Run> &runs) override;
+    void Finalize() override {}
+
+    std::ofstream m_file;
+    bool m_isBegun = false;
 };

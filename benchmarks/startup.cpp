@@ -12,6 +12,8 @@
 
 #include <optional>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 /** A server of X11 windows that are drawn into memory. */
@@ -20,11 +22,11 @@ class XServer
 public:
     XServer()
     {
-        server.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1")});
+        server.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s});
         if (!server.waitForReadyRead())
             qFatal("Xvfb did not start.");
-        surroundings.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("xcb"));
-        surroundings.insert(QStringLiteral("DISPLAY"),
+        surroundings.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+        surroundings.insert(u"DISPLAY"_s,
                             u':' + QString::fromLatin1(server.readAllStandardOutput().trimmed()));
     }
     ~XServer()
@@ -74,29 +76,28 @@ Measure::Run showingFirst(const QString &name, const QProcessEnvironment &enviro
 
 void Benchmarks::startup(Report &report, const Plan &plan)
 {
-    const QString empty = QStringLiteral("start_empty");
-    const QString logbook = QStringLiteral("start_logbook");
+    const QString empty = u"start_empty"_s;
+    const QString logbook = u"start_logbook"_s;
     const int rounds = plan.rounds(1000);
     const auto compareFirstWindow = [&](const QString &where, const QProcessEnvironment &environment,
                                         std::optional<double> target) {
-        report.compare(QStringLiteral("first window of a program constructed and shown") + where,
-                       QStringLiteral("an empty QMainWindow as the first"), rounds,
-                       showingFirst(logbook, environment), showingFirst(empty, environment), target);
+        report.compare(u"first window of a program constructed and shown"_s + where,
+                       u"an empty QMainWindow as the first"_s, rounds, showingFirst(logbook, environment),
+                       showingFirst(empty, environment), target);
     };
     compareFirstWindow({}, QProcessEnvironment::systemEnvironment(), {});
-    compareFirstWindow(QStringLiteral(" by an X server"), XServer().environment(), 8.0);
+    compareFirstWindow(u" by an X server"_s, XServer().environment(), 8.0);
 
-    const QString against = QStringLiteral("a program with an empty QMainWindow");
-    report.compare(QStringLiteral("program started to first frame"), against, rounds, starting(logbook),
-                   starting(empty));
+    const QString against = u"a program with an empty QMainWindow"_s;
+    report.compare(u"program started to first frame"_s, against, rounds, starting(logbook), starting(empty));
     const QTemporaryDir folder;
     Catalogue::withEntries(1000).writeTo(folder.path());
-    report.compare(QStringLiteral("program started to first frame, 100 batteries, 1000 entries"), against,
-                   rounds, starting(logbook, {folder.path()}), starting(empty));
+    report.compare(u"program started to first frame, 100 batteries, 1000 entries"_s, against, rounds,
+                   starting(logbook, {folder.path()}), starting(empty));
 
     const QTemporaryDir pictures;
-    const QStringList drawing = {QStringLiteral("--data"), folder.path(), QStringLiteral("--screenshot"),
-                                 pictures.filePath(QStringLiteral("overview.png"))};
-    report.compare(QStringLiteral("host started, folder locked, file checked, window drawn into a file"),
-                   against, rounds, starting(QStringLiteral(HOST), drawing), starting(empty));
+    const QStringList drawing = {u"--data"_s, folder.path(), u"--screenshot"_s,
+                                 pictures.filePath(u"overview.png"_s)};
+    report.compare(u"host started, folder locked, file checked, window drawn into a file"_s, against, rounds,
+                   starting(QStringLiteral(HOST), drawing), starting(empty));
 }

@@ -15,16 +15,9 @@ target_compile_definitions(voltbok_compiler_settings INTERFACE
     QT_DISABLE_DEPRECATED_BEFORE=0x060400
     QT_DEPRECATED_WARNINGS_SINCE=0x060400)
 
-if(MSVC)
-    target_compile_options(voltbok_compiler_settings INTERFACE /W4 /utf-8)
-else()
-    target_compile_options(voltbok_compiler_settings INTERFACE
-        -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
-endif()
-
-if(VOLTBOK_WARNINGS_AS_ERRORS)
-    target_compile_options(voltbok_compiler_settings INTERFACE $<IF:$<BOOL:${MSVC}>,/WX,-Werror>)
-endif()
+target_compile_options(voltbok_compiler_settings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+    $<$<BOOL:${VOLTBOK_WARNINGS_AS_ERRORS}>:-Werror>)
 
 if(VOLTBOK_SANITIZE)
     target_compile_options(voltbok_compiler_settings INTERFACE

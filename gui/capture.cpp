@@ -35,7 +35,7 @@ void VoltbokGui::showBatteryCharge()
     currentPage = Page::Discharge;
     chargeBattery = card;
     if (card->getViewMode() == BatteryWidget::Complex)
-        ui->stackedWidget->setCurrentWidget(ui->dischargeView);
+        showPage(Page::Discharge);
     else
         on_pb_save_discharged_clicked();
 }

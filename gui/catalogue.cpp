@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window's rhythm: write the whole file, read it back, rebuild every view from it.
+#include "gui/deleteall.h"
 #include "gui/preferences.h"
 #include "gui/recordlookup.h"
 #include "gui/voltbokgui.h"
@@ -61,7 +62,7 @@ void VoltbokGui::reloadLocations()
 
 void VoltbokGui::reloadModels()
 {
-    qDeleteAll(std::exchange(modelList, {}));
+    deleteAll(modelList);
     dataProcessor.getModelWidgetsFromData(modelList);
     const QVariant preselected = Preferences::read(Preferences::PreselectedModel);
     if (modelList.isEmpty())
@@ -79,7 +80,7 @@ void VoltbokGui::reloadModels()
 void VoltbokGui::reloadBatteries()
 {
     chargeBattery = nullptr; // it would refer to a record that is deleted here
-    qDeleteAll(std::exchange(batteryList, {}));
+    deleteAll(batteryList);
     dataProcessor.getBatteryWidgetsFromData(batteryList);
     ui->pb_chart->setEnabled(!batteryList.isEmpty());
     if (batteryList.isEmpty())

@@ -4,6 +4,7 @@
 #include "gui/voltbokgui.h"
 #include "records/batterywidget.h"
 #include "records/figures.h"
+#include "records/shorttext.h"
 #include "ui_voltbokgui.h"
 
 #include <QAbstractAxis>
@@ -70,6 +71,9 @@ void VoltbokGui::on_cb_batteryData_currentIndexChanged(int index)
     brightenLabels(chart->axes(Qt::Horizontal));
     brightenLabels(chart->axes(Qt::Vertical));
     showChart(chart);
+    chartView->setAccessibleName(
+        tr("Chart of %1 in %2")
+            .arg(shortText(battery.getBatteryName()), ui->btngrp_showData->checkedButton()->text()));
 }
 
 QList<QPointF> VoltbokGui::chartPoints(BatteryWidget &battery) const
@@ -98,6 +102,7 @@ void VoltbokGui::showChart(QChart *chart)
         chartView->hide(); // intentional: older views are kept, in their cell below the newest
     chartView = new QChartView(chart, this);
     chartView->setRenderHint(QPainter::Antialiasing);
+    chartView->viewport()->setFocusPolicy(Qt::NoFocus); // no key does anything here: Tab passes it by
     ui->layout_batteryData->removeItem(ui->verticalSpacer_chart);
     delete std::exchange(ui->verticalSpacer_chart, nullptr); // only the first chart finds the placeholder
     ui->layout_batteryData->addWidget(chartView, 3, 0, 1, 7);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The buttons that do little more than show another page.
 #include "gui/dateinput.h"
+#include "gui/fieldtexts.h"
+#include "gui/pageentry.h"
 #include "gui/pages.h"
 #include "gui/voltbokgui.h"
 #include "ui_voltbokgui.h"
@@ -44,8 +46,14 @@ QWidget *VoltbokGui::widgetOf(Page::Id page) const
 
 void VoltbokGui::showPage(Page::Id page)
 {
-    ui->stackedWidget->setCurrentWidget(widgetOf(page));
+    QWidget *shown = widgetOf(page);
+    const bool comes = ui->stackedWidget->currentWidget() != shown;
+    ui->stackedWidget->setCurrentWidget(shown);
     currentPage = page;
+    if (page == Page::ModifyBattery || page == Page::ModifyModel)
+        FieldTexts::forgetDefaults(shown->findChildren<QLineEdit *>());
+    if (comes) // intentional: a discharge at once leaves the focus on the overview where it is
+        enterPage(shown);
 }
 
 void VoltbokGui::showOverview()

@@ -10,6 +10,8 @@
 
 #include <utility>
 
+using namespace Qt::Literals::StringLiterals;
+
 ModelWidget *VoltbokGui::selectedModel() const
 {
     return RecordLookup::last(modelList, ui->cb_select_model->currentText());
@@ -58,11 +60,11 @@ QWidget *VoltbokGui::renewContent()
     old->setParent(this);
 
     auto *content = new QWidget;
-    content->setObjectName(QStringLiteral("scrollView"));
+    content->setObjectName(u"scrollView"_s);
     content->setGeometry(0, 0, 271, 319); // as the form has it
     ui->scrollView = content;
     ui->lo_overview = new QGridLayout(content);
-    ui->lo_overview->setObjectName(QStringLiteral("lo_overview"));
+    ui->lo_overview->setObjectName(u"lo_overview"_s);
     return content;
 }
 

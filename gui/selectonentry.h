@@ -6,9 +6,12 @@
 class QLineEdit;
 
 /**
- * Selects the whole content of a field with a mask when the user enters it by mouse or Tab, so that what is
- * typed takes its place. Left alone, a click puts the cursor behind the last place of the mask, where every
- * key is lost, or between the digits.
+ * Selects what a click or Tab goes to, so that what is typed takes its place: the whole content of a field
+ * with a mask, the number of a spin box, the section of a date or a time. Left alone, a click puts the cursor
+ * behind the last place of a mask, where every key is lost, or between digits that are in the way. What is
+ * selected by dragging stays selected. Other fields are left to themselves.
+ *
+ * One object serves all fields. It is to be installed on the line edits, also on those inside spin boxes.
  */
 class SelectOnEntry : public QObject
 {
@@ -21,5 +24,5 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    QObject *m_clicked = nullptr; // the field that a mouse button, still down, has entered
+    bool m_doubleClicked = false; // the mouse button that is down now was pressed twice
 };

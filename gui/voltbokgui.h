@@ -106,6 +106,8 @@ private:
     enum class OtherBatteries { Clear, Keep };
 
     void retranslate();
+    void easeInput();
+    void adaptForms();
 
     // navigation
     QWidget *widgetOf(Page::Id page) const;

@@ -80,8 +80,8 @@ void RotavexPlugin::switchLanguage(const QLocale &locale)
     for (auto it = translators.cbegin(); it != translators.cend(); ++it) {
         QTranslator *translator = it.value();
         QCoreApplication::removeTranslator(translator);
-        // The fallback is the base class's file whatever the key: a derived plugin's translator gets it too,
-        // as meant.
+        // Intentional: the fallback is the base class's file whatever the key; a derived plugin's translator
+        // gets it, too.
         if (translator->load(locale, it.key(), LocaleSeparator, translationDirectory) ||
             translator->load(locale, BaseTranslation, LocaleSeparator, HostTranslationDirectory)) {
             QCoreApplication::installTranslator(translator);

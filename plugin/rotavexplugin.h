@@ -99,6 +99,7 @@ private:
     QIcon m_icon;
     QString m_description;
     QString m_copyright;
+    // These two are known by their names, without the m_ of the others.
     QString translationDirectory;
     QMap<QString, QTranslator *> translators; // by base name of the file; children of the plugin
 };

@@ -31,23 +31,35 @@ public:
     bool chargeStateShown = false; // until then the button keeps the placeholder of the form
 
     void showChargeState();
+    /** Tells screen readers whose button it is, and what it does. */
+    void nameButton();
     void showDetails(bool visible);
 };
 
 namespace {
 // By name, as soon as the library is loaded: a host may create a record through the meta-type system alone.
-[[maybe_unused]] const int metaTypeId = qRegisterMetaType<BatteryWidget>();
+[[maybe_unused]] const int MetaTypeId = qRegisterMetaType<BatteryWidget>();
 
-// The light blue on bright green is the chosen look.
-const char chargedStyle[] = "background-color: rgb(0, 255, 0);\ncolor: rgb(85, 170, 255);";
-const char dischargedStyle[] = "background-color: rgb(255, 50, 0);\ncolor: rgb(255, 255, 255);";
+// Intentional: light blue on bright green.
+constexpr QLatin1StringView ChargedStyle("background-color: rgb(0, 255, 0);\ncolor: rgb(85, 170, 255);");
+constexpr QLatin1StringView DischargedStyle("background-color: rgb(255, 50, 0);\ncolor: rgb(255, 255, 255);");
 } // namespace
 
 void BatteryWidgetPrivate::showChargeState()
 {
     chargeStateShown = true;
     ui.pushButton->setText(charged ? BatteryWidget::tr("Charged") : BatteryWidget::tr("Discharged"));
-    ui.pushButton->setStyleSheet(QLatin1StringView(charged ? chargedStyle : dischargedStyle));
+    ui.pushButton->setStyleSheet(charged ? ChargedStyle : DischargedStyle);
+    nameButton();
+}
+
+void BatteryWidgetPrivate::nameButton()
+{
+    if (!chargeStateShown)
+        return;
+    const QString named = charged ? BatteryWidget::tr("%1: charged; press when discharged")
+                                  : BatteryWidget::tr("%1: discharged; press when charged");
+    ui.pushButton->setAccessibleName(named.arg(shortText(name)));
 }
 
 void BatteryWidgetPrivate::showDetails(bool visible)
@@ -63,7 +75,6 @@ BatteryWidget::BatteryWidget(QWidget *parent)
     , d(std::make_unique<BatteryWidgetPrivate>())
 {
     d->ui.setupUi(this);
-    d->ui.lbl_name->setTextFormat(Qt::PlainText); // a name is never markup
     setViewMode(Simple);
 }
 
@@ -73,6 +84,7 @@ void BatteryWidget::setBatteryName(QString &name)
 {
     d->name = name;
     d->ui.lbl_name->setText(shortText(name));
+    d->nameButton();
 }
 
 QString BatteryWidget::getBatteryName() const
@@ -137,7 +149,7 @@ unsigned int BatteryWidget::getBatteryLastMaxCurrent() const
 
 void BatteryWidget::setBatteryChargeRate(unsigned int rate)
 {
-    if (rate == 0) // deliberately: the rate cannot be cleared
+    if (rate == 0) // Intentional: the rate cannot be cleared.
         return;
     d->chargeRate = rate;
     d->ui.lbl_rate->setText(Figures::rates(d->rating, rate));

@@ -26,11 +26,14 @@ class VOLTBOK_EXPORT BatteryWidget : public QWidget
     Q_DISABLE_COPY_MOVE(BatteryWidget)
 
 public:
-    /** How much the card shows, and which capture mode a click on it follows. */
+    /**
+     * How much the card shows, and which capture mode a click on it follows. With an underlying type, as any
+     * other value can be stored, too.
+     */
     enum ViewMode : int {
         Simple = 0, ///< without the figures of the last discharge; a discharge is recorded at once
         Complex = 1 ///< with them; a discharge is recorded on the discharge page
-    };              // with an underlying type, since any other value can be stored, too
+    };
     Q_ENUM(ViewMode)
 
     explicit BatteryWidget(QWidget *parent = nullptr);

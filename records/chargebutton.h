@@ -1,33 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QEvent>
 #include <QPushButton>
 
 /**
- * The button of a card; its style sheet costs nothing until it is polished.
+ * The button of a card. It fills itself with the background colour of its style sheet and writes in the
+ * colour of that, in every style: left to a style, a gradient or a theme changes the colours that tell the
+ * charge state. To everybody else it is a push button.
  *
- * A push button answers a change of style with asking for its place in a layout, for which Qt works out all
- * rules of the style sheet, only to forget them when the button is polished. The colours of a card change
- * nothing of the place, so that answer is left out until then: it was a quarter of what building a card took.
- *
- * Inline as the generated form that makes it, which is compiled outside the library, too.
+ * A double click on it is one click: whatever moves below the pointer after the first press, the second press
+ * charges or discharges nothing more.
  */
 class ChargeButton : public QPushButton // clazy:exclude=missing-qobject-macro
 {
 public:
-    using QPushButton::QPushButton;
+    explicit ChargeButton(QWidget *parent = nullptr);
 
 protected:
-    bool event(QEvent *event) override
-    {
-        if (event->type() == QEvent::Polish)
-            m_polished = true;
-        if (event->type() == QEvent::StyleChange && !m_polished)
-            return true;
-        return QPushButton::event(event);
-    }
-
-private:
-    bool m_polished = false;
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
 };

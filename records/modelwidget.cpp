@@ -25,7 +25,7 @@ public:
 
 namespace {
 // By name, as soon as the library is loaded: a host may create a record through the meta-type system alone.
-[[maybe_unused]] const int metaTypeId = qRegisterMetaType<ModelWidget>();
+[[maybe_unused]] const int MetaTypeId = qRegisterMetaType<ModelWidget>();
 } // namespace
 
 ModelWidget::ModelWidget(QWidget *parent)
@@ -145,7 +145,7 @@ int ModelWidget::getLatestLog(LogData &out)
 }
 
 // Both steps tell whether another one in the same direction would deliver a different entry: the step onto
-// the newest or the oldest entry delivers it and already answers false. This is meant: the log book greys its
+// the newest or the oldest entry delivers it and already answers false. Intentional: the log book greys its
 // buttons by it.
 
 bool ModelWidget::getNextLog(LogData &out)

@@ -19,3 +19,10 @@ inline QString shortText(const QString &text)
     const bool splitsACharacter = text.at(LongestShownText - 1).isHighSurrogate();
     return text.left(splitsACharacter ? LongestShownText - 1 : LongestShownText);
 }
+
+/** A tooltip that tells a name which does not fit where it stands. A name is never markup. */
+inline QString wholeNameTip(const QString &name)
+{
+    using namespace Qt::Literals::StringLiterals;
+    return u"<p>"_s + shortText(name).toHtmlEscaped() + u"</p>"_s;
+}

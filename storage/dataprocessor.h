@@ -45,6 +45,7 @@ public:
     void getBatteryWidgetsFromData(QList<BatteryWidget *> &batteries);
 
 private:
+    // The steps of saving, in writing.cpp, and of loading, in reading.cpp: one for each kind of element.
     void writeLocations(QList<QString> &locations);
     void writeBattery(BatteryWidget *battery);
     void writeBatteryData(BatteryWidget *battery);
@@ -60,5 +61,5 @@ private:
     // Only while a file is written, and a fresh one each time: a writer keeps its error even on a new device.
     std::optional<QXmlStreamWriter> writer;
     QXmlStreamReader reader;
-    QString basePath = QStringLiteral("");
+    QString basePath = QStringLiteral(""); // intentional: empty and not null, as a path that was set
 };

@@ -15,6 +15,7 @@
 #include <utility>
 
 namespace Key = DataFile::Key;
+using namespace Qt::Literals::StringLiterals;
 using namespace TextDate;
 using namespace ValueText;
 
@@ -34,7 +35,7 @@ void writeText(QXmlStreamWriter &writer, QStringView key, const QString &text)
     const QStringList lines = xmlText(text).split(u'\r');
     writer.writeCharacters(lines.constFirst());
     for (qsizetype i = 1; i < lines.size(); ++i) {
-        writer.writeEntityReference(QStringLiteral("#13"));
+        writer.writeEntityReference(u"#13"_s);
         writer.writeCharacters(lines.at(i));
     }
     writer.writeEndElement();
@@ -60,7 +61,7 @@ void DataProcessor::addData(QList<BatteryWidget *> &batteries, QList<ModelWidget
     writer.emplace(&document);
     writer->setAutoFormatting(true);
     writer->writeStartDocument();
-    writer->writeDTD(QStringLiteral("<!DOCTYPE Voltbok>"));
+    writer->writeDTD(u"<!DOCTYPE Voltbok>"_s);
     writer->writeStartElement(name(Key::Voltbok));
     if (!locations.isEmpty())
         writeLocations(locations);

@@ -1,11 +1,12 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034 # the lists and the preset are for the scripts that read this
 # Shared by ./run and ./test: installs what is missing, configures and builds. Read with "source" from the top of the
 # source tree. Everything is said on standard error, so that standard output belongs to the program.
 
 build_packages=(g++ cmake ninja-build qt6-base-dev libqt6opengl6-dev qt6-charts-dev qt6-svg-dev)
-test_packages=(qt6-tools-dev qt6-l10n-tools xvfb)
-test_preset=${VOLTBOK_PRESET-dev} # CI asks for "ci", in which warnings are errors
+test_packages=(qt6-tools-dev qt6-l10n-tools xvfb adwaita-qt6 qt6ct python3)
+check_packages=(clang clang-tidy clazy libbenchmark-dev libclang-rt-dev shellcheck) # what CI adds
+test_preset=${VOLTBOK_PRESET-dev} # CI asks for "check", in which warnings are errors
 
 say() { printf '%s\n' "$*" >&2; }
 

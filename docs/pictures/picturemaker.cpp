@@ -9,6 +9,9 @@
 #include <QDateTimeEdit>
 #include <QDir>
 #include <QFile>
+#include <QList>
+#include <QPainter>
+#include <QPixmap>
 #include <QPlainTextEdit>
 #include <QSpinBox>
 #include <QTemporaryDir>
@@ -30,6 +33,8 @@ public:
     }
 
     void go();
+    /** A click on a battery that is discharged, and one more: before, between and after, side by side. */
+    void clickTwice();
 
 private:
     template <typename Widget>
@@ -44,7 +49,10 @@ private:
     void click(const QString &button) { find<QAbstractButton>(button)->click(); }
     void openFromMenu(const QString &button);
     void dischargeFirstCharged();
-    void shoot(const QString &name);
+    QAbstractButton *firstButton(bool charged);
+    QPixmap picture();
+    void save(const QPixmap &picture, const QString &name);
+    void shoot(const QString &name) { save(picture(), name); }
 
     VoltbokGui m_window;
     QDir m_pictures;
@@ -87,28 +95,65 @@ void Tour::openFromMenu(const QString &button)
     click(button);
 }
 
-/** Fills the page in, but for the OK. */
-void Tour::dischargeFirstCharged()
+void Tour::clickTwice()
+{
+    QAbstractButton *button = firstButton(false);
+    QList<QPixmap> pictures{picture()};
+    for (int click = 0; click < 2; ++click) {
+        button->click();
+        pictures.append(picture());
+    }
+    const QSize size = pictures.first().size();
+    constexpr int Margin = 4;
+    QPixmap all((size.width() + 2 * Margin) * static_cast<int>(pictures.size()), size.height() + 2 * Margin);
+    all.fill(Qt::white);
+    QPainter painter(&all);
+    for (qsizetype i = 0; i < pictures.size(); ++i)
+        painter.drawPixmap(Margin + static_cast<int>(i) * (size.width() + 2 * Margin), Margin,
+                           pictures.at(i));
+    painter.end();
+    save(all, u"clicks"_s);
+}
+
+/** The button of the first card on show whose battery is in this state. */
+QAbstractButton *Tour::firstButton(bool charged)
 {
     const auto cards = m_window.findChildren<BatteryWidget *>();
     for (BatteryWidget *card : cards) {
-        if (!card->isVisible() || !card->getBatteryCharged())
-            continue;
-        card->findChild<QAbstractButton *>()->click();
-        find<QTimeEdit>(u"sb_log_duration"_s)->setTime(QTime(0, 6, 30));
-        find<QSpinBox>(u"sb_log_temp"_s)->setValue(18);
-        find<QPlainTextEdit>(u"ptext_log_notes"_s)->setPlainText(u"First flight with the new tail blades."_s);
-        return;
+        if (card->isVisible() && card->getBatteryCharged() == charged)
+            return card->findChild<QAbstractButton *>();
     }
-    qFatal("The sample logbook has no charged battery on its overview.");
+    qFatal("The sample logbook has no such battery on its overview.");
 }
 
-void Tour::shoot(const QString &name)
+/** Fills the page in, but for the OK. */
+void Tour::dischargeFirstCharged()
+{
+    firstButton(true)->click();
+    find<QTimeEdit>(u"sb_log_duration"_s)->setTime(QTime(0, 6, 30));
+    find<QSpinBox>(u"sb_log_temp"_s)->setValue(18);
+    find<QPlainTextEdit>(u"ptext_log_notes"_s)->setPlainText(u"First flight with the new tail blades."_s);
+}
+
+QPixmap Tour::picture()
 {
     QCoreApplication::processEvents(); // lays out what was shown
+    return m_window.grab();
+}
+
+void Tour::save(const QPixmap &picture, const QString &name)
+{
     const QString file = m_pictures.filePath(name + u".png"_s);
-    if (!m_window.grab().save(file, "PNG"))
+    if (!picture.save(file, "PNG"))
         qFatal("Cannot write %s.", qPrintable(file));
+}
+
+/** The sample in a folder of its own; the sample itself is never written. */
+QString copyTo(const QTemporaryDir &folder, const QString &sample)
+{
+    if (!QFile::copy(sample, folder.filePath(u"voltbok.xml"_s)))
+        qFatal("Cannot copy %s.", qPrintable(sample));
+    return folder.path();
 }
 
 } // namespace
@@ -120,9 +165,11 @@ int main(int argc, char *argv[])
     if (arguments.size() != 3)
         qFatal("usage: picturemaker SAMPLE DIRECTORY");
 
-    const QTemporaryDir storage; // the sample itself is never written
-    if (!QFile::copy(arguments.at(1), storage.filePath(u"voltbok.xml"_s)))
-        qFatal("Cannot copy %s.", qPrintable(arguments.at(1)));
-    Tour(storage.path(), arguments.at(2)).go();
+    const QString &sample = arguments.at(1);
+    const QString &pictures = arguments.at(2);
+    const QTemporaryDir folderOfClicks;
+    Tour(copyTo(folderOfClicks, sample), pictures).clickTwice(); // in Quick mode, which the other one leaves
+    const QTemporaryDir folder;
+    Tour(copyTo(folder, sample), pictures).go();
     return EXIT_SUCCESS;
 }

@@ -143,12 +143,6 @@ std::optional<Copy> Backups::newestWhole(const StorageFolder &folder, QByteArray
     return std::nullopt;
 }
 
-QString Backups::newestWholePath(const StorageFolder &folder)
-{
-    const std::optional<Copy> copy = newestWhole(folder);
-    return copy ? folder.backups().filePath(copy->name) : QString();
-}
-
 QString Backups::keepNewestWhole(const StorageFolder &folder)
 {
     const std::optional<Copy> copy = newestWhole(folder);

@@ -69,9 +69,6 @@ void thin(const StorageFolder &folder, const QDateTime &now);
 /** The newest copy that is a whole logbook, and its bytes where they are wanted. */
 std::optional<Copy> newestWhole(const StorageFolder &folder, QByteArray *bytes = nullptr);
 
-/** The path of the newest copy that is a whole logbook; empty when there is none. */
-QString newestWholePath(const StorageFolder &folder);
-
 /** Marks the newest whole copy as one that is never thinned out.
  * @return why it was not marked, a clause; empty when it was, or when there is none. */
 QString keepNewestWhole(const StorageFolder &folder);

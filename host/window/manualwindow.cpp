@@ -39,6 +39,17 @@ void ManualWindow::showBeside(QWidget *parent)
     window->activateWindow();
 }
 
+bool ManualWindow::event(QEvent *event)
+{
+    // Escape is for this window while it is in use, and not for the one that it belongs to.
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
+        event->accept();
+        return true;
+    }
+    return QTextBrowser::event(event);
+}
+
 void ManualWindow::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape)

@@ -17,6 +17,7 @@ public:
     static void showBeside(QWidget *parent);
 
 protected:
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

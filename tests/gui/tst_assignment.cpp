@@ -4,6 +4,7 @@
 #include <QPointer>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace Test;
 
 class AssignmentTest : public QObject
 {
@@ -35,10 +36,8 @@ private:
 
 QByteArray AssignmentTest::catalogue()
 {
-    return EditingWindow::document({EditingWindow::batteryElement("A"), EditingWindow::batteryElement("B"),
-                                    EditingWindow::batteryElement("C"),
-                                    EditingWindow::modelElement("Bird", {"B"}),
-                                    EditingWindow::modelElement("Wing", {"A", "C"})});
+    return document({{flownBattery(u"A"_s), flownBattery(u"B"_s), flownBattery(u"C"_s)},
+                     {flownModel(u"Bird"_s, {u"B"_s}), flownModel(u"Wing"_s, {u"A"_s, u"C"_s})}});
 }
 
 void AssignmentTest::expectAssigned(EditingWindow &window, bool assigned)
@@ -57,29 +56,29 @@ void AssignmentTest::addAssignsTheBatteryAndTheButtonsSwap()
 {
     EditingWindow window;
     window.load(catalogue());
-    QCOMPARE(window.cardsOnShow(), QStringList{u"B"_qs});
+    QCOMPARE(window.cardsOnShow(), QStringList{u"B"_s});
     window.goToEditPage();
-    choosePair(window, u"Bird"_qs, u"A"_qs);
+    choosePair(window, u"Bird"_s, u"A"_s);
     expectAssigned(window, false);
     window.click(window.ui().pb_add_batt_to_model);
 
-    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList({u"B"_qs, u"A"_qs}));
+    QCOMPARE(window.model(u"Bird"_s)->getBatteries(), QStringList({u"B"_s, u"A"_s}));
     QCOMPARE(window.fileBytes().count("<Battery>A</Battery>"), 2);
     expectAssigned(window, true);
     QVERIFY(window.shows(window.ui().editDataView, Page::EditData));
     window.goToOverview();
-    QCOMPARE(window.cardsOnShow(), QStringList({u"A"_qs, u"B"_qs}));
+    QCOMPARE(window.cardsOnShow(), QStringList({u"A"_s, u"B"_s}));
 }
 
 void AssignmentTest::removeTakesTheBatteryAwayAndTheButtonsSwap()
 {
     EditingWindow window;
-    window.load(window.document({window.batteryElement("A"), window.modelElement("Bird", {"A"})}));
+    window.load(document({{flownBattery(u"A"_s)}, {flownModel(u"Bird"_s, {u"A"_s})}}));
     window.goToEditPage();
     expectAssigned(window, true);
     window.click(window.ui().pb_rem_batt_from_model);
 
-    QVERIFY(window.model(u"Bird"_qs)->getBatteries().isEmpty());
+    QVERIFY(window.model(u"Bird"_s)->getBatteries().isEmpty());
     QVERIFY(!window.fileBytes().contains("<Battery>A</Battery>"));
     expectAssigned(window, false);
     QVERIFY(window.shows(window.ui().editDataView, Page::EditData));
@@ -94,18 +93,15 @@ void AssignmentTest::exactlyOneButtonIsEnabledForEveryPair_data()
     QTest::addColumn<QString>("battery");
     QTest::addColumn<bool>("assigned");
 
-    QTest::newRow("Bird A") << "Bird"
-                            << "A" << false;
-    QTest::newRow("Bird B") << "Bird"
-                            << "B" << true;
-    QTest::newRow("Bird C") << "Bird"
-                            << "C" << false;
-    QTest::newRow("Wing A") << "Wing"
-                            << "A" << true;
-    QTest::newRow("Wing B") << "Wing"
-                            << "B" << false;
-    QTest::newRow("Wing C") << "Wing"
-                            << "C" << true;
+    const auto row = [](const char *model, const char *battery, bool assigned) {
+        QTest::addRow("%s %s", model, battery) << model << battery << assigned;
+    };
+    row("Bird", "A", false);
+    row("Bird", "B", true);
+    row("Bird", "C", false);
+    row("Wing", "A", true);
+    row("Wing", "B", false);
+    row("Wing", "C", true);
 }
 
 void AssignmentTest::exactlyOneButtonIsEnabledForEveryPair()
@@ -119,7 +115,7 @@ void AssignmentTest::exactlyOneButtonIsEnabledForEveryPair()
     choosePair(window, model, battery);
     expectAssigned(window, assigned);
 
-    choosePair(window, u"Wing"_qs, u"C"_qs); // and with the model chosen last
+    choosePair(window, u"Wing"_s, u"C"_s); // and with the model chosen last
     window.choose(window.ui().cb_bat_choose_model, battery);
     window.choose(window.ui().cb_model_choose_bat, model);
     expectAssigned(window, assigned);
@@ -130,9 +126,9 @@ void AssignmentTest::theButtonsFollowTheModelOfTheOverview()
     EditingWindow window;
     window.load(catalogue());
     expectAssigned(window, false);
-    window.choose(window.ui().cb_select_model, u"Wing"_qs);
+    window.choose(window.ui().cb_select_model, u"Wing"_s);
     window.goToEditPage();
-    QCOMPARE(window.ui().cb_model_choose_bat->currentText(), u"Wing"_qs);
+    QCOMPARE(window.ui().cb_model_choose_bat->currentText(), u"Wing"_s);
     expectAssigned(window, true);
 }
 
@@ -141,7 +137,7 @@ void AssignmentTest::theButtonsFollowAReload()
     EditingWindow window;
     window.load(catalogue());
     expectAssigned(window, false);
-    window.load(window.document({window.batteryElement("A"), window.modelElement("Bird", {"A"})}));
+    window.load(document({{flownBattery(u"A"_s)}, {flownModel(u"Bird"_s, {u"A"_s})}}));
     expectAssigned(window, true);
 }
 
@@ -150,16 +146,16 @@ void AssignmentTest::severalBatteriesAreAssignedInARow()
     EditingWindow window;
     window.load(catalogue());
     window.goToEditPage();
-    choosePair(window, u"Bird"_qs, u"C"_qs);
+    choosePair(window, u"Bird"_s, u"C"_s);
     window.click(window.ui().pb_add_batt_to_model);
-    choosePair(window, u"Bird"_qs, u"A"_qs);
+    choosePair(window, u"Bird"_s, u"A"_s);
     window.click(window.ui().pb_add_batt_to_model);
-    choosePair(window, u"Bird"_qs, u"B"_qs);
+    choosePair(window, u"Bird"_s, u"B"_s);
     window.click(window.ui().pb_rem_batt_from_model);
-    choosePair(window, u"Wing"_qs, u"B"_qs);
+    choosePair(window, u"Wing"_s, u"B"_s);
     window.click(window.ui().pb_add_batt_to_model);
-    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList({u"C"_qs, u"A"_qs}));
-    QCOMPARE(window.model(u"Wing"_qs)->getBatteries(), QStringList({u"A"_qs, u"C"_qs, u"B"_qs}));
+    QCOMPARE(window.model(u"Bird"_s)->getBatteries(), QStringList({u"C"_s, u"A"_s}));
+    QCOMPARE(window.model(u"Wing"_s)->getBatteries(), QStringList({u"A"_s, u"C"_s, u"B"_s}));
 }
 
 void AssignmentTest::eachAssignmentGoesBackToTheFirstPairOnPurpose()
@@ -167,26 +163,26 @@ void AssignmentTest::eachAssignmentGoesBackToTheFirstPairOnPurpose()
     EditingWindow window;
     window.load(catalogue());
     window.goToEditPage();
-    choosePair(window, u"Wing"_qs, u"B"_qs);
+    choosePair(window, u"Wing"_s, u"B"_s);
     window.click(window.ui().pb_add_batt_to_model); // the reload fills both choosers anew
-    QCOMPARE(window.ui().cb_model_choose_bat->currentText(), u"Bird"_qs);
-    QCOMPARE(window.ui().cb_bat_choose_model->currentText(), u"A"_qs);
+    QCOMPARE(window.ui().cb_model_choose_bat->currentText(), u"Bird"_s);
+    QCOMPARE(window.ui().cb_bat_choose_model->currentText(), u"A"_s);
     expectAssigned(window, false);
 }
 
 void AssignmentTest::theModelThatThePreferencesNameStaysChosen()
 {
     EditingWindow window;
-    RotavexPlugin::rotavexSettings->setValue("SETTINGS/logmodel", u"Wing"_qs);
+    LogbookWindow::storeModel(u"Wing"_s);
     window.load(catalogue());
     window.goToEditPage();
     expectAssigned(window, true);
     window.click(window.ui().pb_rem_batt_from_model);
-    QCOMPARE(window.ui().cb_model_choose_bat->currentText(), u"Wing"_qs);
+    QCOMPARE(window.ui().cb_model_choose_bat->currentText(), u"Wing"_s);
     expectAssigned(window, false);
     window.click(window.ui().pb_add_batt_to_model);
     expectAssigned(window, true);
-    QCOMPARE(window.model(u"Wing"_qs)->getBatteries(), QStringList({u"C"_qs, u"A"_qs}));
+    QCOMPARE(window.model(u"Wing"_s)->getBatteries(), QStringList({u"C"_s, u"A"_s}));
 }
 
 void AssignmentTest::theRecordsOnScreenAreReadFromTheFile()
@@ -194,8 +190,8 @@ void AssignmentTest::theRecordsOnScreenAreReadFromTheFile()
     EditingWindow window;
     window.load(catalogue());
     window.goToEditPage();
-    const QPointer<BatteryWidget> battery = window.battery(u"A"_qs);
-    const QPointer<ModelWidget> model = window.model(u"Bird"_qs);
+    const QPointer<BatteryWidget> battery = window.battery(u"A"_s);
+    const QPointer<ModelWidget> model = window.model(u"Bird"_s);
     QVERIFY(battery && model);
     window.click(window.ui().pb_add_batt_to_model);
     QVERIFY(!battery);
@@ -208,44 +204,44 @@ void AssignmentTest::theTimeOfTheLastUpdateStays()
     window.load(catalogue());
     window.goToEditPage();
     window.click(window.ui().pb_add_batt_to_model);
-    QCOMPARE(window.model(u"Bird"_qs)->getLastUpdated(), QDateTime(QDate(2025, 11, 7), QTime(6, 5, 4)));
-    QCOMPARE(window.battery(u"A"_qs)->getBatteryLastUpdated(), QDateTime(QDate(2025, 11, 9), QTime(8, 7, 6)));
+    QCOMPARE(window.model(u"Bird"_s)->getLastUpdated(), QDateTime(QDate(2025, 11, 7), QTime(6, 5, 4)));
+    QCOMPARE(window.battery(u"A"_s)->getBatteryLastUpdated(), QDateTime(QDate(2025, 11, 9), QTime(8, 7, 6)));
 }
 
 void AssignmentTest::removeTakesOnlyTheExactName()
 {
     EditingWindow window;
-    window.load(window.document({window.batteryElement("A"), window.modelElement("Bird", {"a", "A", "A "})}));
+    window.load(document({{flownBattery(u"A"_s)}, {flownModel(u"Bird"_s, {u"a"_s, u"A"_s, u"A "_s})}}));
     window.goToEditPage();
     window.click(window.ui().pb_rem_batt_from_model);
-    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList({u"a"_qs, u"A "_qs}));
+    QCOMPARE(window.model(u"Bird"_s)->getBatteries(), QStringList({u"a"_s, u"A "_s}));
 }
 
 void AssignmentTest::ofTwoModelsOfOneNameTheLastIsMeant()
 {
     EditingWindow window;
-    window.load(window.document({window.batteryElement("A"), window.modelElement("Bird", {"A"}),
-                                 window.modelElement("Bird"), window.modelElement("Wing")}));
+    window.load(document({{flownBattery(u"A"_s)},
+                          {flownModel(u"Bird"_s, {u"A"_s}), flownModel(u"Bird"_s), flownModel(u"Wing"_s)}}));
     window.goToEditPage();
     expectAssigned(window, false);
     window.click(window.ui().pb_add_batt_to_model);
-    QCOMPARE(window->modelList.at(1)->getBatteries(), QStringList{u"A"_qs});
+    QCOMPARE(window->modelList.at(1)->getBatteries(), QStringList{u"A"_s});
     window.click(window.ui().pb_rem_batt_from_model);
-    QCOMPARE(window->modelList.at(0)->getBatteries(), QStringList{u"A"_qs});
+    QCOMPARE(window->modelList.at(0)->getBatteries(), QStringList{u"A"_s});
     QCOMPARE(window->modelList.at(1)->getBatteries(), QStringList());
 }
 
 void AssignmentTest::withoutModelOnlyAddIsEnabledAndDoesNothing()
 {
     EditingWindow window;
-    window.load(window.document({window.batteryElement("A"), window.batteryElement("B")}));
+    window.load(document({{flownBattery(u"A"_s), flownBattery(u"B"_s)}}));
     window.goToEditPage();
     const QByteArray before = window.fileBytes();
-    window.choose(window.ui().cb_bat_choose_model, u"B"_qs);
+    window.choose(window.ui().cb_bat_choose_model, u"B"_s);
     expectAssigned(window, false);
     window.click(window.ui().pb_add_batt_to_model);
     QCOMPARE(window.fileBytes(), before);
-    QCOMPARE(window.ui().cb_bat_choose_model->currentText(), u"B"_qs);
+    QCOMPARE(window.ui().cb_bat_choose_model->currentText(), u"B"_s);
     window->on_pb_rem_batt_from_model_clicked(); // greyed for the user
     QCOMPARE(window.fileBytes(), before);
 }
@@ -253,26 +249,26 @@ void AssignmentTest::withoutModelOnlyAddIsEnabledAndDoesNothing()
 void AssignmentTest::aBatteryThatIsGoneCanBeAssignedOnPurpose()
 {
     EditingWindow window;
-    window.load(window.document({window.batteryElement("A"), window.modelElement("Bird")}));
-    window.load(window.document({window.modelElement("Bird")})); // the chooser goes on offering A
+    window.load(document({{flownBattery(u"A"_s)}, {flownModel(u"Bird"_s)}}));
+    window.load(document({{}, {flownModel(u"Bird"_s)}})); // the chooser goes on offering A
     window.goToEditPage();
     window.click(window.ui().pb_add_batt_to_model);
-    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList{u"A"_qs});
+    QCOMPARE(window.model(u"Bird"_s)->getBatteries(), QStringList{u"A"_s});
     expectAssigned(window, true);
     window.click(window.ui().pb_rem_batt_from_model);
-    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList());
+    QCOMPARE(window.model(u"Bird"_s)->getBatteries(), QStringList());
 }
 
 void AssignmentTest::withoutAnyBatteryTheEmptyNameIsAssignedOnPurpose()
 {
     EditingWindow window;
-    window.load(window.document({window.modelElement("Bird")}));
+    window.load(document({{}, {flownModel(u"Bird"_s)}}));
     window.goToEditPage();
     window.click(window.ui().pb_add_batt_to_model);
-    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList{QString()});
+    QCOMPARE(window.model(u"Bird"_s)->getBatteries(), QStringList{QString()});
     expectAssigned(window, true);
     window.click(window.ui().pb_rem_batt_from_model);
-    QCOMPARE(window.model(u"Bird"_qs)->getBatteries(), QStringList());
+    QCOMPARE(window.model(u"Bird"_s)->getBatteries(), QStringList());
 }
 
 QTEST_MAIN(AssignmentTest)

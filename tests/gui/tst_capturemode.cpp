@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The page that chooses between quick and full capture, and the preference that keeps the choice.
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
+#include "tests/support/samples.h"
+
+using namespace Qt::Literals::StringLiterals;
+using namespace Test;
 
 class CaptureModeTest : public QObject
 {
@@ -31,13 +34,7 @@ private:
 };
 
 namespace {
-constexpr QLatin1StringView Key("SETTINGS/voltbok");
-
-QByteArray hangar()
-{
-    return Xml::file(Xml::battery("Pack", true) + Xml::battery("Spare") + Xml::battery("Old") +
-                     Xml::model("Heli", {"Pack"}) + Xml::model("Plane", {"Spare"}));
-}
+constexpr QLatin1StringView Key = LogbookWindow::ModeKey;
 
 QString storedMode()
 {
@@ -69,8 +66,7 @@ void CaptureModeTest::expectEveryCard(BatteryWidget::ViewMode mode) const
 {
     for (const BatteryWidget *card : window->gui().batteryList) {
         QCOMPARE(card->getViewMode(), mode);
-        QCOMPARE(card->findChild<QLabel *>(QStringLiteral("lbl_discharged"))->isHidden(),
-                 mode == BatteryWidget::Simple);
+        QCOMPARE(card->findChild<QLabel *>(u"lbl_discharged"_s)->isHidden(), mode == BatteryWidget::Simple);
     }
 }
 
@@ -84,10 +80,10 @@ void CaptureModeTest::quickIsTheFirstChoice()
 void CaptureModeTest::aChoiceIsStoredAndReachesEveryCard()
 {
     choose(ui->rb_modeAdvanced);
-    QCOMPARE(storedMode(), QStringLiteral("Complex"));
+    QCOMPARE(storedMode(), u"Complex"_s);
     expectEveryCard(BatteryWidget::Complex); // on show or not
     choose(ui->rb_modeSimple);
-    QCOMPARE(storedMode(), QStringLiteral("Simple"));
+    QCOMPARE(storedMode(), u"Simple"_s);
     expectEveryCard(BatteryWidget::Simple);
     QCOMPARE(RotavexPlugin::rotavexSettings->group(), QString()); // no group stays open
 }
@@ -106,7 +102,7 @@ void CaptureModeTest::aReloadRestoresFullMode()
     window->gui().updateBatteryGui();
     expectEveryCard(BatteryWidget::Complex);
     QVERIFY(ui->rb_modeAdvanced->isChecked());
-    QCOMPARE(storedMode(), QStringLiteral("Complex"));
+    QCOMPARE(storedMode(), u"Complex"_s);
 }
 
 void CaptureModeTest::theNextWindowRestoresFullMode()
@@ -124,7 +120,7 @@ void CaptureModeTest::quickModeNeedsNoRestoring()
     choose(ui->rb_modeSimple);
     window->gui().updateBatteryGui();
     expectEveryCard(BatteryWidget::Simple);
-    QCOMPARE(storedMode(), QStringLiteral("Simple"));
+    QCOMPARE(storedMode(), u"Simple"_s);
 }
 
 void CaptureModeTest::anotherStoredValueCountsAsNone_data()

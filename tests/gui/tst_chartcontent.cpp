@@ -1,18 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The chart page: what it draws.
-#include "tests/support/catalogue.h"
 #include "tests/support/chartpage.h"
 #include "tests/support/logbookwindow.h"
+#include "tests/support/samples.h"
 
 #include <QTest>
 
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
-using Catalogue::Discharge;
-using Catalogue::moment;
+using namespace Test;
 using ChartPage::chart;
-using ChartPage::open;
 using ChartPage::points;
 
 namespace {
@@ -25,6 +23,19 @@ QList<Discharge> history(const QList<unsigned int> &discharges, const QList<unsi
     for (qsizetype i = 0; i < discharges.size(); ++i)
         result.append({moment(static_cast<int>(i)), discharges.at(i), currents.at(i)});
     return result;
+}
+
+Battery boughtOn(QDate purchase)
+{
+    Battery battery{u"Nano"_s};
+    battery.purchase = purchase;
+    return battery;
+}
+
+void openChartOf(LogbookWindow &window, const QList<Battery> &batteries)
+{
+    window.load(document({batteries}));
+    ChartPage::open(window);
 }
 
 QRadioButton *unitButton(LogbookWindow &window, const QString &text)
@@ -99,8 +110,7 @@ void ChartContentTest::theSeriesHoldsOnePointForEachDischarge()
     QFETCH(QList<unsigned int>, discharges);
     QFETCH(QList<unsigned int>, currents);
     LogbookWindow window;
-    window.load(Catalogue::file({}, {{u"Nano"_s, history(discharges, currents), capacity}}));
-    open(window);
+    openChartOf(window, {{u"Nano"_s, false, history(discharges, currents), capacity}});
     LogbookWindow::click(unitButton(window, unit));
 
     QTEST(points(window), "expected");
@@ -115,8 +125,7 @@ void ChartContentTest::theSeriesHoldsOnePointForEachDischarge()
 void ChartContentTest::withoutACapacityTheMultiplesOfItAreInfinite()
 {
     LogbookWindow window;
-    window.load(Catalogue::file({}, {{u"Nano"_s, history({1, 2, 3}, {4500, 1, 0}), 0}}));
-    open(window);
+    openChartOf(window, {{u"Nano"_s, false, history({1, 2, 3}, {4500, 1, 0}), 0}});
     LogbookWindow::click(window.ui().rb_showC);
 
     QCOMPARE(points(window).size(), 3);
@@ -129,8 +138,7 @@ void ChartContentTest::withoutACapacityTheMultiplesOfItAreInfinite()
 void ChartContentTest::anInfiniteChartIsPaintedResizedAndLeftAlone()
 {
     LogbookWindow window;
-    window.load(Catalogue::file({}, {{u"Nano"_s, history({1, 2, 3}, {4500, 0, 9}), 0}}));
-    open(window);
+    openChartOf(window, {{u"Nano"_s, false, history({1, 2, 3}, {4500, 0, 9}), 0}});
     LogbookWindow::click(window.ui().rb_showC);
 
     for (const QSize size : {QSize(350, 531), QSize(700, 1062), QSize(320, 500)}) {
@@ -152,8 +160,7 @@ void ChartContentTest::anInfiniteChartIsPaintedResizedAndLeftAlone()
 void ChartContentTest::aHistoryWithoutMeasurementsAndCapacityHasUndefinedPoints()
 {
     LogbookWindow window;
-    window.load(Catalogue::file({}, {{u"Nano"_s, history({0, 0}, {0, 0}), 0}}));
-    open(window);
+    openChartOf(window, {{u"Nano"_s, false, history({0, 0}, {0, 0}), 0}});
     LogbookWindow::click(window.ui().rb_showC);
 
     QCOMPARE(points(window).size(), 2);
@@ -164,8 +171,7 @@ void ChartContentTest::aHistoryWithoutMeasurementsAndCapacityHasUndefinedPoints(
 void ChartContentTest::aBatteryWithoutHistoryHasAnEmptyTitledChart()
 {
     LogbookWindow window;
-    window.load(Catalogue::file({}, {{u"Nano"_s, {}, 2200, QDate::currentDate().addDays(-365)}}));
-    open(window);
+    openChartOf(window, {boughtOn(QDate::currentDate().addDays(-365))});
 
     for (QRadioButton *unit : {window.ui().rb_showmAh, window.ui().rb_showAmps, window.ui().rb_showC}) {
         LogbookWindow::click(unit);
@@ -181,8 +187,7 @@ void ChartContentTest::asManyPointsAsDischarges()
     for (int i = 0; i < 1000; ++i)
         discharges.append({moment(i), static_cast<unsigned int>(i), 0});
     LogbookWindow window;
-    window.load(Catalogue::file({}, {{u"Nano"_s, discharges}}));
-    open(window);
+    openChartOf(window, {{u"Nano"_s, false, discharges}});
 
     QCOMPARE(points(window).size(), 1000);
     QCOMPARE(points(window).first(), QPointF(1, 0));
@@ -192,9 +197,8 @@ void ChartContentTest::asManyPointsAsDischarges()
 void ChartContentTest::aSingleDischargeIsADot()
 {
     LogbookWindow window;
-    window.load(
-        Catalogue::file({}, {{u"Once"_s, history({900}, {100})}, {u"Twice"_s, history({1, 2}, {1, 2})}}));
-    open(window);
+    openChartOf(window,
+                {{u"Once"_s, false, history({900}, {100})}, {u"Twice"_s, false, history({1, 2}, {1, 2})}});
     QVERIFY(ChartPage::series(window)->pointsVisible()); // a line through one point would not be seen
     LogbookWindow::choose(window.ui().cb_batteryData, u"Twice"_s);
     QVERIFY(!ChartPage::series(window)->pointsVisible());
@@ -203,9 +207,8 @@ void ChartContentTest::aSingleDischargeIsADot()
 void ChartContentTest::aSingleDischargeThatNoAxisReachesIsNotPainted()
 {
     LogbookWindow window;
-    window.load(
-        Catalogue::file({}, {{u"Nothing"_s, history({0}, {0}), 0}, {u"Infinite"_s, history({0}, {9}), 0}}));
-    open(window);
+    openChartOf(window,
+                {{u"Nothing"_s, false, history({0}, {0}), 0}, {u"Infinite"_s, false, history({0}, {9}), 0}});
     LogbookWindow::click(window.ui().rb_showC);
     QVERIFY(!window->grab().isNull());
     LogbookWindow::choose(window.ui().cb_batteryData, u"Infinite"_s);
@@ -230,8 +233,7 @@ void ChartContentTest::theTitleTellsTheAgeInYearsOf365Days()
 {
     QFETCH(QDate, purchase);
     LogbookWindow window;
-    window.load(Catalogue::file({}, {{u"Nano"_s, {}, 2200, purchase}}));
-    open(window);
+    openChartOf(window, {boughtOn(purchase)});
 
     QTEST(chart(window)->title(), "title");
 }
@@ -239,8 +241,7 @@ void ChartContentTest::theTitleTellsTheAgeInYearsOf365Days()
 void ChartContentTest::theBackgroundDarkensFromTopToBottom()
 {
     LogbookWindow window;
-    window.load(Catalogue::file({}, {{u"Nano"_s, {}}}));
-    open(window);
+    openChartOf(window, {Battery{u"Nano"_s}});
 
     const QBrush background = chart(window)->backgroundBrush();
     QCOMPARE(background.style(), Qt::LinearGradientPattern);
@@ -255,8 +256,7 @@ void ChartContentTest::theBackgroundDarkensFromTopToBottom()
 void ChartContentTest::theLabelsOfBothAxesAreBright()
 {
     LogbookWindow window;
-    window.load(Catalogue::file({}, {{u"Nano"_s, history({1, 2}, {1, 2})}}));
-    open(window);
+    openChartOf(window, {{u"Nano"_s, false, history({1, 2}, {1, 2})}});
 
     for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
         QCOMPARE(chart(window)->axes(orientation).size(), 1);
@@ -268,8 +268,7 @@ void ChartContentTest::theLabelsOfBothAxesAreBright()
 void ChartContentTest::everythingElseKeepsTheChartsDefaults()
 {
     LogbookWindow window;
-    window.load(Catalogue::file({}, {{u"Nano"_s, history({1, 2}, {1, 2})}}));
-    open(window);
+    openChartOf(window, {{u"Nano"_s, false, history({1, 2}, {1, 2})}});
 
     QVERIFY(!chart(window)->legend()->isVisible());
     QVERIFY(window->chartView->renderHints().testFlag(QPainter::Antialiasing));

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The chart page: when it draws anew, and what becomes of the charts before.
-#include "tests/support/catalogue.h"
 #include "tests/support/chartpage.h"
 #include "tests/support/logbookwindow.h"
+#include "tests/support/samples.h"
 
 #include <QTest>
 
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
-using Catalogue::Battery;
-using Catalogue::moment;
+using namespace Test;
 using ChartPage::allViews;
 using ChartPage::open;
 using ChartPage::points;
@@ -18,14 +17,15 @@ using ChartPage::points;
 namespace {
 const QList<Battery> &twoBatteries()
 {
-    static const QList<Battery> batteries{{u"Nano"_s, {{moment(0), 1200, 100}, {moment(1), 1350, 200}}},
-                                          {u"Power"_s, {{moment(2), 4100, 300}}}};
+    static const QList<Battery> batteries{
+        {u"Nano"_s, false, {{moment(0), 1200, 100}, {moment(1), 1350, 200}}},
+        {u"Power"_s, false, {{moment(2), 4100, 300}}}};
     return batteries;
 }
 
 void openChartOfTwoBatteries(LogbookWindow &window)
 {
-    window.load(Catalogue::file({}, twoBatteries()));
+    window.load(document({twoBatteries()}));
     open(window);
 }
 
@@ -99,7 +99,7 @@ void ChartRedrawTest::nothingIsDrawnBeforeThePageIsOpened()
 {
     LogbookWindow window;
     QVERIFY(window.ui().rb_showmAh->isChecked());
-    window.load(Catalogue::file({}, twoBatteries()));
+    window.load(document({twoBatteries()}));
 
     QVERIFY(!window->chartView);
     QCOMPARE(allViews(window).size(), 0);
@@ -118,7 +118,8 @@ void ChartRedrawTest::pickingABatteryDrawsIt()
 void ChartRedrawTest::batteriesOfOneNameAreToldApartByTheirPlace()
 {
     LogbookWindow window;
-    window.load(Catalogue::file({}, {{u"Nano"_s, {{moment(0), 1, 1}}}, {u"Nano"_s, {{moment(0), 2, 2}}}}));
+    window.load(
+        document({{{u"Nano"_s, false, {{moment(0), 1, 1}}}, {u"Nano"_s, false, {{moment(0), 2, 2}}}}}));
     open(window);
     QCOMPARE(points(window), QList<QPointF>({{1, 1}}));
     QTest::keyClick(window.ui().cb_batteryData, Qt::Key_Down);
@@ -205,7 +206,7 @@ void ChartRedrawTest::earlierChartsAreKeptInTheirCellOnPurpose()
 void ChartRedrawTest::theFirstChartReplacesThePlaceholder()
 {
     LogbookWindow window;
-    window.load(Catalogue::file({}, twoBatteries()));
+    window.load(document({twoBatteries()}));
     const int items = window.ui().layout_batteryData->count();
     QCOMPARE(verticalSpacers(window), 1);
 
@@ -225,7 +226,7 @@ void ChartRedrawTest::refillingTheChooserDrawsNothing()
     LogbookWindow::choose(window.ui().cb_batteryData, u"Power"_s);
     const QChartView *before = window->chartView;
 
-    window.load(Catalogue::file({}, {{u"Other"_s, {}}, {u"Another"_s, {}}}));
+    window.load(document({{Battery{u"Other"_s}, Battery{u"Another"_s}}}));
 
     QCOMPARE(window.ui().cb_batteryData->currentText(), u"Other"_s);
     QCOMPARE(window->chartView, before);
@@ -236,7 +237,7 @@ void ChartRedrawTest::aReloadIsDrawnByTheNextChoice()
 {
     LogbookWindow window;
     openChartOfTwoBatteries(window);
-    window.load(Catalogue::file({}, {{u"Other"_s, {}}, {u"Another"_s, {{moment(0), 77, 0}}}}));
+    window.load(document({{{u"Other"_s}, {u"Another"_s, false, {{moment(0), 77, 0}}}}}));
     LogbookWindow::choose(window.ui().cb_batteryData, u"Another"_s);
 
     QCOMPARE(points(window), QList<QPointF>({{1, 77}}));
@@ -286,7 +287,7 @@ void ChartRedrawTest::aNameOfABatteryThatIsGoneDrawsNothing()
 {
     LogbookWindow window;
     openChartOfTwoBatteries(window);
-    window.load(Catalogue::file({}));
+    window.load(document({}));
     QCOMPARE(window.ui().cb_batteryData->count(), 2); // the chooser goes on offering them
 
     LogbookWindow::choose(window.ui().cb_batteryData, u"Power"_s);

@@ -4,6 +4,8 @@
 #include <QLineEdit>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class DecimalInputTest : public QObject
 {
     Q_OBJECT
@@ -22,7 +24,7 @@ private:
 };
 
 namespace {
-const QString Digits = QStringLiteral(" 0123456789"); // a blank leaves its place in the mask empty
+const QString Digits = u" 0123456789"_s; // a blank leaves its place in the mask empty
 
 /** Those hundredths below ten whose hundredfold falls short of the whole number in double arithmetic. */
 const QList<unsigned int> FallingShort{29,  57,  58,  113, 114, 115, 116, 201, 203, 205, 207, 226, 228, 230,
@@ -84,7 +86,7 @@ void DecimalInputTest::aValueIsScaledAndTruncated()
 void DecimalInputTest::everyChargeRateThatTheMaskAdmitsIsItsTenths()
 {
     QLineEdit field;
-    field.setInputMask(QStringLiteral("0.0"));
+    field.setInputMask(u"0.0"_s);
     for (const QChar whole : Digits) {
         for (const QChar tenth : Digits) {
             field.setText({});
@@ -99,7 +101,7 @@ void DecimalInputTest::everyChargeRateThatTheMaskAdmitsIsItsTenths()
 void DecimalInputTest::everyWeightThatTheMaskAdmitsIsTruncated()
 {
     QLineEdit field;
-    field.setInputMask(QStringLiteral("0.00"));
+    field.setInputMask(u"0.00"_s);
     for (const QChar whole : Digits) {
         for (const QChar tenth : Digits) {
             for (const QChar hundredth : Digits) {
@@ -122,10 +124,8 @@ void DecimalInputTest::everyCurrentThatCanBeRecordedIsTruncated()
 {
     int fallingShort = 0;
     for (unsigned int hundredths = 0; hundredths <= 30000; ++hundredths) {
-        const double amperes = QStringLiteral("%1.%2")
-                                   .arg(hundredths / 100)
-                                   .arg(hundredths % 100, 2, 10, QChar(u'0'))
-                                   .toDouble();
+        const double amperes =
+            u"%1.%2"_s.arg(hundredths / 100).arg(hundredths % 100, 2, 10, QChar(u'0')).toDouble();
         const unsigned int stored = scaledTruncated(amperes, 100.0);
         if (stored == hundredths)
             continue;

@@ -1,50 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tests/support/foreignlanguage.h"
 #include "tests/support/formtexts.h"
 #include "tests/support/rawform.h"
 
 #include <QCoreApplication>
 #include <QSet>
 #include <QTest>
-#include <QTranslator>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace Test;
 
 namespace {
-
-bool isMask(const QString &source)
-{
-    static const QSet<QString> masks{u"000"_s, u"0000"_s, u"00000"_s, u"0.0"_s, u"0.00"_s, u"0000-00-00"_s};
-    return masks.contains(source);
-}
-
-/** A language in which a mask has one more place, a digit is one greater and a word stands in brackets. */
-QString foreign(const QString &source)
-{
-    if (isMask(source))
-        return source + u'0';
-    QString digits = source;
-    for (QChar &character : digits) {
-        if (character.isLetter())
-            return u'[' + source + u']';
-        if (character.isDigit())
-            character = QChar(u'0' + (character.digitValue() + 1) % 10);
-    }
-    return digits == source ? u'[' + source + u']' : digits;
-}
-
-class ForeignLanguage : public QTranslator
-{
-    Q_OBJECT
-
-public:
-    ForeignLanguage() { QCoreApplication::installTranslator(this); }
-
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        return qstrcmp(context, "VoltbokGui") == 0 ? foreign(QString::fromUtf8(source)) : QString();
-    }
-};
 
 QString shownText(const RawForm &form, const QString &widget)
 {
@@ -94,7 +60,8 @@ void FormTextsTest::aTextStandsAndIsTranslatedUnlessItIsAName()
     form.retranslateUi(&form.window);
     QCOMPARE(shownText(form, widget), source);
 
-    const ForeignLanguage language;
+    ForeignLanguage language;
+    QVERIFY(QCoreApplication::installTranslator(&language));
     form.retranslateUi(&form.window);
     QCOMPARE(shownText(form, widget), translated ? foreign(source) : source);
 }
@@ -112,7 +79,8 @@ void FormTextsTest::aMaskStandsAndIsTranslatedUnlessItIsADateOrAWeight()
     form.retranslateUi(&form.window);
     QCOMPARE(field->inputMask(), source);
 
-    const ForeignLanguage language;
+    ForeignLanguage language;
+    QVERIFY(QCoreApplication::installTranslator(&language));
     form.retranslateUi(&form.window);
     QCOMPARE(field->inputMask(), translated ? foreign(source) : source);
 }
@@ -164,7 +132,8 @@ void FormTextsTest::whatTheCodeFillsInSurvivesATranslation()
     form.tedt_dischargeTime->setTime(QTime(14, 32, 10));
     form.sb_log_duration->setTime(QTime(0, 6, 30));
 
-    const ForeignLanguage language;
+    ForeignLanguage language;
+    QVERIFY(QCoreApplication::installTranslator(&language));
     form.retranslateUi(&form.window);
 
     for (const QLabel *label : log)
@@ -183,7 +152,8 @@ void FormTextsTest::theWindowsTitleIsTranslated()
 {
     RawForm form;
     QCOMPARE(form.window.windowTitle(), u"MainWindow"_s);
-    const ForeignLanguage language;
+    ForeignLanguage language;
+    QVERIFY(QCoreApplication::installTranslator(&language));
     form.retranslateUi(&form.window);
     QCOMPARE(form.window.windowTitle(), u"[MainWindow]"_s);
 }

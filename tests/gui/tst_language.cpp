@@ -1,33 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The language changes while the window lives: every text follows, and the pilot loses nothing.
+#include "tests/support/foreignlanguage.h"
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
+#include "tests/support/samples.h"
 
 #include <QChart>
 #include <QChartView>
-#include <QTranslator>
 
-/** Puts a "~" before every text of the window and the cards, and changes the masks a little. */
-class TildeTranslator : public QTranslator
-{
-    Q_OBJECT
-
-public:
-    using QTranslator::QTranslator;
-    bool isEmpty() const override { return false; }
-    QString translate(const char *context, const char *source, const char *, int) const override
-    {
-        if (qstrcmp(context, "VoltbokGui") != 0 && qstrcmp(context, "BatteryWidget") != 0)
-            return {};
-        const QByteArray text(source);
-        if (text == "0.0")
-            return QStringLiteral("09.0"); // a mask: two digits before the point
-        if (text == "0000-00-00" || text == "0.00")
-            return QStringLiteral("X"); // masks that must not come here
-        const bool mask = !text.isEmpty() && text.count('0') == text.size();
-        return mask && text.size() > 1 ? QString::fromLatin1(text + "9") : u'~' + QString::fromUtf8(text);
-    }
-};
+using namespace Qt::Literals::StringLiterals;
+using namespace Test;
 
 class LanguageTest : public QObject
 {
@@ -52,7 +33,7 @@ private Q_SLOTS:
     void theFlightOnShowStays();
 
 private:
-    std::unique_ptr<TildeTranslator> translator;
+    std::unique_ptr<ForeignLanguage> translator;
     std::unique_ptr<LogbookWindow> window;
     Ui_VoltbokGui *ui = nullptr;
 
@@ -65,13 +46,6 @@ private:
 };
 
 namespace {
-QByteArray hangar()
-{
-    return Xml::file(Xml::locations({"Meadow", "Hill"}) + Xml::battery("Pack", true) + Xml::battery("Flat") +
-                     Xml::battery("Spare") + Xml::model("Heli", {"Pack", "Flat"}) +
-                     Xml::model("Plane", {"Pack"}));
-}
-
 bool isPartOfACard(const QWidget *widget)
 {
     while (widget && !qobject_cast<const BatteryWidget *>(widget))
@@ -87,7 +61,7 @@ QString textOf(const QWidget *card, const char *name)
 
 void LanguageTest::init()
 {
-    translator = std::make_unique<TildeTranslator>();
+    translator = std::make_unique<ForeignLanguage>();
     window = std::make_unique<LogbookWindow>();
     ui = &window->ui();
     window->load(hangar());
@@ -128,8 +102,8 @@ QList<QPair<QWidget *, QString>> LanguageTest::texts() const
         const QString name = widget->objectName();
         const QString text = widget->property("text").toString();
         const bool speaks = widget->inherits("QLabel") || widget->inherits("QAbstractButton");
-        const bool unit = name.startsWith(QStringLiteral("rb_show"));
-        const bool value = name.startsWith(QStringLiteral("lbl_logview"));
+        const bool unit = name.startsWith(u"rb_show"_s);
+        const bool value = name.startsWith(u"lbl_logview"_s);
         if (speaks && !text.isEmpty() && !unit && !value && !isPartOfACard(widget))
             result.append({widget, text});
     }
@@ -139,7 +113,7 @@ QList<QPair<QWidget *, QString>> LanguageTest::texts() const
 /** The line edits of the form; those inside spin boxes are not of it. */
 QList<QLineEdit *> LanguageTest::fields() const
 {
-    return window->gui().findChildren<QLineEdit *>(QRegularExpression(QStringLiteral("^ledt_")));
+    return window->gui().findChildren<QLineEdit *>(QRegularExpression(u"^ledt_"_s));
 }
 
 /** Everything a pilot has entered on any page, by the name of the widget. */
@@ -172,14 +146,12 @@ void LanguageTest::everyTextOfTheWindowFollows()
     QVERIFY(before.size() > 80);
     changeLanguage();
     for (const auto &[widget, text] : before) {
-        const QString expected = u'~' + text;
-        QVERIFY2(widget->property("text").toString() == expected, qPrintable(widget->objectName()));
+        QVERIFY2(widget->property("text").toString() == foreign(text), qPrintable(widget->objectName()));
     }
-    QCOMPARE(ui->lbl_optionshint->text(),
-             QStringLiteral("~Please go to Options and add new model and battery!"));
-    QCOMPARE(ui->label_7->text(), QStringLiteral("~Charge  rate (C)"));
-    QCOMPARE(ui->rb_showmAh->text(), QStringLiteral("mAh"));
-    QCOMPARE(window->gui().windowTitle(), QStringLiteral("Rotavex 15.7.0 64-bit"));
+    QCOMPARE(ui->lbl_optionshint->text(), foreign(u"Please go to Options and add new model and battery!"_s));
+    QCOMPARE(ui->label_7->text(), foreign(u"Charge  rate (C)"_s));
+    QCOMPARE(ui->rb_showmAh->text(), u"mAh"_s);
+    QCOMPARE(window->gui().windowTitle(), u"Rotavex 15.7.0 64-bit"_s);
 }
 
 void LanguageTest::theTextsComeBackWithTheFirstLanguage()
@@ -190,36 +162,36 @@ void LanguageTest::theTextsComeBackWithTheFirstLanguage()
     changeLanguageBack();
     QCOMPARE(texts(), before);
     QCOMPARE(inputs(), entered);
-    QCOMPARE(window->gui().windowTitle(), QStringLiteral("Rotavex 15.7.0 64-bit"));
+    QCOMPARE(window->gui().windowTitle(), u"Rotavex 15.7.0 64-bit"_s);
 }
 
 void LanguageTest::theMasksFollowAndKeepTheirContent()
 {
-    ui->ledt_capacity->setText(QStringLiteral("3300"));
-    ui->ledt_chargeRate->setText(QStringLiteral("1.5"));
-    ui->ledt_purchaseDate->setText(QStringLiteral("2024-02-29"));
+    ui->ledt_capacity->setText(u"3300"_s);
+    ui->ledt_chargeRate->setText(u"1.5"_s);
+    ui->ledt_purchaseDate->setText(u"2024-02-29"_s);
     changeLanguage();
-    QCOMPARE(ui->ledt_capacity->inputMask(), QStringLiteral("000009"));
-    QCOMPARE(ui->ledt_capacity->text(), QStringLiteral("3300"));
-    QCOMPARE(ui->ledt_dischargeRate->inputMask(), QStringLiteral("0009"));
-    QCOMPARE(ui->ledt_dischargeRate->text(), QStringLiteral("30"));
-    QCOMPARE(ui->ledt_chargeRate->inputMask(), QStringLiteral("09.0"));
-    QCOMPARE(ui->ledt_chargeRate->text(), QStringLiteral("1.5"));
-    QCOMPARE(ui->ledt_modifyheli_size->inputMask(), QStringLiteral("00009"));
-    QCOMPARE(ui->ledt_purchaseDate->inputMask(), QStringLiteral("0000-00-00")); // never translated
-    QCOMPARE(ui->ledt_purchaseDate->text(), QStringLiteral("2024-02-29"));
-    QCOMPARE(ui->ledt_addheli_weight->inputMask(), QStringLiteral("0.00"));
+    QCOMPARE(ui->ledt_capacity->inputMask(), foreign(u"00000"_s));
+    QCOMPARE(ui->ledt_capacity->text(), u"3300"_s);
+    QCOMPARE(ui->ledt_dischargeRate->inputMask(), foreign(u"000"_s));
+    QCOMPARE(ui->ledt_dischargeRate->text(), foreign(u"30"_s)); // its default text
+    QCOMPARE(ui->ledt_chargeRate->inputMask(), foreign(u"0.0"_s));
+    QCOMPARE(ui->ledt_chargeRate->text(), u"1.5"_s);
+    QCOMPARE(ui->ledt_modifyheli_size->inputMask(), foreign(u"0000"_s));
+    QCOMPARE(ui->ledt_purchaseDate->inputMask(), u"0000-00-00"_s); // never translated
+    QCOMPARE(ui->ledt_purchaseDate->text(), u"2024-02-29"_s);
+    QCOMPARE(ui->ledt_addheli_weight->inputMask(), u"0.00"_s);
 }
 
 void LanguageTest::aMaskedFieldFilledInPartKeepsItsContent()
 {
     follow({"pb_options", "pb_edit_data", "pb_choose_addbattery"});
-    window->type(ui->ledt_purchaseDate, QStringLiteral("2024"));
+    window->type(ui->ledt_purchaseDate, u"2024"_s);
     ui->ledt_purchaseDate->setCursorPosition(8);
-    QTest::keyClicks(ui->ledt_purchaseDate, QStringLiteral("15"));
+    QTest::keyClicks(ui->ledt_purchaseDate, u"15"_s);
     window->type(ui->ledt_capacity, {});
     changeLanguage();
-    QCOMPARE(ui->ledt_purchaseDate->displayText(), QStringLiteral("2024-  -15"));
+    QCOMPARE(ui->ledt_purchaseDate->displayText(), u"2024-  -15"_s);
     QCOMPARE(ui->ledt_capacity->text(), QString());
 }
 
@@ -228,11 +200,11 @@ void LanguageTest::aNewWindowSpeaksTheLanguageInForce()
     changeLanguage();
     window->restart();
     ui = &window->ui();
-    QCOMPARE(ui->pb_save_discharged->text(), QStringLiteral("~OK"));
-    QCOMPARE(ui->ledt_name->text(), QStringLiteral("~MyBattery"));
-    QCOMPARE(window->gui().windowTitle(), QStringLiteral("Rotavex 15.7.0 64-bit"));
+    QCOMPARE(ui->pb_save_discharged->text(), foreign(u"OK"_s));
+    QCOMPARE(ui->ledt_name->text(), foreign(u"MyBattery"_s));
+    QCOMPARE(window->gui().windowTitle(), u"Rotavex 15.7.0 64-bit"_s);
     changeLanguageBack();
-    QCOMPARE(ui->pb_save_discharged->text(), QStringLiteral("OK"));
+    QCOMPARE(ui->pb_save_discharged->text(), u"OK"_s);
 }
 
 void LanguageTest::everyInputOfEveryPageStays()
@@ -241,10 +213,10 @@ void LanguageTest::everyInputOfEveryPageStays()
         if (!field->inputMask().isEmpty())
             field->setText(field->displayText().replace(u'0', u'3').replace(u'1', u'2'));
         else
-            field->setText(QStringLiteral("Entered in ") + field->objectName());
+            field->setText(u"Entered in "_s + field->objectName());
     }
     for (auto *field : window->gui().findChildren<QPlainTextEdit *>())
-        field->setPlainText(QStringLiteral("Notes in ") + field->objectName());
+        field->setPlainText(u"Notes in "_s + field->objectName());
     for (auto *chooser : window->gui().findChildren<QComboBox *>())
         chooser->setCurrentIndex(1);
     ui->sb_discharged_capacity->setValue(1234);
@@ -265,17 +237,17 @@ void LanguageTest::everyInputOfEveryPageStays()
 void LanguageTest::cursorAndFocusStay()
 {
     follow({"pb_options", "pb_edit_data", "pb_choose_addbattery"});
-    window->type(ui->ledt_name, QStringLiteral("Half typed"));
+    window->type(ui->ledt_name, u"Half typed"_s);
     ui->ledt_name->setCursorPosition(5);
     changeLanguage();
     QCOMPARE(window->gui().focusWidget(), ui->ledt_name);
-    QTest::keyClicks(window->gui().focusWidget(), QStringLiteral("re"));
-    QCOMPARE(ui->ledt_name->text(), QStringLiteral("Half retyped"));
+    QTest::keyClicks(window->gui().focusWidget(), u"re"_s);
+    QCOMPARE(ui->ledt_name->text(), u"Half retyped"_s);
 }
 
 void LanguageTest::pageAndChargedBatteryStay()
 {
-    RotavexPlugin::rotavexSettings->setValue(QStringLiteral("SETTINGS/voltbok"), QStringLiteral("Complex"));
+    LogbookWindow::storeFullMode();
     window->load(hangar());
     window->clickCard(window->battery("Pack"));
     changeLanguage();
@@ -292,15 +264,13 @@ void LanguageTest::aQuestionThatWasAskedStaysAsked_data()
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("question");
     QTest::addColumn<bool>("startsAsked");
-    QTest::newRow("battery") << "pb_choose_delbattery"
-                             << "pb_deleteConfirm"
-                             << "lbl_really" << false;
-    QTest::newRow("model") << "pb_choose_delmodel"
-                           << "pb_deleteConfirm_model"
-                           << "lbl_reallydelete_model" << false;
-    QTest::newRow("location") << "pb_choose_dellocation"
-                              << "pb_del_location"
-                              << "lbl_reallydelete_location" << true;
+    const auto row = [](const char *tag, const char *page, const char *button, const char *question,
+                        bool startsAsked) {
+        QTest::newRow(tag) << page << button << question << startsAsked;
+    };
+    row("battery", "pb_choose_delbattery", "pb_deleteConfirm", "lbl_really", false);
+    row("model", "pb_choose_delmodel", "pb_deleteConfirm_model", "lbl_reallydelete_model", false);
+    row("location", "pb_choose_dellocation", "pb_del_location", "lbl_reallydelete_location", true);
 }
 
 void LanguageTest::aQuestionThatWasAskedStaysAsked()
@@ -318,53 +288,54 @@ void LanguageTest::aQuestionThatWasAskedStaysAsked()
         window->click(ui->pb_options);
     follow({"pb_edit_data", page});
     changeLanguage();
-    QCOMPARE(confirm->text(), QStringLiteral("~Delete"));
+    QCOMPARE(confirm->text(), foreign(u"Delete"_s));
     QVERIFY(!really->isVisible());
     window->click(confirm);
-    QCOMPARE(confirm->text(), QStringLiteral("~Yes"));
+    QCOMPARE(confirm->text(), foreign(u"Yes"_s));
     QVERIFY(really->isVisible());
-    QCOMPARE(really->text(), QStringLiteral("~Really?"));
+    QCOMPARE(really->text(), foreign(u"Really?"_s));
 
     changeLanguageBack();
-    QCOMPARE(confirm->text(), QStringLiteral("Yes"));
+    QCOMPARE(confirm->text(), u"Yes"_s);
     QVERIFY(really->isVisible());
     changeLanguage();
-    QCOMPARE(confirm->text(), QStringLiteral("~Yes"));
+    QCOMPARE(confirm->text(), foreign(u"Yes"_s));
     window->click(confirm);
     QCOMPARE(ui->stackedWidget->currentWidget(), ui->scrollLayout); // the second click was the second
-    QCOMPARE(confirm->text(), QStringLiteral("~Delete"));
+    QCOMPARE(confirm->text(), foreign(u"Delete"_s));
 }
 
 void LanguageTest::everyCardFollowsOnShowOrNot()
 {
-    window->choose(ui->cb_select_model, QStringLiteral("Plane"));
+    window->choose(ui->cb_select_model, u"Plane"_s);
     changeLanguage();
-    // "Pack" is on show, "Flat" was, "Spare" never has been.
-    QCOMPARE(textOf(window->battery("Pack"), "pushButton"), QStringLiteral("~Charged"));
-    QCOMPARE(textOf(window->battery("Flat"), "pushButton"), QStringLiteral("~Discharged"));
-    QCOMPARE(textOf(window->battery("Spare"), "pushButton"), QStringLiteral("~Discharged"));
+    // "Spare" is on show, "Pack" and "Flat" were, "Old" never has been.
+    QCOMPARE(textOf(window->battery("Pack"), "pushButton"), foreign(u"Charged"_s));
+    QCOMPARE(textOf(window->battery("Flat"), "pushButton"), foreign(u"Discharged"_s));
+    QCOMPARE(textOf(window->battery("Spare"), "pushButton"), foreign(u"Charged"_s));
+    QCOMPARE(textOf(window->battery("Old"), "pushButton"), foreign(u"Discharged"_s));
     for (const BatteryWidget *card : window->gui().batteryList) {
-        QCOMPARE(textOf(card, "label"), QStringLiteral("~Cycles:"));
-        QCOMPARE(textOf(card, "label_6"), QStringLiteral("~Last use:"));
-        QCOMPARE(textOf(card, "lbl_discharged_label"), QStringLiteral("~Discharged:"));
-        QCOMPARE(textOf(card, "lbl_maxCurrent_label"), QStringLiteral("~Max. Current:"));
+        QCOMPARE(textOf(card, "label"), foreign(u"Cycles:"_s));
+        QCOMPARE(textOf(card, "label_6"), foreign(u"Last use:"_s));
+        QCOMPARE(textOf(card, "lbl_discharged_label"), foreign(u"Discharged:"_s));
+        QCOMPARE(textOf(card, "lbl_maxCurrent_label"), foreign(u"Max. Current:"_s));
         QCOMPARE(textOf(card, "lbl_name"), card->getBatteryName());
-        QCOMPARE(textOf(card, "lbl_capacity"), QStringLiteral("2200mAh"));
+        QCOMPARE(textOf(card, "lbl_capacity"), u"2200mAh"_s);
     }
     changeLanguageBack();
-    QCOMPARE(textOf(window->battery("Pack"), "pushButton"), QStringLiteral("Charged"));
+    QCOMPARE(textOf(window->battery("Pack"), "pushButton"), u"Charged"_s);
 }
 
 void LanguageTest::theTitleOfTheChartFollows()
 {
     follow({"pb_options", "pb_chart"});
-    window->choose(ui->cb_batteryData, QStringLiteral("Spare"));
+    window->choose(ui->cb_batteryData, u"Old"_s);
     window->click(ui->rb_showC);
-    QCOMPARE(window->gui().chartView->chart()->title(), QStringLiteral("Battery age: 0.00 years"));
+    QCOMPARE(window->gui().chartView->chart()->title(), u"Battery age: 0.00 years"_s);
     changeLanguage();
-    QCOMPARE(window->gui().chartView->chart()->title(), QStringLiteral("~Battery age: 0.00 years"));
+    QCOMPARE(window->gui().chartView->chart()->title(), foreign(u"Battery age: 0.00 years"_s));
     QVERIFY(window->gui().chartView->isVisible());
-    QCOMPARE(ui->cb_batteryData->currentText(), QStringLiteral("Spare"));
+    QCOMPARE(ui->cb_batteryData->currentText(), u"Old"_s);
     QVERIFY(ui->rb_showC->isChecked());
 }
 
@@ -382,7 +353,7 @@ void LanguageTest::theFlightOnShowStays()
     QVERIFY(!date.isEmpty());
     changeLanguage();
     QCOMPARE(ui->lbl_logview_date->text(), date);
-    QCOMPARE(ui->lbl_logview_location->text(), QStringLiteral("Meadow"));
+    QCOMPARE(ui->lbl_logview_location->text(), u"Meadow"_s);
 }
 
 QTEST_MAIN(LanguageTest)

@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tests/support/catalogue.h"
 #include "tests/support/logbookwindow.h"
+#include "tests/support/samples.h"
 
 #include <QLocale>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
-using Catalogue::Flight;
-using Catalogue::flights;
-using Catalogue::Model;
-using Catalogue::moment;
+using namespace Test;
 
 namespace {
 void openLogBook(LogbookWindow &window)
@@ -20,7 +17,7 @@ void openLogBook(LogbookWindow &window)
 
 void showLogBookOf(LogbookWindow &window, const QList<Model> &models)
 {
-    window.load(Catalogue::file(models));
+    window.load(document({{}, models}));
     openLogBook(window);
 }
 
@@ -97,7 +94,8 @@ void LogbookTest::theLogBookOpensOnItsPage()
 void LogbookTest::aFlightIsShownFieldByField()
 {
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, {{moment(0), u"Meadow"_s, QTime(0, 6, 5), 21, u"calm\nand warm"_s}}}});
+    showLogBookOf(window,
+                  {{u"Heli"_s, {}, {{moment(0), u"Meadow"_s, QTime(0, 6, 5), 21, u"calm\nand warm"_s}}}});
 
     const Ui_VoltbokGui &ui = window.ui();
     QCOMPARE(ui.cb_logview_model->currentText(), u"Heli"_s);
@@ -114,9 +112,7 @@ void LogbookTest::datesStayEnglishWhateverTheLocale()
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     LogbookWindow window;
-    Flight flight;
-    flight.date = QDateTime(QDate(2026, 5, 3), QTime(9, 5, 7));
-    showLogBookOf(window, {{u"Heli"_s, {flight}}});
+    showLogBookOf(window, {{u"Heli"_s, {}, {Flight{QDateTime(QDate(2026, 5, 3), QTime(9, 5, 7))}}}});
     QLocale::setDefault(before);
 
     QCOMPARE(window.ui().lbl_logview_date->text(), u"Sun May 3 2026"_s);
@@ -127,7 +123,7 @@ void LogbookTest::textsOfThePilotAreShownAsStored()
 {
     LogbookWindow window;
     const QString markup = u"<b>Meadow</b> & <a href='x'>hangar</a>"_s;
-    showLogBookOf(window, {{u"Heli"_s, {{moment(0), markup, QTime(0, 5), 20, markup}}}});
+    showLogBookOf(window, {{u"Heli"_s, {}, {{moment(0), markup, QTime(0, 5), 20, markup}}}});
 
     QCOMPARE(window.ui().lbl_logview_location->text(), markup);
     QCOMPARE(window.ui().lbl_logview_location->textFormat(), Qt::PlainText);
@@ -141,8 +137,8 @@ void LogbookTest::longTextsLeaveTheWindowItsWidth()
     const int width = window->width();
     const QString words = u"long "_s.repeated(40);
     const QString word = u"x"_s.repeated(200);
-    showLogBookOf(window, {{words, {{moment(0), words, QTime(0, 5), 20, words}}},
-                           {word, {{moment(0), word, QTime(0, 5), 20, word}}}});
+    showLogBookOf(window, {{words, {}, {{moment(0), words, QTime(0, 5), 20, words}}},
+                           {word, {}, {{moment(0), word, QTime(0, 5), 20, word}}}});
     LogbookWindow::choose(window.ui().cb_logview_model, word);
     QCoreApplication::processEvents();
 
@@ -153,13 +149,9 @@ void LogbookTest::longTextsLeaveTheWindowItsWidth()
 void LogbookTest::aNegativeTemperatureIsShownUnsignedOnPurpose()
 {
     LogbookWindow window;
-    Flight frosty;
-    frosty.date = moment(0);
-    frosty.temperature = -5;
-    Flight mild;
-    mild.date = moment(1);
-    mild.temperature = 0;
-    showLogBookOf(window, {{u"Heli"_s, {frosty, mild}}});
+    const Flight frosty{moment(0), u"Meadow"_s, QTime(0, 5), -5};
+    const Flight mild{moment(1), u"Meadow"_s, QTime(0, 5), 0};
+    showLogBookOf(window, {{u"Heli"_s, {}, {frosty, mild}}});
 
     QCOMPARE(window.ui().lbl_logview_temp->text(), u"0°"_s);
     older(window);
@@ -169,7 +161,7 @@ void LogbookTest::aNegativeTemperatureIsShownUnsignedOnPurpose()
 void LogbookTest::aFlightWithoutDateOrDurationLeavesThemEmpty()
 {
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, {{QDateTime(), u"Meadow"_s, QTime(), 3, u"undated"_s}}}});
+    showLogBookOf(window, {{u"Heli"_s, {}, {{QDateTime(), u"Meadow"_s, QTime(), 3, u"undated"_s}}}});
 
     QCOMPARE(fields(window),
              QStringList({QString(), QString(), u"Meadow"_s, QString(), u"3°"_s, u"undated"_s}));
@@ -190,7 +182,7 @@ void LogbookTest::aLogIsWalkedToItsEndsAndBack()
 {
     QFETCH(int, count);
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, flights(count)}});
+    showLogBookOf(window, {{u"Heli"_s, {}, flights(count)}});
 
     QCOMPARE(notes(window), count == 0 ? QString() : QString::number(count - 1));
     QCOMPARE(enabledSteps(window), count > 1 ? u"< "_s : u"  "_s);
@@ -211,7 +203,7 @@ void LogbookTest::aLogIsWalkedToItsEndsAndBack()
 void LogbookTest::turningRoundInTheMiddleShowsTheNeighbours()
 {
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, flights(5)}});
+    showLogBookOf(window, {{u"Heli"_s, {}, flights(5)}});
 
     QStringList seen{notes(window)};
     for (const char direction : "<<><<<>>><"_ba) {
@@ -224,7 +216,7 @@ void LogbookTest::turningRoundInTheMiddleShowsTheNeighbours()
 void LogbookTest::openingThePageStartsAtTheNewestFlightAgain()
 {
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, flights(3)}});
+    showLogBookOf(window, {{u"Heli"_s, {}, flights(3)}});
     older(window);
     older(window);
     QCOMPARE(enabledSteps(window), u" >"_s);
@@ -238,7 +230,8 @@ void LogbookTest::openingThePageStartsAtTheNewestFlightAgain()
 void LogbookTest::everyModelShowsItsOwnNewestFlight()
 {
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, flights(3)}, {u"Glider"_s, flights(2)}, {u"Plane"_s, flights(1)}});
+    showLogBookOf(window,
+                  {{u"Heli"_s, {}, flights(3)}, {u"Glider"_s, {}, flights(2)}, {u"Plane"_s, {}, flights(1)}});
     older(window);
 
     LogbookWindow::choose(window.ui().cb_logview_model, u"Glider"_s);
@@ -258,7 +251,8 @@ void LogbookTest::everyModelShowsItsOwnNewestFlight()
 void LogbookTest::theModelChosenOnTheOverviewIsShown()
 {
     LogbookWindow window;
-    window.load(Catalogue::file({{u"Heli"_s, flights(3)}, {u"Glider"_s, flights(2)}}, {{u"Nano"_s, {}}}));
+    window.load(
+        document({{Battery{u"Nano"_s}}, {{u"Heli"_s, {}, flights(3)}, {u"Glider"_s, {}, flights(2)}}}));
     LogbookWindow::choose(window.ui().cb_select_model, u"Glider"_s);
     openLogBook(window);
 
@@ -269,7 +263,7 @@ void LogbookTest::theModelChosenOnTheOverviewIsShown()
 void LogbookTest::aModelWithoutFlightsEmptiesTheFields()
 {
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, flights(2)}, {u"Glider"_s, {}}});
+    showLogBookOf(window, {{u"Heli"_s, {}, flights(2)}, Model{u"Glider"_s}});
     LogbookWindow::choose(window.ui().cb_logview_model, u"Glider"_s);
 
     QCOMPARE(fields(window), QStringList(6));
@@ -279,7 +273,7 @@ void LogbookTest::aModelWithoutFlightsEmptiesTheFields()
 void LogbookTest::theLaterOfTwoModelsOfOneNameIsShownOnPurpose()
 {
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, flights(4)}, {u"Heli"_s, flights(2)}});
+    showLogBookOf(window, {{u"Heli"_s, {}, flights(4)}, {u"Heli"_s, {}, flights(2)}});
     QCOMPARE(notes(window), u"1"_s);
     older(window);
     QCOMPARE(enabledSteps(window), u" >"_s);
@@ -292,7 +286,7 @@ void LogbookTest::theLaterOfTwoModelsOfOneNameIsShownOnPurpose()
 void LogbookTest::namesDifferInLetterCase()
 {
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, flights(1)}, {u"heli"_s, flights(2)}});
+    showLogBookOf(window, {{u"Heli"_s, {}, flights(1)}, {u"heli"_s, {}, flights(2)}});
     QCOMPARE(notes(window), u"0"_s);
     LogbookWindow::choose(window.ui().cb_logview_model, u"heli"_s);
     QCOMPARE(notes(window), u"1"_s);
@@ -301,11 +295,11 @@ void LogbookTest::namesDifferInLetterCase()
 void LogbookTest::aNameWithoutModelKeepsTheFieldsAndDisablesBothSteps()
 {
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, flights(3)}});
+    showLogBookOf(window, {{u"Heli"_s, {}, flights(3)}});
     older(window);
     const QStringList before = fields(window);
 
-    window.load(Catalogue::file({})); // the chooser goes on offering the model that is gone
+    window.load(document({})); // the chooser goes on offering the model that is gone
     openLogBook(window);
 
     QCOMPARE(window.ui().cb_logview_model->currentText(), u"Heli"_s);
@@ -317,10 +311,10 @@ void LogbookTest::aNameWithoutModelKeepsTheFieldsAndDisablesBothSteps()
 void LogbookTest::aStepWithoutModelTouchesNothing()
 {
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, flights(3)}});
+    showLogBookOf(window, {{u"Heli"_s, {}, flights(3)}});
     older(window);
     const QStringList before = fields(window);
-    window.load(Catalogue::file({}));
+    window.load(document({}));
 
     older(window);
     newer(window);
@@ -332,10 +326,10 @@ void LogbookTest::aStepWithoutModelTouchesNothing()
 void LogbookTest::aStepAfterAReloadShowsAFlightOfTheNewLog()
 {
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, flights(50)}});
+    showLogBookOf(window, {{u"Heli"_s, {}, flights(50)}});
     older(window);
 
-    window.load(Catalogue::file({{u"Heli"_s, flights(2)}})); // the page stays on show
+    window.load(document({{}, {{u"Heli"_s, {}, flights(2)}}})); // the page stays on show
     older(window);
     QVERIFY(QStringList({u"0"_s, u"1"_s}).contains(notes(window)));
     newer(window);
@@ -346,11 +340,11 @@ void LogbookTest::aStepAfterAReloadShowsAFlightOfTheNewLog()
 void LogbookTest::aStepThroughALogThatIsEmptyAfterAReloadTouchesNothing()
 {
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, flights(3)}});
+    showLogBookOf(window, {{u"Heli"_s, {}, flights(3)}});
     older(window);
     const QStringList before = fields(window);
 
-    window.load(Catalogue::file({{u"Heli"_s, {}}}));
+    window.load(document({{}, {Model{u"Heli"_s}}}));
     newer(window);
     older(window);
 
@@ -361,7 +355,7 @@ void LogbookTest::aStepThroughALogThatIsEmptyAfterAReloadTouchesNothing()
 void LogbookTest::lookingWritesNothing()
 {
     LogbookWindow window;
-    showLogBookOf(window, {{u"Heli"_s, flights(3)}, {u"Glider"_s, flights(2)}});
+    showLogBookOf(window, {{u"Heli"_s, {}, flights(3)}, {u"Glider"_s, {}, flights(2)}});
     const QByteArray before = window.fileBytes();
     older(window);
     newer(window);

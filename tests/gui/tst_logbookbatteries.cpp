@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The three fields of the log book that come from the batteries: which of them fills, empties or keeps them.
-#include "tests/support/catalogue.h"
 #include "tests/support/logbookwindow.h"
+#include "tests/support/samples.h"
 
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
-using Catalogue::Battery;
-using Catalogue::flights;
-using Catalogue::moment;
+using namespace Test;
 
 namespace {
 constexpr int Oldest = 0;
@@ -17,7 +15,7 @@ constexpr int Newest = 1;
 /** Opens the log book of a model with two flights, Oldest and Newest. */
 void openLogBook(LogbookWindow &window, const QList<Battery> &batteries)
 {
-    window.load(Catalogue::file({{u"Heli"_s, flights(2)}}, batteries));
+    window.load(document({batteries, {{u"Heli"_s, {}, flights(2)}}}));
     LogbookWindow::click(window.ui().pb_options);
     LogbookWindow::click(window.ui().pb_logbook);
 }
@@ -44,7 +42,7 @@ QString batteryOnShow(LogbookWindow &window)
 /** A battery with one discharge for each flight in @p flown, whose numbers tell the flights apart. */
 Battery battery(const QString &name, const QList<int> &flown)
 {
-    Battery result{name, {}};
+    Battery result{name};
     for (const int flight : flown)
         result.history.append({moment(flight), 1000U + static_cast<unsigned int>(flight), 1205});
     return result;
@@ -165,9 +163,9 @@ void LogbookBatteriesTest::aStepOntoAFlightWithoutBatteryKeepsTheFiguresOnPurpos
 void LogbookBatteriesTest::aChangeOfModelOntoAFlightWithoutBatteryEmptiesTheFigures()
 {
     LogbookWindow window;
-    const QList<Catalogue::Flight> unmatched{{moment(7)}};
+    const QList<Flight> unmatched{{moment(7)}};
     window.load(
-        Catalogue::file({{u"Heli"_s, flights(2)}, {u"Glider"_s, unmatched}}, {battery(u"A"_s, {Newest})}));
+        document({{battery(u"A"_s, {Newest})}, {{u"Heli"_s, {}, flights(2)}, {u"Glider"_s, {}, unmatched}}}));
     LogbookWindow::click(window.ui().pb_options);
     LogbookWindow::click(window.ui().pb_logbook);
     QCOMPARE(batteryOnShow(window), u"A 1001 12,5"_s);
@@ -182,7 +180,7 @@ void LogbookBatteriesTest::withoutAnyBatteryTheFiguresStayAsTheyWere()
     openLogBook(window, {battery(u"A"_s, {Newest})});
 
     window.load(
-        Catalogue::file({{u"Heli"_s, flights(2)}})); // nobody is left to answer, or to empty the fields
+        document({{}, {{u"Heli"_s, {}, flights(2)}}})); // nobody is left to answer, or to empty the fields
     LogbookWindow::click(window.ui().pb_options);
     LogbookWindow::click(window.ui().pb_logbook);
 
@@ -208,7 +206,7 @@ void LogbookBatteriesTest::figuresAreWrittenUnpaddedWithAComma()
     QFETCH(unsigned int, discharged);
     QFETCH(unsigned int, current);
     LogbookWindow window;
-    openLogBook(window, {{u"A"_s, {{moment(Newest), discharged, current}}}});
+    openLogBook(window, {{u"A"_s, false, {{moment(Newest), discharged, current}}}});
 
     QTEST(batteryOnShow(window), "onShow");
 }
@@ -216,7 +214,7 @@ void LogbookBatteriesTest::figuresAreWrittenUnpaddedWithAComma()
 void LogbookBatteriesTest::theFirstOfTwoDischargesOfOneMomentIsShown()
 {
     LogbookWindow window;
-    openLogBook(window, {{u"A"_s, {{moment(Newest), 500, 900}, {moment(Newest), 700, 800}}}});
+    openLogBook(window, {{u"A"_s, false, {{moment(Newest), 500, 900}, {moment(Newest), 700, 800}}}});
 
     QCOMPARE(batteryOnShow(window), u"A 500 9,0"_s);
 }
@@ -224,7 +222,7 @@ void LogbookBatteriesTest::theFirstOfTwoDischargesOfOneMomentIsShown()
 void LogbookBatteriesTest::aSecondsDifferenceIsNoMatch()
 {
     LogbookWindow window;
-    openLogBook(window, {{u"A"_s, {{moment(Newest).addSecs(1), 500, 900}}}});
+    openLogBook(window, {{u"A"_s, false, {{moment(Newest).addSecs(1), 500, 900}}}});
 
     QCOMPARE(batteryOnShow(window), QString());
 }
@@ -232,7 +230,7 @@ void LogbookBatteriesTest::aSecondsDifferenceIsNoMatch()
 void LogbookBatteriesTest::anUndatedDischargeAnswersTheLookupOfAnEmptyLog()
 {
     LogbookWindow window;
-    window.load(Catalogue::file({{u"Heli"_s, {}}}, {{u"A"_s, {{QDateTime(), 500, 900}}}}));
+    window.load(document({{{u"A"_s, false, {{QDateTime(), 500, 900}}}}, {Model{u"Heli"_s}}}));
     LogbookWindow::click(window.ui().pb_options);
     LogbookWindow::click(window.ui().pb_logbook);
 
@@ -245,7 +243,7 @@ void LogbookBatteriesTest::aDischargeCapturedByAClickIsFoundInTheLogBook()
     LogbookWindow window;
     Battery charged = battery(u"A"_s, {});
     charged.charged = true;
-    window.load(Catalogue::file({{u"Heli"_s, {}}}, {charged}));
+    window.load(document({{charged}, {Model{u"Heli"_s, {u"A"_s}}}}));
     LogbookWindow::clickCard(window.battery(u"A"_s));
     LogbookWindow::click(window.ui().pb_options);
     LogbookWindow::click(window.ui().pb_logbook);

@@ -4,12 +4,15 @@
 #include "gui/namechooser.h"
 #include "records/shorttext.h"
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
+#include "tests/support/samples.h"
 
 #include <QLabel>
 #include <QStyleFactory>
 
 #include <ctime>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace Test;
 
 class LongNamesTest : public QObject
 {
@@ -54,30 +57,25 @@ double processorTime()
     return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
-QByteArray battery(const QByteArray &name)
+Battery battery(const QString &name)
 {
-    return Xml::element(
-        "Battery",
-        Xml::element("Name", name) +
-            Xml::element("Data", "<Cycle Discharged=\"1500\" Date=\"Sun Nov 15 12:04:22 2026\"/>"));
+    return {name, false, {{moment(0), 1500, 0}}};
 }
 
-QByteArray model(const QByteArray &name, const QByteArray &location)
+Model model(const QString &name, const QString &location)
 {
-    const QByteArray flight = "<LogData Location=\"" + location + "\" Date=\"Sun Nov 15 12:04:22 2026\"/>";
-    return Xml::element("Model", Xml::element("Name", name) + Xml::element("Battery", name) +
-                                     Xml::element("FlightLog", flight));
+    return {name, {name}, {{moment(0), location}}};
 }
 
 /** A model with a flight at one place, and the battery that was flown, all with this name. */
-QByteArray logbook(const QByteArray &name)
+QByteArray logbook(const QString &name)
 {
-    return Xml::file(Xml::locations({name}) + battery(name) + model(name, name));
+    return document({{battery(name)}, {model(name, name)}, {name}});
 }
 
 QByteArray enormousNames()
 {
-    return logbook(QByteArray(Enormous, 'n'));
+    return logbook(QString(Enormous, u'n'));
 }
 
 QList<QComboBox *> choosers(const VoltbokGui &window)
@@ -95,7 +93,7 @@ void LongNamesTest::aTextIsShownUpToAThousandCharacters_data()
     QTest::addRow("999") << many(999) << many(999);
     QTest::addRow("1000") << many(1000) << many(1000);
     QTest::addRow("1001") << many(1001) << many(1000);
-    const QString battery = QStringLiteral(u"🔋"); // takes two
+    const QString battery = u"🔋"_s; // takes two
     QTest::addRow("a character up to the limit") << many(998) + battery + u'x' << many(998) + battery;
     QTest::addRow("a character across the limit") << many(999) + battery << many(999);
 }
@@ -119,7 +117,7 @@ void LongNamesTest::aCardShowsTheBeginningOfALongName()
     QString name = QString(length, u'n');
     BatteryWidget battery;
     battery.setBatteryName(name);
-    QCOMPARE(battery.findChild<QLabel *>(QStringLiteral("lbl_name"))->text(), QString(shown, u'n'));
+    QCOMPARE(battery.findChild<QLabel *>(u"lbl_name"_s)->text(), QString(shown, u'n'));
     QCOMPARE(battery.getBatteryName(), name);
 }
 
@@ -133,7 +131,7 @@ void LongNamesTest::theLogBookShowsTheBeginningOfLongNames()
     QFETCH(int, length);
     QFETCH(int, shown);
     LogbookWindow window;
-    window.load(logbook(QByteArray(length, 'n')));
+    window.load(logbook(QString(length, u'n')));
     window.click(window.ui().pb_options);
     window.click(window.ui().pb_logbook);
     QCOMPARE(window.ui().lbl_logview_location->text(), QString(shown, u'n'));
@@ -144,7 +142,7 @@ void LongNamesTest::theItemsOfEveryChooserAreWhole()
 {
     const QString name(Limit + 1, u'n');
     LogbookWindow window;
-    window.load(logbook(name.toLatin1()));
+    window.load(logbook(name));
     const QList<QComboBox *> all = choosers(window.gui());
     QCOMPARE(all.size(), 9);
     for (const QComboBox *chooser : all) {
@@ -171,8 +169,8 @@ void LongNamesTest::aChooserPaintsAndMeasuresTheBeginning()
 void LongNamesTest::theOpenListOfAChooserPaintsTheBeginning_data()
 {
     QTest::addColumn<QString>("style");
-    QTest::addRow("as a menu") << QStringLiteral("Fusion");
-    QTest::addRow("as a list") << QStringLiteral("Windows");
+    QTest::addRow("as a menu") << u"Fusion"_s;
+    QTest::addRow("as a list") << u"Windows"_s;
 }
 
 void LongNamesTest::theOpenListOfAChooserPaintsTheBeginning()
@@ -218,12 +216,12 @@ void LongNamesTest::theOpenListIsAsWideAsTheBeginningsOfItsItems()
 
 void LongNamesTest::longNamesAreToldApartByTheirEnds()
 {
-    const QByteArray beginning(2 * Limit, 'n');
+    const QString beginning(2 * Limit, u'n');
     LogbookWindow window;
-    window.load(Xml::file(battery(beginning + "1") + battery(beginning + "2") + model(beginning + "1", {}) +
-                          model(beginning + "2", {})));
-    for (const char *end : {"2", "1"}) {
-        const QString name = QString::fromLatin1(beginning + end);
+    window.load(document({{battery(beginning + u'1'), battery(beginning + u'2')},
+                          {model(beginning + u'1', {}), model(beginning + u'2', {})}}));
+    for (const QChar end : {u'2', u'1'}) {
+        const QString name = beginning + end;
         window.choose(window.ui().cb_select_model, name);
         QCOMPARE(window.cardsOnShow(), QStringList(name));
         QCOMPARE(window.ui().cb_logview_model->currentText(), name);

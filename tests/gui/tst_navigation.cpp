@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The ways from page to page, by clicks.
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
+#include "tests/support/samples.h"
 
 #include <QChart>
 #include <QChartView>
 #include <QLineSeries>
 
 #include <limits>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace Test;
 
 class NavigationTest : public QObject
 {
@@ -81,7 +84,7 @@ const QList<Route> &routes()
 
 QString today()
 {
-    return QDate::currentDate().toString(QStringLiteral("yyyy-MM-dd"));
+    return QDate::currentDate().toString(u"yyyy-MM-dd"_s);
 }
 } // namespace
 
@@ -89,9 +92,8 @@ void NavigationTest::init()
 {
     window = std::make_unique<LogbookWindow>();
     ui = &window->ui();
-    RotavexPlugin::rotavexSettings->setValue(QStringLiteral("SETTINGS/voltbok"), QStringLiteral("Complex"));
-    window->load(Xml::file(Xml::locations({"Meadow", "Hill"}) + Xml::battery("One", true) +
-                           Xml::battery("Two") + Xml::model("Heli", {"One"}) + Xml::model("Plane", {"Two"})));
+    LogbookWindow::storeFullMode();
+    window->load(hangar());
 }
 
 void NavigationTest::cleanup()
@@ -205,10 +207,11 @@ void NavigationTest::everyOpeningOfAnAddPagePresetsToday_data()
 {
     QTest::addColumn<QString>("button");
     QTest::addColumn<QString>("field");
-    QTest::newRow("battery") << "pb_choose_addbattery"
-                             << "ledt_purchaseDate";
-    QTest::newRow("model") << "pb_choose_addmodel"
-                           << "ledt_addheli_purchase";
+    const auto row = [](const char *tag, const char *button, const char *field) {
+        QTest::newRow(tag) << button << field;
+    };
+    row("battery", "pb_choose_addbattery", "ledt_purchaseDate");
+    row("model", "pb_choose_addmodel", "ledt_addheli_purchase");
 }
 
 void NavigationTest::everyOpeningOfAnAddPagePresetsToday()
@@ -216,13 +219,13 @@ void NavigationTest::everyOpeningOfAnAddPagePresetsToday()
     QFETCH(QString, button);
     QFETCH(QString, field);
     auto *date = window->gui().findChild<QLineEdit *>(field);
-    QCOMPARE(date->text(), QStringLiteral("2020-01-01"));
+    QCOMPARE(date->text(), u"2020-01-01"_s);
     for (int i = 0; i < 2; ++i) {
         const QString before = today();
         follow({"pb_options", "pb_edit_data", button});
         QVERIFY(date->text() == before || date->text() == today());
-        window->type(date, QStringLiteral("19991231"));
-        QCOMPARE(date->text(), QStringLiteral("1999-12-31"));
+        window->type(date, u"19991231"_s);
+        QCOMPARE(date->text(), u"1999-12-31"_s);
         window->click(ui->pb_options);
         window->click(ui->pb_options);
     }
@@ -231,26 +234,26 @@ void NavigationTest::everyOpeningOfAnAddPagePresetsToday()
 void NavigationTest::otherFieldsOfAnAddPageKeepWhatWasTyped()
 {
     follow({"pb_options", "pb_edit_data", "pb_choose_addbattery"});
-    window->type(ui->ledt_name, QStringLiteral("Half typed"));
-    window->type(ui->ledt_capacity, QStringLiteral("3300"));
+    window->type(ui->ledt_name, u"Half typed"_s);
+    window->type(ui->ledt_capacity, u"3300"_s);
     follow({"pb_options", "pb_edit_data", "pb_choose_addbattery"});
-    QCOMPARE(ui->ledt_name->text(), QStringLiteral("Half typed"));
-    QCOMPARE(ui->ledt_capacity->text(), QStringLiteral("3300"));
+    QCOMPARE(ui->ledt_name->text(), u"Half typed"_s);
+    QCOMPARE(ui->ledt_capacity->text(), u"3300"_s);
 }
 
 void NavigationTest::theDeletePagesPreselectWhatTheEditPageChose()
 {
     follow({"pb_options", "pb_edit_data"});
-    window->choose(ui->cb_bat_choose_model, QStringLiteral("Two"));
-    window->choose(ui->cb_model_choose_bat, QStringLiteral("Plane"));
-    QCOMPARE(ui->cb_batteryList_delete->currentText(), QStringLiteral("One"));
-    QCOMPARE(ui->cb_modelList_delete->currentText(), QStringLiteral("Heli"));
+    window->choose(ui->cb_bat_choose_model, u"Spare"_s);
+    window->choose(ui->cb_model_choose_bat, u"Plane"_s);
+    QCOMPARE(ui->cb_batteryList_delete->currentText(), u"Pack"_s);
+    QCOMPARE(ui->cb_modelList_delete->currentText(), u"Heli"_s);
 
     window->click(ui->pb_choose_delbattery);
-    QCOMPARE(ui->cb_batteryList_delete->currentText(), QStringLiteral("Two"));
-    QCOMPARE(ui->cb_modelList_delete->currentText(), QStringLiteral("Heli"));
+    QCOMPARE(ui->cb_batteryList_delete->currentText(), u"Spare"_s);
+    QCOMPARE(ui->cb_modelList_delete->currentText(), u"Heli"_s);
     follow({"pb_options", "pb_edit_data", "pb_choose_delmodel"});
-    QCOMPARE(ui->cb_modelList_delete->currentText(), QStringLiteral("Plane"));
+    QCOMPARE(ui->cb_modelList_delete->currentText(), u"Plane"_s);
 }
 
 void NavigationTest::aDeletePageKeepsItsChoiceWhenTheNameIsNotOffered()
@@ -258,12 +261,12 @@ void NavigationTest::aDeletePageKeepsItsChoiceWhenTheNameIsNotOffered()
     follow({"pb_options", "pb_edit_data"});
     ui->cb_batteryList_delete->setCurrentIndex(1);
     ui->cb_modelList_delete->setCurrentIndex(1);
-    ui->cb_bat_choose_model->setItemText(0, QStringLiteral("one")); // letter case matters
-    ui->cb_model_choose_bat->setItemText(0, QStringLiteral("Stranger"));
+    ui->cb_bat_choose_model->setItemText(0, u"pack"_s); // letter case matters
+    ui->cb_model_choose_bat->setItemText(0, u"Stranger"_s);
     window->click(ui->pb_choose_delbattery);
-    QCOMPARE(ui->cb_batteryList_delete->currentText(), QStringLiteral("Two"));
+    QCOMPARE(ui->cb_batteryList_delete->currentText(), u"Spare"_s);
     follow({"pb_options", "pb_edit_data", "pb_choose_delmodel"});
-    QCOMPARE(ui->cb_modelList_delete->currentText(), QStringLiteral("Plane"));
+    QCOMPARE(ui->cb_modelList_delete->currentText(), u"Plane"_s);
 }
 
 void NavigationTest::theDeleteLocationPagePresetsNothing()
@@ -271,13 +274,13 @@ void NavigationTest::theDeleteLocationPagePresetsNothing()
     ui->cb_log_location->setCurrentIndex(0);
     ui->cb_location_delete->setCurrentIndex(1);
     follow({"pb_options", "pb_edit_data", "pb_choose_dellocation"});
-    QCOMPARE(ui->cb_location_delete->currentText(), QStringLiteral("Hill"));
+    QCOMPARE(ui->cb_location_delete->currentText(), u"Hill"_s);
 }
 
 void NavigationTest::openingTheChartDrawsTheChosenBattery()
 {
     QDateTime moment(QDate(2026, 11, 15), QTime(12, 4, 22));
-    window->battery("Two")->addFullEntry(moment, 1500, 4550, false);
+    window->battery("Spare")->addFullEntry(moment, 1500, 4550, false);
     ui->cb_batteryData->setCurrentIndex(1);
     const QChartView *before = window->gui().chartView;
     follow({"pb_options", "pb_chart"});
@@ -304,7 +307,7 @@ void NavigationTest::aUnitButtonRedrawsTheChartAndStaysOnThePage()
 void NavigationTest::theChartIsNotOfferedWithoutABattery()
 {
     QVERIFY(ui->pb_chart->isEnabled());
-    window->load(Xml::file(Xml::model("Heli")));
+    window->load(document({{}, {Model{u"Heli"_s}}}));
     QVERIFY(!ui->pb_chart->isEnabled());
     follow({"pb_options"});
     QTest::mouseClick(ui->pb_chart, Qt::LeftButton);
@@ -315,24 +318,24 @@ void NavigationTest::theChartIsNotOfferedWithoutABattery()
 void NavigationTest::openingTheLogBookFillsItForTheChosenModel()
 {
     LogData flight;
-    flight.location = QStringLiteral("Hill");
+    flight.location = u"Hill"_s;
     window->model("Plane")->addLogData(flight);
     follow({"pb_options", "pb_logbook"});
     QCOMPARE(ui->lbl_logview_location->text(), QString());
-    window->choose(ui->cb_logview_model, QStringLiteral("Plane"));
-    QCOMPARE(ui->lbl_logview_location->text(), QStringLiteral("Hill"));
+    window->choose(ui->cb_logview_model, u"Plane"_s);
+    QCOMPARE(ui->lbl_logview_location->text(), u"Hill"_s);
 
-    flight.location = QStringLiteral("Meadow");
+    flight.location = u"Meadow"_s;
     window->model("Plane")->addLogData(flight);
     follow({"pb_options", "pb_logbook"});
-    QCOMPARE(ui->lbl_logview_location->text(), QStringLiteral("Meadow"));
+    QCOMPARE(ui->lbl_logview_location->text(), u"Meadow"_s);
 }
 
 void NavigationTest::choosingAModelOnTheEditPageUpdatesTheAssignmentButtons()
 {
     follow({"pb_options", "pb_edit_data"});
     QVERIFY(!ui->pb_add_batt_to_model->isEnabled() && ui->pb_rem_batt_from_model->isEnabled());
-    window->choose(ui->cb_model_choose_bat, QStringLiteral("Plane"));
+    window->choose(ui->cb_model_choose_bat, u"Plane"_s);
     QVERIFY(ui->pb_add_batt_to_model->isEnabled() && !ui->pb_rem_batt_from_model->isEnabled());
     QCOMPARE(window->gui().currentPage, 4);
 }

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the overview shows, and how it follows the choice of a model.
+#include "tests/support/datafile.h"
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
 
 #include <QAbstractItemView>
 #include <QPointer>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace Test;
 
 class OverviewTest : public QObject
 {
@@ -46,14 +49,15 @@ private:
 };
 
 namespace {
-QByteArray fiveBatteries()
+QList<Battery> fiveBatteries()
 {
-    return Xml::battery("A") + Xml::battery("B") + Xml::battery("C") + Xml::battery("D") + Xml::battery("E");
+    return {{u"A"_s}, {u"B"_s}, {u"C"_s}, {u"D"_s}, {u"E"_s}};
 }
 
 QByteArray twoModels()
 {
-    return Xml::file(fiveBatteries() + Xml::model("Heli", {"D", "B"}) + Xml::model("Plane", {"B", "E", "A"}));
+    return document(
+        {fiveBatteries(), {Model{u"Heli"_s, {u"D"_s, u"B"_s}}, Model{u"Plane"_s, {u"B"_s, u"E"_s, u"A"_s}}}});
 }
 } // namespace
 
@@ -76,9 +80,8 @@ void OverviewTest::expectWelcome() const
     QCOMPARE(ui->lo_overview->count(), 3);
     QVERIFY(ui->lbl_welcome->isVisible() && ui->lbl_optionshint->isVisible());
     QVERIFY(ui->lbl_welcome->y() < ui->lbl_optionshint->y());
-    QCOMPARE(ui->lbl_welcome->text(), QStringLiteral("Welcome"));
-    QCOMPARE(ui->lbl_optionshint->text(),
-             QStringLiteral("Please go to Options and add new model and battery!"));
+    QCOMPARE(ui->lbl_welcome->text(), u"Welcome"_s);
+    QCOMPARE(ui->lbl_optionshint->text(), u"Please go to Options and add new model and battery!"_s);
     QVERIFY(!ui->cb_select_model->isVisible());
     QVERIFY(!ui->pb_chart->isEnabled());
     QCOMPARE(window->gui().overviewCardCount, 0);
@@ -102,14 +105,14 @@ void OverviewTest::withoutADataFileThePilotIsWelcomed()
 
 void OverviewTest::withoutBatteriesTheSelectorIsNotOnShow()
 {
-    window->load(Xml::file(Xml::model("Heli") + Xml::model("Plane")));
+    window->load(document({{}, {Model{u"Heli"_s}, Model{u"Plane"_s}}}));
     expectWelcome();
     QCOMPARE(ui->cb_select_model->count(), 2);
 }
 
 void OverviewTest::withoutModelsEveryBatteryIsOnShow()
 {
-    window->load(Xml::file(fiveBatteries()));
+    window->load(document({fiveBatteries()}));
     QCOMPARE(window->cardsOnShow(), QStringList({"A", "B", "C", "D", "E"}));
     QCOMPARE(widgetIn(0), window->battery("A"));
     QCOMPARE(widgetIn(4), window->battery("E"));
@@ -119,7 +122,7 @@ void OverviewTest::withoutModelsEveryBatteryIsOnShow()
     QVERIFY(!ui->lbl_optionshint->isVisible());
     QVERIFY(!ui->lbl_welcome->isVisible());
 
-    window->load(Xml::file(Xml::battery("Alone")));
+    window->load(document({{Battery{u"Alone"_s}}}));
     QCOMPARE(widgetIn(0), window->battery("Alone"));
     QCOMPARE(row(1), ui->verticalSpacer_overview);
     QCOMPARE(window->gui().overviewCardCount, 0);
@@ -128,7 +131,7 @@ void OverviewTest::withoutModelsEveryBatteryIsOnShow()
 
 void OverviewTest::aModelWithoutBatteriesGetsTheHint()
 {
-    window->load(Xml::file(fiveBatteries() + Xml::model("Heli") + Xml::model("Plane", {"A"})));
+    window->load(document({fiveBatteries(), {Model{u"Heli"_s}, Model{u"Plane"_s, {u"A"_s}}}}));
     expectHintUnderTheSelector();
     QVERIFY(ui->pb_chart->isEnabled());
 }
@@ -136,7 +139,7 @@ void OverviewTest::aModelWithoutBatteriesGetsTheHint()
 void OverviewTest::aModelShowsItsBatteriesInTheOrderOfTheCatalogue()
 {
     window->load(twoModels());
-    QCOMPARE(ui->cb_select_model->currentText(), QStringLiteral("Heli"));
+    QCOMPARE(ui->cb_select_model->currentText(), u"Heli"_s);
     QCOMPARE(window->cardsOnShow(), QStringList({"B", "D"}));
     QCOMPARE(widgetIn(0), ui->cb_select_model);
     QCOMPARE(widgetIn(1), window->battery("B"));
@@ -151,14 +154,14 @@ void OverviewTest::aModelShowsItsBatteriesInTheOrderOfTheCatalogue()
 
 void OverviewTest::namesOfBatteriesAreComparedExactly()
 {
-    window->load(Xml::file(Xml::battery("Pack") + Xml::battery("pack") + Xml::battery("Pack ") +
-                           Xml::model("Heli", {"pack"})));
+    window->load(document(
+        {{Battery{u"Pack"_s}, Battery{u"pack"_s}, Battery{u"Pack "_s}}, {Model{u"Heli"_s, {u"pack"_s}}}}));
     QCOMPARE(window->cardsOnShow(), QStringList({"pack"}));
 }
 
 void OverviewTest::ofTwoModelsOfOneNameTheLaterIsSelectedOnPurpose()
 {
-    window->load(Xml::file(fiveBatteries() + Xml::model("Heli", {"A"}) + Xml::model("Heli", {"B"})));
+    window->load(document({fiveBatteries(), {Model{u"Heli"_s, {u"A"_s}}, Model{u"Heli"_s, {u"B"_s}}}}));
     QCOMPARE(window->cardsOnShow(), QStringList({"B"}));
     QCOMPARE(window->gui().selectedModel(), window->gui().modelList.constLast());
 }
@@ -166,7 +169,7 @@ void OverviewTest::ofTwoModelsOfOneNameTheLaterIsSelectedOnPurpose()
 void OverviewTest::ofTwoBatteriesOfOneNameBothAreOnShow()
 {
     window->load(
-        Xml::file(Xml::battery("A") + Xml::battery("B") + Xml::battery("A") + Xml::model("Heli", {"A"})));
+        document({{Battery{u"A"_s}, Battery{u"B"_s}, Battery{u"A"_s}}, {Model{u"Heli"_s, {u"A"_s}}}}));
     QCOMPARE(window->cardsOnShow(), QStringList({"A", "A"}));
 }
 
@@ -174,7 +177,7 @@ void OverviewTest::theWelcomeGoesWithTheFirstBatteryAndComesBackWithoutIt()
 {
     window->load(twoModels());
     QVERIFY(!ui->lbl_welcome->isVisible());
-    window->load(Xml::file({}));
+    window->load(document({}));
     expectWelcome();
     window->load(twoModels());
     QCOMPARE(window->cardsOnShow(), QStringList({"B", "D"}));
@@ -185,7 +188,7 @@ void OverviewTest::anotherModelBringsItsCards()
 {
     window->load(twoModels());
     const QList<BatteryWidget *> records = window->gui().batteryList;
-    window->choose(ui->cb_select_model, QStringLiteral("Plane"));
+    window->choose(ui->cb_select_model, u"Plane"_s);
     QCOMPARE(window->cardsOnShow(), QStringList({"A", "B", "E"}));
     QCOMPARE(widgetIn(0), ui->cb_select_model);
     QCOMPARE(widgetIn(3), window->battery("E"));
@@ -194,28 +197,28 @@ void OverviewTest::anotherModelBringsItsCards()
     QVERIFY(!window->battery("D")->isVisible());
     QCOMPARE(window->gui().batteryList, records); // the same cards, laid out again
 
-    window->choose(ui->cb_select_model, QStringLiteral("Heli"));
+    window->choose(ui->cb_select_model, u"Heli"_s);
     QCOMPARE(window->cardsOnShow(), QStringList({"B", "D"}));
     QVERIFY(!window->battery("A")->isVisible());
 }
 
 void OverviewTest::anotherModelWithoutBatteriesBringsTheHint()
 {
-    window->load(Xml::file(fiveBatteries() + Xml::model("Heli", {"A"}) + Xml::model("Kit")));
-    window->choose(ui->cb_select_model, QStringLiteral("Kit"));
+    window->load(document({fiveBatteries(), {Model{u"Heli"_s, {u"A"_s}}, Model{u"Kit"_s}}}));
+    window->choose(ui->cb_select_model, u"Kit"_s);
     expectHintUnderTheSelector();
-    window->choose(ui->cb_select_model, QStringLiteral("Heli"));
+    window->choose(ui->cb_select_model, u"Heli"_s);
     QVERIFY(!ui->lbl_optionshint->isVisible());
     QCOMPARE(window->cardsOnShow(), QStringList({"A"}));
 }
 
 void OverviewTest::theSelectorIsPlacedEvenWithoutRecords()
 {
-    window->load(Xml::file(Xml::model("Heli")));
+    window->load(document({{}, {Model{u"Heli"_s}}}));
     window->gui().on_cb_select_model_currentIndexChanged(0);
     expectHintUnderTheSelector();
 
-    window->load(Xml::file({})); // the names are stale now: there is no selected model
+    window->load(document({})); // the names are stale now: there is no selected model
     window->gui().on_cb_select_model_currentIndexChanged(0);
     QCOMPARE(widgetIn(0), ui->cb_select_model);
     QCOMPARE(row(1), ui->verticalSpacer_overview);
@@ -225,7 +228,7 @@ void OverviewTest::theSelectorIsPlacedEvenWithoutRecords()
 
 void OverviewTest::withoutASelectedModelEveryBatteryIsOnShow()
 {
-    window->load(Xml::file(fiveBatteries()));
+    window->load(document({fiveBatteries()}));
     window->gui().on_cb_select_model_currentIndexChanged(-1);
     QCOMPARE(window->cardsOnShow(), QStringList({"A", "B", "C", "D", "E"}));
     QCOMPARE(widgetIn(1), window->battery("A"));
@@ -237,16 +240,16 @@ void OverviewTest::theEditPageAndTheLogBookFollowTheSelectorAtOnce()
 {
     window->load(twoModels());
     LogData flight;
-    flight.location = QStringLiteral("Hill");
+    flight.location = u"Hill"_s;
     window->model("Plane")->addLogData(flight);
     QVERIFY(ui->pb_add_batt_to_model->isEnabled()); // "A" is not assigned to "Heli"
 
-    window->choose(ui->cb_select_model, QStringLiteral("Plane"));
-    QCOMPARE(ui->cb_model_choose_bat->currentText(), QStringLiteral("Plane"));
+    window->choose(ui->cb_select_model, u"Plane"_s);
+    QCOMPARE(ui->cb_model_choose_bat->currentText(), u"Plane"_s);
     QVERIFY(ui->pb_rem_batt_from_model->isEnabled());
-    QCOMPARE(ui->cb_logview_model->currentText(), QStringLiteral("Plane"));
-    QCOMPARE(ui->lbl_logview_location->text(), QStringLiteral("Hill"));
-    QCOMPARE(ui->cb_modelList_delete->currentText(), QStringLiteral("Heli"));
+    QCOMPARE(ui->cb_logview_model->currentText(), u"Plane"_s);
+    QCOMPARE(ui->lbl_logview_location->text(), u"Hill"_s);
+    QCOMPARE(ui->cb_modelList_delete->currentText(), u"Heli"_s);
     QVERIFY(!window->fileBytes().contains("Hill")); // looking writes nothing
 }
 
@@ -257,7 +260,7 @@ void OverviewTest::theSelectorKeepsTheFocusOfTheKeyboard()
     QTest::keyClick(ui->cb_select_model, Qt::Key_Down);
     QCOMPARE(window->gui().focusWidget(), ui->cb_select_model);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
-    QCOMPARE(ui->cb_select_model->currentText(), QStringLiteral("Heli"));
+    QCOMPARE(ui->cb_select_model->currentText(), u"Heli"_s);
     QCOMPARE(window->gui().focusWidget(), ui->cb_select_model);
 }
 
@@ -272,7 +275,7 @@ void OverviewTest::theSelectorKeepsTheFocusAfterAChoiceWithTheMouse()
     const QPoint item = list->visualRect(list->model()->index(1, 0)).center();
     QTest::mouseMove(list->viewport(), item);
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, item);
-    QCOMPARE(ui->cb_select_model->currentText(), QStringLiteral("Plane"));
+    QCOMPARE(ui->cb_select_model->currentText(), u"Plane"_s);
     QTRY_VERIFY(!list->isVisible());
     QCOMPARE(window->cardsOnShow(), QStringList({"A", "B", "E"}));
     QCOMPARE(window->gui().focusWidget(), ui->cb_select_model);
@@ -291,10 +294,10 @@ void OverviewTest::theSelectorDoesNotTakeAFocusItDidNotHave()
 void OverviewTest::onlyTheContentOnShowHasItsNames()
 {
     window->load(twoModels());
-    window->choose(ui->cb_select_model, QStringLiteral("Plane"));
-    QCOMPARE(window->gui().findChildren<QWidget *>(QStringLiteral("scrollView")),
+    window->choose(ui->cb_select_model, u"Plane"_s);
+    QCOMPARE(window->gui().findChildren<QWidget *>(u"scrollView"_s),
              QList<QWidget *>({ui->scrollArea->widget()}));
-    QCOMPARE(window->gui().findChildren<QGridLayout *>(QStringLiteral("lo_overview")),
+    QCOMPARE(window->gui().findChildren<QGridLayout *>(u"lo_overview"_s),
              QList<QGridLayout *>({ui->lo_overview}));
     QCOMPARE(ui->scrollView, ui->scrollArea->widget());
     QCOMPARE(ui->scrollView->layout(), ui->lo_overview);
@@ -313,7 +316,7 @@ void OverviewTest::oldContentsStayAliveAndOutOfSight()
     window->gui().setVisible(shown);
     QList<QPointer<QWidget>> contents = {ui->scrollView};
     for (int i = 0; i < 3; ++i) {
-        window->load(i == 1 ? Xml::file({}) : twoModels());
+        window->load(i == 1 ? document({}) : twoModels());
         contents.append(ui->scrollView);
     }
     ui->cb_select_model->setCurrentIndex(1);
@@ -346,7 +349,7 @@ void OverviewTest::theSpacerIsInOneGridAtATime()
     QCOMPARE(gridsWithTheSpacer(), QList<QGridLayout *>({ui->lo_overview}));
     ui->cb_select_model->setCurrentIndex(1);
     QCOMPARE(gridsWithTheSpacer(), QList<QGridLayout *>({ui->lo_overview}));
-    window->load(Xml::file({}));
+    window->load(document({}));
     QCOMPARE(gridsWithTheSpacer(), QList<QGridLayout *>({ui->lo_overview}));
 }
 

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window's rhythm: write the whole file, read it back, refill every chooser from what was read.
+#include "tests/support/datafile.h"
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
 
 #include <QChartView>
 #include <QSignalSpy>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace Test;
 
 class OverviewReloadTest : public QObject
 {
@@ -20,10 +23,9 @@ private Q_SLOTS:
     void aReloadGoesBackToTheStoredModel();
     void refillingTheChoosersIsSilent();
     void aReloadDrawsNoChart();
-    void modelsThatAreGoneStayInTheChoosersOnPurpose();
-    void batteriesThatAreGoneStayInTheChoosersOnPurpose();
-    void locationsStayInTheChoosersWhenAFileHasNoneOnPurpose();
+    void namesThatAreGoneStayInTheChoosersOnPurpose();
     void theLocationsWrittenAreTheItemsOfTheDischargePage();
+    void aSaveWritesTheBytesThatWereLoaded();
     void everyReloadReadsTheFileAgain();
     void aSaveWithoutAStoragePathWritesNothing();
     void aSaveThatFailsIsNotReported();
@@ -35,42 +37,19 @@ private Q_SLOTS:
 private:
     std::unique_ptr<LogbookWindow> window;
     Ui_VoltbokGui *ui = nullptr;
-
-    QList<QComboBox *> modelChoosers() const
-    {
-        return {ui->cb_select_model, ui->cb_logview_model, ui->cb_model_choose_bat, ui->cb_modelList_delete};
-    }
-    QList<QComboBox *> batteryChoosers() const
-    {
-        return {ui->cb_batteryData, ui->cb_batteryList_delete, ui->cb_bat_choose_model};
-    }
-    QList<QComboBox *> locationChoosers() const { return {ui->cb_log_location, ui->cb_location_delete}; }
-    void deleteByClicks(QAbstractButton *page, QAbstractButton *button, int clicks);
 };
 
 namespace {
-QStringList items(const QComboBox *chooser)
+QList<Battery> batteries()
 {
-    QStringList texts;
-    for (int i = 0; i < chooser->count(); ++i)
-        texts.append(chooser->itemText(i));
-    return texts;
-}
-
-void storeModel(const QVariant &name)
-{
-    RotavexPlugin::rotavexSettings->setValue(QStringLiteral("SETTINGS/logmodel"), name);
-}
-
-QByteArray batteries()
-{
-    return Xml::battery("A", true) + Xml::battery("B", true) + Xml::battery("C", true);
+    return {{u"A"_s, true}, {u"B"_s, true}, {u"C"_s, true}};
 }
 
 QByteArray wholeFile()
 {
-    return Xml::file(Xml::locations({"Meadow", "Hill", "Meadow"}) + batteries() +
-                     Xml::model("Heli", {"A", "B"}) + Xml::model("Plane", {"B"}) + Xml::model("Glider"));
+    return document({batteries(),
+                     {Model{u"Heli"_s, {u"A"_s, u"B"_s}}, Model{u"Plane"_s, {u"B"_s}}, Model{u"Glider"_s}},
+                     {u"Meadow"_s, u"Hill"_s, u"Meadow"_s}});
 }
 } // namespace
 
@@ -89,13 +68,14 @@ void OverviewReloadTest::everyChooserIsRefilledInTheOrderOfTheFile()
 {
     for (int i = 0; i < 2; ++i) {
         window->load(wholeFile());
-        for (const QComboBox *chooser : modelChoosers())
-            QCOMPARE(items(chooser), QStringList({"Heli", "Plane", "Glider"}));
-        for (const QComboBox *chooser : batteryChoosers())
-            QCOMPARE(items(chooser), QStringList({"A", "B", "C"}));
-        for (const QComboBox *chooser : locationChoosers())
-            QCOMPARE(items(chooser), QStringList({"Meadow", "Hill", "Meadow"}));
-        const QList<QComboBox *> all = modelChoosers() + batteryChoosers() + locationChoosers();
+        for (const QComboBox *chooser : window->modelChoosers())
+            QCOMPARE(window->items(chooser), QStringList({"Heli", "Plane", "Glider"}));
+        for (const QComboBox *chooser : window->batteryChoosers())
+            QCOMPARE(window->items(chooser), QStringList({"A", "B", "C"}));
+        for (const QComboBox *chooser : window->locationChoosers())
+            QCOMPARE(window->items(chooser), QStringList({"Meadow", "Hill", "Meadow"}));
+        const QList<QComboBox *> all =
+            window->modelChoosers() + window->batteryChoosers() + window->locationChoosers();
         for (const QComboBox *chooser : all)
             QCOMPARE(chooser->currentIndex(), 0);
         for (QComboBox *chooser : all)
@@ -120,50 +100,49 @@ void OverviewReloadTest::theStoredModelIsPreselected()
     QFETCH(QVariant, stored);
     QFETCH(QString, selected);
     if (stored.isValid())
-        storeModel(stored);
+        window->storeModel(stored);
     window->load(wholeFile());
-    for (const QComboBox *chooser : modelChoosers())
+    for (const QComboBox *chooser : window->modelChoosers())
         QCOMPARE(chooser->currentText(), selected);
     QTEST(window->cardsOnShow(), "cards");
 }
 
 void OverviewReloadTest::theStoredModelIsNeverWritten()
 {
-    storeModel(QStringLiteral("Plane"));
+    window->storeModel(u"Plane"_s);
     window->load(wholeFile());
-    window->choose(ui->cb_select_model, QStringLiteral("Glider"));
-    window->choose(ui->cb_select_model, QStringLiteral("Heli"));
+    window->choose(ui->cb_select_model, u"Glider"_s);
+    window->choose(ui->cb_select_model, u"Heli"_s);
     window->clickCard(window->battery("A"));
     QCOMPARE(RotavexPlugin::rotavexSettings->allKeys(), QStringList({"SETTINGS/logmodel"}));
-    QCOMPARE(RotavexPlugin::rotavexSettings->value(QStringLiteral("SETTINGS/logmodel")).toString(),
-             QStringLiteral("Plane"));
+    QCOMPARE(RotavexPlugin::rotavexSettings->value(LogbookWindow::ModelKey).toString(), u"Plane"_s);
 }
 
 void OverviewReloadTest::aReloadGoesBackToTheStoredModel()
 {
-    storeModel(QStringLiteral("Plane"));
+    window->storeModel(u"Plane"_s);
     window->load(wholeFile());
-    window->choose(ui->cb_select_model, QStringLiteral("Glider"));
+    window->choose(ui->cb_select_model, u"Glider"_s);
     window->gui().updateBatteryGui();
-    QCOMPARE(ui->cb_select_model->currentText(), QStringLiteral("Plane"));
+    QCOMPARE(ui->cb_select_model->currentText(), u"Plane"_s);
     QCOMPARE(window->cardsOnShow(), QStringList({"B"}));
 }
 
 void OverviewReloadTest::refillingTheChoosersIsSilent()
 {
-    storeModel(QStringLiteral("Plane"));
+    window->storeModel(u"Plane"_s);
     window->load(wholeFile());
     std::vector<std::unique_ptr<QSignalSpy>> spies;
-    for (QComboBox *chooser : modelChoosers() + batteryChoosers()) {
+    for (QComboBox *chooser : window->modelChoosers() + window->batteryChoosers()) {
         chooser->setCurrentIndex(2);
         spies.push_back(std::make_unique<QSignalSpy>(chooser, &QComboBox::currentIndexChanged));
     }
     window->gui().updateBatteryGui();
     for (const auto &spy : spies)
         QCOMPARE(spy->count(), 0);
-    for (QComboBox *chooser : modelChoosers() + batteryChoosers()) { // and they speak again
+    for (QComboBox *chooser : window->modelChoosers() + window->batteryChoosers()) { // and they speak again
         QVERIFY(!chooser->signalsBlocked());
-        QCOMPARE(chooser->currentIndex(), modelChoosers().contains(chooser) ? 1 : 0);
+        QCOMPARE(chooser->currentIndex(), window->modelChoosers().contains(chooser) ? 1 : 0);
     }
 }
 
@@ -177,59 +156,32 @@ void OverviewReloadTest::aReloadDrawsNoChart()
     QCOMPARE(window->gui().chartView, chart);
 }
 
-void OverviewReloadTest::deleteByClicks(QAbstractButton *page, QAbstractButton *button, int clicks)
+void OverviewReloadTest::namesThatAreGoneStayInTheChoosersOnPurpose()
 {
-    window->click(ui->pb_options);
-    window->click(ui->pb_edit_data);
-    window->click(page);
-    for (int i = 0; i < clicks; ++i)
-        window->click(button);
-}
-
-void OverviewReloadTest::modelsThatAreGoneStayInTheChoosersOnPurpose()
-{
-    window->load(Xml::file(batteries() + Xml::model("Heli", {"A"})));
-    deleteByClicks(ui->pb_choose_delmodel, ui->pb_deleteConfirm_model, 2);
-    QVERIFY(window->gui().modelList.isEmpty());
-    for (const QComboBox *chooser : modelChoosers())
-        QCOMPARE(items(chooser), QStringList({"Heli"}));
+    window->load(wholeFile());
+    window->load(document({batteries()}));
+    for (const QComboBox *chooser : window->modelChoosers())
+        QCOMPARE(window->items(chooser), QStringList({"Heli", "Plane", "Glider"}));
+    for (const QComboBox *chooser : window->locationChoosers())
+        QCOMPARE(window->items(chooser), QStringList({"Meadow", "Hill", "Meadow"}));
     QVERIFY(!window->gui().selectedModel());
     QCOMPARE(window->cardsOnShow(), QStringList({"A", "B", "C"}));
     QVERIFY(!ui->cb_select_model->isVisible());
-}
 
-void OverviewReloadTest::batteriesThatAreGoneStayInTheChoosersOnPurpose()
-{
-    window->load(Xml::file(Xml::battery("A") + Xml::model("Heli", {"A"})));
-    deleteByClicks(ui->pb_choose_delbattery, ui->pb_deleteConfirm, 2);
-    QVERIFY(window->gui().batteryList.isEmpty());
-    for (const QComboBox *chooser : batteryChoosers())
-        QCOMPARE(items(chooser), QStringList({"A"}));
+    window->load(document({}));
+    for (const QComboBox *chooser : window->batteryChoosers())
+        QCOMPARE(window->items(chooser), QStringList({"A", "B", "C"}));
     QVERIFY(!ui->pb_chart->isEnabled());
     QVERIFY(ui->lbl_welcome->isVisible());
-}
-
-void OverviewReloadTest::locationsStayInTheChoosersWhenAFileHasNoneOnPurpose()
-{
-    window->load(Xml::file(Xml::locations({"Meadow"})));
-    deleteByClicks(ui->pb_choose_dellocation, ui->pb_del_location, 1);
-    QVERIFY(!window->fileBytes().contains("Location"));
-    QCOMPARE(items(ui->cb_log_location), QStringList());
-    QCOMPARE(items(ui->cb_location_delete), QStringList({"Meadow"}));
-
-    window->load(Xml::file(Xml::locations({"Hill", "Shore"})));
-    window->load(Xml::file(batteries()));
-    for (const QComboBox *chooser : locationChoosers())
-        QCOMPARE(items(chooser), QStringList({"Hill", "Shore"}));
 }
 
 void OverviewReloadTest::theLocationsWrittenAreTheItemsOfTheDischargePage()
 {
     window->load(wholeFile());
-    ui->cb_log_location->insertItem(1, QStringLiteral("Shore"));
+    ui->cb_log_location->insertItem(1, u"Shore"_s);
     ui->cb_log_location->removeItem(3);
     ui->cb_location_delete->clear();
-    ui->cb_location_delete->addItem(QStringLiteral("Never read"));
+    ui->cb_location_delete->addItem(u"Never read"_s);
     window->gui().writeDataWithDataprocessor();
     const QByteArray bytes = window->fileBytes();
     QVERIFY(!bytes.contains("Never read"));
@@ -238,6 +190,19 @@ void OverviewReloadTest::theLocationsWrittenAreTheItemsOfTheDischargePage()
     const qsizetype hill = bytes.indexOf("<Location Name=\"Hill\"/>");
     QVERIFY(0 < meadow && meadow < shore && shore < hill);
     QCOMPARE(bytes.count("<Location "), 3);
+}
+
+void OverviewReloadTest::aSaveWritesTheBytesThatWereLoaded()
+{
+    const QDateTime moment(QDate(2026, 11, 15), QTime(12, 4, 22));
+    const Battery flown{u"Ä <6S>"_s, true, {{moment, 1760, 5500}, {}}};
+    const Battery unknown{u"new"_s, false, {}, 0, 0, 0, 0, QDate(), QDateTime()};
+    const Model heli{
+        u"Heli"_s, {u"new"_s, u"none"_s}, {{moment, u"Hill"_s, QTime(), -5, u"\"calm\"\n"_s}, {}}};
+    const QByteArray bytes = document({{flown, unknown}, {heli, {}}, {u"Hill"_s, u"Hill & Dale"_s}});
+    window->load(bytes);
+    window->gui().writeDataWithDataprocessor();
+    QCOMPARE(window->fileBytes(), bytes);
 }
 
 void OverviewReloadTest::everyReloadReadsTheFileAgain()
@@ -274,7 +239,7 @@ void OverviewReloadTest::aSaveThatFailsIsNotReported()
     window->gui().updateBatteryGui();
     QVERIFY(window->gui().batteryList.isEmpty());
     QVERIFY(ui->lbl_welcome->isVisible());
-    QCOMPARE(items(ui->cb_log_location), QStringList({"Meadow", "Hill", "Meadow"}));
+    QCOMPARE(window->items(ui->cb_log_location), QStringList({"Meadow", "Hill", "Meadow"}));
 }
 
 void OverviewReloadTest::aBrokenFileShowsWhatStandsBeforeTheBreak()
@@ -283,15 +248,15 @@ void OverviewReloadTest::aBrokenFileShowsWhatStandsBeforeTheBreak()
     broken.truncate(broken.indexOf("<Name>C</Name>"));
     window->load(broken);
     QCOMPARE(window->gui().modelList.size(), 0);
-    QCOMPARE(items(ui->cb_log_location), QStringList({"Meadow", "Hill", "Meadow"}));
+    QCOMPARE(window->items(ui->cb_log_location), QStringList({"Meadow", "Hill", "Meadow"}));
     QCOMPARE(window->cardsOnShow(), QStringList({"A", "B", ""})); // the last one broke off before its name
 }
 
 void OverviewReloadTest::aReloadRefreshesTheAssignmentButtons()
 {
-    window->load(Xml::file(Xml::battery("A") + Xml::model("Heli", {"A"})));
+    window->load(document({{Battery{u"A"_s}}, {Model{u"Heli"_s, {u"A"_s}}}}));
     QVERIFY(!ui->pb_add_batt_to_model->isEnabled() && ui->pb_rem_batt_from_model->isEnabled());
-    window->load(Xml::file(Xml::battery("A") + Xml::model("Heli")));
+    window->load(document({{Battery{u"A"_s}}, {Model{u"Heli"_s}}}));
     QVERIFY(ui->pb_add_batt_to_model->isEnabled() && !ui->pb_rem_batt_from_model->isEnabled());
 }
 
@@ -306,10 +271,10 @@ void OverviewReloadTest::everyPlacingAddsOnePairOfConnectionsOnPurpose()
     expect("A", 1);
     expect("B", 1);
     expect("C", 0); // not on show, not connected
-    window->choose(ui->cb_select_model, QStringLiteral("Plane"));
+    window->choose(ui->cb_select_model, u"Plane"_s);
     expect("A", 1);
     expect("B", 2);
-    window->choose(ui->cb_select_model, QStringLiteral("Heli"));
+    window->choose(ui->cb_select_model, u"Heli"_s);
     expect("A", 2);
     expect("B", 3);
     expect("C", 0);

@@ -52,7 +52,7 @@ QList<Record *> RecordLookupTest::records(QWidget &owner, const QStringList &nam
 void RecordLookupTest::namesAreListedInOrder()
 {
     QWidget owner;
-    const QStringList names{u"B"_qs, u"A"_qs, QString(), u"B"_qs};
+    const QStringList names{u"B"_s, u"A"_s, QString(), u"B"_s};
     QCOMPARE(RecordLookup::names(records<BatteryWidget>(owner, names)), names);
     QCOMPARE(RecordLookup::names(records<ModelWidget>(owner, names)), names);
 }
@@ -60,31 +60,31 @@ void RecordLookupTest::namesAreListedInOrder()
 void RecordLookupTest::theLastOfEqualNamesIsFoundOnPurpose()
 {
     QWidget owner;
-    const QStringList names{u"A"_qs, u"B"_qs, u"A"_qs, u"C"_qs};
+    const QStringList names{u"A"_s, u"B"_s, u"A"_s, u"C"_s};
     const auto batteries = records<BatteryWidget>(owner, names);
-    QCOMPARE(RecordLookup::last(batteries, u"A"_qs), batteries.at(2));
-    QCOMPARE(RecordLookup::last(batteries, u"B"_qs), batteries.at(1));
+    QCOMPARE(RecordLookup::last(batteries, u"A"_s), batteries.at(2));
+    QCOMPARE(RecordLookup::last(batteries, u"B"_s), batteries.at(1));
     const auto models = records<ModelWidget>(owner, names);
-    QCOMPARE(RecordLookup::last(models, u"A"_qs), models.at(2));
-    QCOMPARE(RecordLookup::last(models, u"C"_qs), models.at(3));
+    QCOMPARE(RecordLookup::last(models, u"A"_s), models.at(2));
+    QCOMPARE(RecordLookup::last(models, u"C"_s), models.at(3));
 }
 
 void RecordLookupTest::theFirstOfEqualNamesIsTaken()
 {
     QWidget owner;
-    const QStringList names{u"B"_qs, u"A"_qs, u"C"_qs, u"A"_qs};
+    const QStringList names{u"B"_s, u"A"_s, u"C"_s, u"A"_s};
     auto batteries = records<BatteryWidget>(owner, names);
     const auto remaining = QList{batteries.at(0), batteries.at(2), batteries.at(3)};
     const BatteryWidget *first = batteries.at(1);
-    const auto taken = RecordLookup::takeFirst(batteries, u"A"_qs);
+    const auto taken = RecordLookup::takeFirst(batteries, u"A"_s);
     QCOMPARE(taken.get(), first);
     QCOMPARE(batteries, remaining);
 
     auto models = records<ModelWidget>(owner, names);
-    QVERIFY(RecordLookup::takeFirst(models, u"A"_qs));
-    QVERIFY(RecordLookup::takeFirst(models, u"A"_qs));
-    QVERIFY(!RecordLookup::takeFirst(models, u"A"_qs));
-    QCOMPARE(RecordLookup::names(models), QStringList({u"B"_qs, u"C"_qs}));
+    QVERIFY(RecordLookup::takeFirst(models, u"A"_s));
+    QVERIFY(RecordLookup::takeFirst(models, u"A"_s));
+    QVERIFY(!RecordLookup::takeFirst(models, u"A"_s));
+    QCOMPARE(RecordLookup::names(models), QStringList({u"B"_s, u"C"_s}));
 }
 
 void RecordLookupTest::namesAreComparedExactly_data()
@@ -99,8 +99,8 @@ void RecordLookupTest::namesAreComparedExactly_data()
     QTest::newRow("upper case") << "PACK" << -1;
     QTest::newRow("a part") << "Pac" << -1;
     QTest::newRow("more") << "Packs" << -1;
-    QTest::newRow("one letter") << u"\u00e9"_qs << 4;
-    QTest::newRow("the same letter in two characters") << u"e\u0301"_qs << -1;
+    QTest::newRow("one letter") << u"\u00e9"_s << 4;
+    QTest::newRow("the same letter in two characters") << u"e\u0301"_s << -1;
 }
 
 void RecordLookupTest::namesAreComparedExactly()
@@ -109,7 +109,7 @@ void RecordLookupTest::namesAreComparedExactly()
     QFETCH(int, index);
     QWidget owner;
     auto batteries =
-        records<BatteryWidget>(owner, {u"Pack"_qs, u"pack"_qs, u"Pack "_qs, QString(), u"\u00e9"_qs});
+        records<BatteryWidget>(owner, {u"Pack"_s, u"pack"_s, u"Pack "_s, QString(), u"\u00e9"_s});
     BatteryWidget *expected = batteries.value(index);
     QCOMPARE(RecordLookup::last(batteries, wanted), expected);
     QCOMPARE(RecordLookup::takeFirst(batteries, wanted).get(), expected);
@@ -126,9 +126,9 @@ void RecordLookupTest::anEmptyListHoldsNothing()
 void RecordLookupTest::whatIsTakenBelongsToTheCaller()
 {
     QWidget owner;
-    auto models = records<ModelWidget>(owner, {u"A"_qs});
+    auto models = records<ModelWidget>(owner, {u"A"_s});
     const QPointer<ModelWidget> model = models.constFirst();
-    auto taken = RecordLookup::takeFirst(models, u"A"_qs);
+    auto taken = RecordLookup::takeFirst(models, u"A"_s);
     QVERIFY(model);
     taken.reset();
     QVERIFY(!model);
@@ -138,8 +138,8 @@ void RecordLookupTest::whatIsTakenBelongsToTheCaller()
 void RecordLookupTest::whatIsFoundStaysInTheList()
 {
     QWidget owner;
-    const auto models = records<ModelWidget>(owner, {u"A"_qs, u"B"_qs});
-    QVERIFY(RecordLookup::last(models, u"A"_qs));
+    const auto models = records<ModelWidget>(owner, {u"A"_s, u"B"_s});
+    QVERIFY(RecordLookup::last(models, u"A"_s));
     QCOMPARE(models.size(), 2);
     QCOMPARE(owner.children().size(), 2);
 }

@@ -3,6 +3,8 @@
 
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class UniqueNameTest : public QObject
 {
     Q_OBJECT
@@ -25,7 +27,7 @@ QString byTheRule(const QString &base, const QStringList &existing)
     while (index < existing.size()) {
         if (QString::compare(existing[index], candidate, Qt::CaseSensitive) == 0) {
             counter = counter + 1;
-            candidate = base + QStringLiteral("_") + QString::number(counter, 10);
+            candidate = base + u"_"_s + QString::number(counter, 10);
             index = 1;
         } else {
             index = index + 1;
@@ -83,12 +85,8 @@ void UniqueNameTest::aNameThatIsTakenGetsACounter()
 
 void UniqueNameTest::theFirstNameIsNotComparedAgainAfterARenameOnPurpose()
 {
-    QCOMPARE(
-        uniqueName(QStringLiteral("MyBattery"), {QStringLiteral("MyBattery_1"), QStringLiteral("MyBattery")}),
-        QStringLiteral("MyBattery_1"));
-    QCOMPARE(
-        uniqueName(QStringLiteral("P"), {QStringLiteral("P_2"), QStringLiteral("P"), QStringLiteral("P_1")}),
-        QStringLiteral("P_2"));
+    QCOMPARE(uniqueName(u"MyBattery"_s, {u"MyBattery_1"_s, u"MyBattery"_s}), u"MyBattery_1"_s);
+    QCOMPARE(uniqueName(u"P"_s, {u"P_2"_s, u"P"_s, u"P_1"_s}), u"P_2"_s);
 }
 
 void UniqueNameTest::everySmallListIsSearchedByTheRule()
@@ -98,7 +96,7 @@ void UniqueNameTest::everySmallListIsSearchedByTheRule()
     for (const QStringList &existing : lists) {
         for (const QString &base : QStringList{"P", "P_1", "p", ""}) {
             if (uniqueName(base, existing) != byTheRule(base, existing))
-                QFAIL(qPrintable(base + QStringLiteral(" in ") + existing.join(u',')));
+                QFAIL(qPrintable(base + u" in "_s + existing.join(u',')));
         }
     }
 }
@@ -106,9 +104,9 @@ void UniqueNameTest::everySmallListIsSearchedByTheRule()
 void UniqueNameTest::noNameBehindTheFirstIsEverMetTwice()
 {
     for (const QStringList &existing : smallLists()) {
-        const QString name = uniqueName(QStringLiteral("P"), existing);
+        const QString name = uniqueName(u"P"_s, existing);
         if (existing.mid(1).contains(name))
-            QFAIL(qPrintable(name + QStringLiteral(" in ") + existing.join(u',')));
+            QFAIL(qPrintable(name + u" in "_s + existing.join(u',')));
     }
 }
 

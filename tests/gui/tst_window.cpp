@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The window's shell: what a host holds in its hand.
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
+#include "tests/support/samples.h"
 
 #include <QChartView>
 #include <QKeyEvent>
@@ -10,6 +10,9 @@
 #include <QSignalSpy>
 
 #include <limits>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace Test;
 
 class WindowTest : public QObject
 {
@@ -34,34 +37,26 @@ private Q_SLOTS:
     void theWindowGoesWithItsParent();
     void everyReloadDeletesTheRecordsBefore();
     void aReloadForgetsTheBatteryBeingDischarged();
-    void deletingTheBatteryBeingDischargedForgetsIt();
     void theWindowMayGoWhileABatteryIsBeingDischarged();
 };
 
 namespace {
-QByteArray smallFile()
-{
-    return Xml::file(Xml::locations({"Meadow", "Hill"}) + Xml::battery("One", true) + Xml::battery("Two") +
-                     Xml::battery("Three") + Xml::battery("Spare") + Xml::model("Heli", {"One", "Two"}) +
-                     Xml::model("Plane", {"Three"}));
-}
-
-/** Opens the discharge page for battery "One", in full mode. */
+/** Opens the discharge page for battery "Pack", in full mode. */
 void openDischargePage(LogbookWindow &window)
 {
-    RotavexPlugin::rotavexSettings->setValue(QStringLiteral("SETTINGS/voltbok"), QStringLiteral("Complex"));
-    window.load(smallFile());
-    window.clickCard(window.battery("One"));
+    LogbookWindow::storeFullMode();
+    window.load(hangar());
+    window.clickCard(window.battery("Pack"));
     QCOMPARE(window.ui().stackedWidget->currentWidget(), window.ui().dischargeView);
-    QCOMPARE(window->chargeBattery, window.battery("One"));
+    QCOMPARE(window->chargeBattery, window.battery("Pack"));
 }
 } // namespace
 
 void WindowTest::aNewWindowShowsAnEmptyOverview()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+    failOnWarnings();
     VoltbokGui window;
-    QCOMPARE(window.windowTitle(), QStringLiteral("Rotavex 15.7.0 64-bit"));
+    QCOMPARE(window.windowTitle(), u"Rotavex 15.7.0 64-bit"_s);
     QCOMPARE(window.ui->stackedWidget->currentWidget(), window.ui->scrollLayout);
     QCOMPARE(window.ui->stackedWidget->count(), 15);
     QCOMPARE(window.currentPage, 0);
@@ -76,10 +71,7 @@ void WindowTest::aNewWindowShowsAnEmptyOverview()
 void WindowTest::aNewWindowReadsNothing()
 {
     QTemporaryDir directory; // without a storage path, the working directory is where a loader would look
-    QFile file(directory.filePath(QStringLiteral("voltbok.xml")));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(smallFile());
-    file.close();
+    QVERIFY(write(dataFile(directory.path()), hangar()));
     const QString before = QDir::currentPath();
     QVERIFY(QDir::setCurrent(directory.path()));
     const VoltbokGui window;
@@ -101,25 +93,25 @@ void WindowTest::aNewWindowHidesTwoOfThreeQuestionsOnPurpose()
 void WindowTest::theStoragePathFillsTheWindow()
 {
     LogbookWindow window;
-    window.load(smallFile());
+    window.load(hangar());
     QCOMPARE(window->batteryList.size(), 4);
     QCOMPARE(window->modelList.size(), 2);
     QCOMPARE(window->locations(), QStringList({"Meadow", "Hill"}));
-    QCOMPARE(window.cardsOnShow(), QStringList({"One", "Two"}));
-    QCOMPARE(window->windowTitle(), QStringLiteral("Rotavex 15.7.0 64-bit"));
-    QCOMPARE(window.fileBytes(), smallFile()); // only a change writes
+    QCOMPARE(window.cardsOnShow(), QStringList({"Pack", "Flat"}));
+    QCOMPARE(window->windowTitle(), u"Rotavex 15.7.0 64-bit"_s);
+    QCOMPARE(window.fileBytes(), hangar()); // only a change writes
 }
 
 void WindowTest::aPathWithoutADataFileGivesAnEmptyCatalogue()
 {
     LogbookWindow window;
-    window.load(smallFile());
+    window.load(hangar());
     const QTemporaryDir empty;
     window->changeStoragePath(empty.path());
     QVERIFY(window->batteryList.isEmpty());
     QVERIFY(window->modelList.isEmpty());
     QVERIFY(QDir(empty.path()).isEmpty());
-    window->changeStoragePath(QStringLiteral("/nowhere/at all"));
+    window->changeStoragePath(u"/nowhere/at all"_s);
     QVERIFY(window->batteryList.isEmpty());
 }
 
@@ -211,10 +203,7 @@ void WindowTest::aHostCanCallASlotByItsIndex()
     QVERIFY(meta->method(meta->methodOffset() + 5).invoke(&window.gui()));
     QCOMPARE(window->currentPage, 2);
 
-    QFile file(window.filePath());
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(smallFile());
-    file.close();
+    QVERIFY(write(window.filePath(), hangar()));
     QVERIFY(meta->method(meta->methodOffset() + 32).invoke(&window.gui(), Q_ARG(QString, window.folder())));
     QCOMPARE(window->batteryList.size(), 4);
 }
@@ -261,7 +250,7 @@ void WindowTest::aKeyOnTheWindowDoesNothing()
 {
     QFETCH(Qt::Key, key);
     LogbookWindow window;
-    window.load(smallFile());
+    window.load(hangar());
     window.click(window.ui().pb_options);
     const QSignalSpy closing(&window.gui(), &VoltbokGui::closeVoltbokGui);
     QTest::keyClick(&window.gui(), key);
@@ -270,7 +259,7 @@ void WindowTest::aKeyOnTheWindowDoesNothing()
     QVERIFY(window->isVisible());
     QCOMPARE(window->currentPage, 1);
     QCOMPARE(window.ui().stackedWidget->currentWidget(), window.ui().optionsView);
-    QCOMPARE(window.fileBytes(), smallFile());
+    QCOMPARE(window.fileBytes(), hangar());
 }
 
 void WindowTest::aKeyEventIsNeitherAcceptedNorIgnoredOnPurpose()
@@ -289,17 +278,13 @@ void WindowTest::theWindowTakesItsRecordsChartsAndOldContentsWithIt()
 {
     const QTemporaryDir directory;
     auto window = std::make_unique<VoltbokGui>();
-    {
-        QFile file(directory.filePath(QStringLiteral("voltbok.xml")));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(smallFile());
-    }
+    QVERIFY(write(dataFile(directory.path()), hangar()));
     QList<QPointer<QObject>> belongings = {window->ui->scrollView};
     window->changeStoragePath(directory.path());
     window->on_pb_chart_clicked();
     belongings.append(window->chartView);
     belongings.append(window->ui->scrollView);
-    window->ui->cb_select_model->setCurrentText(QStringLiteral("Plane"));
+    window->ui->cb_select_model->setCurrentText(u"Plane"_s);
     window->on_pb_chart_clicked();
     belongings.append(window->chartView);
     belongings.append(window->ui->scrollView);
@@ -327,7 +312,7 @@ void WindowTest::theWindowGoesWithItsParent()
 void WindowTest::everyReloadDeletesTheRecordsBefore()
 {
     LogbookWindow window;
-    window.load(smallFile());
+    window.load(hangar());
     for (int i = 0; i < 2; ++i) {
         QList<QPointer<QObject>> before;
         for (BatteryWidget *battery : window->batteryList)
@@ -351,27 +336,12 @@ void WindowTest::aReloadForgetsTheBatteryBeingDischarged()
     QCOMPARE(window.ui().stackedWidget->currentWidget(), window.ui().dischargeView);
 
     window.click(window.ui().pb_save_discharged);
-    QVERIFY(window.battery("One")->getBatteryCharged());
-    QCOMPARE(window.battery("One")->getBatteryCycles(), 4U);
-    QVERIFY(window.battery("One")->getDates().isEmpty());
+    QVERIFY(window.battery("Pack")->getBatteryCharged());
+    QCOMPARE(window.battery("Pack")->getBatteryCycles(), 7U);
+    QVERIFY(window.battery("Pack")->getDates().isEmpty());
     QCOMPARE(window->currentPage, 12);
     QCOMPARE(window.model("Heli")->getLogData().size(), 1); // the flight does not depend on the battery
-    QCOMPARE(window.fileBytes(), smallFile());
-}
-
-void WindowTest::deletingTheBatteryBeingDischargedForgetsIt()
-{
-    LogbookWindow window;
-    openDischargePage(window);
-    window.click(window.ui().pb_options); // leaves the page, and the battery set
-    QCOMPARE(window->chargeBattery, window.battery("One"));
-    window.click(window.ui().pb_options);
-    window.click(window.ui().pb_edit_data);
-    window.click(window.ui().pb_choose_delbattery);
-    window.click(window.ui().pb_deleteConfirm);
-    window.click(window.ui().pb_deleteConfirm);
-    QVERIFY(!window.battery("One"));
-    QVERIFY(!window->chargeBattery);
+    QCOMPARE(window.fileBytes(), hangar());
 }
 
 void WindowTest::theWindowMayGoWhileABatteryIsBeingDischarged()
@@ -382,7 +352,7 @@ void WindowTest::theWindowMayGoWhileABatteryIsBeingDischarged()
     window.restart(); // the sanitizers would speak up if the battery went twice
     QVERIFY(!charged);
     QVERIFY(!window->chargeBattery);
-    QVERIFY(window.battery("One")->getBatteryCharged());
+    QVERIFY(window.battery("Pack")->getBatteryCharged());
 }
 
 QTEST_MAIN(WindowTest)

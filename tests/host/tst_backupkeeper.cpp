@@ -4,6 +4,7 @@
 #include "tests/host/support/keeperears.h"
 #include "tests/host/support/logbookfiles.h"
 #include "tests/host/support/lyingdisk.h"
+#include "tests/support/files.h"
 
 #include <QElapsedTimer>
 #include <QTemporaryDir>
@@ -61,7 +62,7 @@ private Q_SLOTS:
 
 private:
     QString path(const QString &name) const { return m_folder->backups().filePath(name); }
-    QByteArray newest() const { return contentsOf(Backups::newestWholePath(*m_folder)); }
+    QByteArray newest() const { return newestCopy(*m_folder); }
     qsizetype count() const { return Backups::list(*m_folder).size(); }
 
     std::unique_ptr<QTemporaryDir> m_home;
@@ -72,7 +73,7 @@ void BackupKeeperTest::init()
 {
     m_home = std::make_unique<QTemporaryDir>();
     m_folder.emplace(m_home->path());
-    put(m_folder->dataFile(), logbook(1));
+    QVERIFY(Test::write(m_folder->dataFile(), logbook(1)));
 }
 
 void BackupKeeperTest::theFileIsCopiedAtTheStartAndAtALook()
@@ -81,7 +82,7 @@ void BackupKeeperTest::theFileIsCopiedAtTheStartAndAtALook()
     Ears ears(keeper);
     QTRY_COMPARE(count(), 1);
     QCOMPARE(newest(), logbook(1));
-    put(m_folder->dataFile(), logbook(2));
+    QVERIFY(Test::write(m_folder->dataFile(), logbook(2)));
     keeper.look();
     QTRY_COMPARE(count(), 2);
     QCOMPARE(newest(), logbook(2));
@@ -96,7 +97,7 @@ void BackupKeeperTest::theLastChangeIsCopiedAtTheEnd()
     {
         BackupKeeper keeper(*m_folder);
         keeper.lookAndWait();
-        put(m_folder->dataFile(), logbook(2));
+        QVERIFY(Test::write(m_folder->dataFile(), logbook(2)));
     }
     QCOMPARE(newest(), logbook(2));
     QCOMPARE(count(), 2);
@@ -108,7 +109,7 @@ void BackupKeeperTest::twoChangesWithinOneTickOfTheFilesClockAreBothCopied()
     BackupKeeper keeper(*m_folder);
     keeper.lookAndWait();
     for (const int number : {2, 3, 2, 3}) { // equal sizes
-        put(m_folder->dataFile(), logbook(number));
+        QVERIFY(Test::write(m_folder->dataFile(), logbook(number)));
         QFile file(m_folder->dataFile());
         QVERIFY(file.open(QFile::ReadWrite) && file.setFileTime(tick, QFile::FileModificationTime));
         file.close();
@@ -134,12 +135,12 @@ void BackupKeeperTest::looksBeforeTheThreadComesToThemAreOne()
 void BackupKeeperTest::aLookCostsNothing()
 {
     const QByteArray document = logbook(1, 15 * 1000 * 1000);
-    put(m_folder->dataFile(), document);
+    QVERIFY(Test::write(m_folder->dataFile(), document));
     BackupKeeper keeper(*m_folder);
     keeper.lookAndWait();
     QElapsedTimer timer;
     timer.start();
-    QCOMPARE(contentsOf(m_folder->dataFile()).size(), document.size());
+    QCOMPARE(Test::contents(m_folder->dataFile()).size(), document.size());
     const qint64 reading = timer.nsecsElapsed();
     QList<qint64> looks;
     for (int i = 0; i < 101; ++i) {
@@ -158,7 +159,7 @@ void BackupKeeperTest::anIdleKeeperSleeps()
     pid_t thread = 0;
     inThread(keeper, [&] { thread = gettid(); });
     const auto switches = [thread] {
-        const QByteArray status = contentsOf(u"/proc/self/task/%1/status"_s.arg(thread));
+        const QByteArray status = Test::contents(u"/proc/self/task/%1/status"_s.arg(thread));
         const qsizetype start = status.indexOf("voluntary_ctxt_switches:");
         return status.mid(start).simplified().split(' ').value(1).toInt();
     };
@@ -172,12 +173,12 @@ void BackupKeeperTest::anIdleKeeperSleeps()
 void BackupKeeperTest::leftoversGoAtTheStart()
 {
     QVERIFY(m_folder->backups().mkpath(u"."_s));
-    put(path(u"voltbok-00000001-20261121-120000-000Z.xml.qZvPle"_s), "<Volt");
-    put(path(u"notes.txt"_s), "mine");
+    QVERIFY(Test::write(path(u"voltbok-00000001-20261121-120000-000Z.xml.qZvPle"_s), "<Volt"));
+    QVERIFY(Test::write(path(u"notes.txt"_s), "mine"));
     BackupKeeper keeper(*m_folder);
     keeper.lookAndWait();
     QCOMPARE(namesIn(*m_folder).size(), 2);
-    QCOMPARE(contentsOf(path(u"notes.txt"_s)), QByteArray("mine"));
+    QCOMPARE(Test::contents(path(u"notes.txt"_s)), QByteArray("mine"));
 }
 
 void BackupKeeperTest::theDataFileIsOnTheDiskWhenItWasSeen()
@@ -200,7 +201,7 @@ void BackupKeeperTest::aMissingFileIsNoComplaintUntilItWasSeen()
     lookAndHear(keeper);
     QVERIFY(!m_folder->backups().exists());
     QCOMPARE(ears.broken.size() + ears.whole.size() + ears.failed.size(), 0);
-    put(m_folder->dataFile(), logbook(1));
+    QVERIFY(Test::write(m_folder->dataFile(), logbook(1)));
     lookAndHear(keeper);
     QCOMPARE(ears.whole.size(), 1);
     QVERIFY(QFile::remove(m_folder->dataFile()));
@@ -214,7 +215,7 @@ void BackupKeeperTest::aBrokenFileIsToldAndMarksTheCopyBefore()
     BackupKeeper keeper(*m_folder);
     Ears ears(keeper);
     lookAndHear(keeper);
-    put(m_folder->dataFile(), "");
+    QVERIFY(Test::write(m_folder->dataFile(), ""));
     for (int i = 1; i <= 2; ++i) {
         lookAndHear(keeper);
         QCOMPARE(ears.broken.size(), i);
@@ -231,18 +232,18 @@ void BackupKeeperTest::aFileInTheMiddleOfASaveIsNotBroken()
     BackupKeeper keeper(*m_folder);
     Ears ears(keeper);
     lookAndHear(keeper);
-    put(m_folder->dataFile(), logbook(2).left(50));
+    QVERIFY(Test::write(m_folder->dataFile(), logbook(2).left(50)));
     keeper.look();
     QTest::qSleep(20);
-    put(m_folder->dataFile(), logbook(2));
+    QVERIFY(Test::write(m_folder->dataFile(), logbook(2)));
     QTRY_COMPARE(newest(), logbook(2));
 
-    put(m_folder->dataFile(), "");
+    QVERIFY(Test::write(m_folder->dataFile(), ""));
     keeper.look();
     QTest::qSleep(60);
     keeper.look(); // starts the wait again
     QTest::qSleep(60);
-    put(m_folder->dataFile(), logbook(3));
+    QVERIFY(Test::write(m_folder->dataFile(), logbook(3)));
     QTRY_COMPARE(newest(), logbook(3));
     QTest::qWait(150);
     QVERIFY(ears.broken.isEmpty());
@@ -253,22 +254,22 @@ void BackupKeeperTest::marksSurviveTheThinning()
 {
     TestClock clock("2026-11-21T12:00:00Z");
     BackupKeeper keeper(*m_folder, clock.function());
-    put(m_folder->dataFile(), logbook(1, 1000));
+    QVERIFY(Test::write(m_folder->dataFile(), logbook(1, 1000)));
     keeper.lookAndWait();
     for (int i = 2; i < 6; ++i) {
         clock.addSecs(1);
-        put(m_folder->dataFile(), logbook(i, i == 3 ? 300 : 1000)); // the third shrinks
+        QVERIFY(Test::write(m_folder->dataFile(), logbook(i, i == 3 ? 300 : 1000))); // the third shrinks
         keeper.lookAndWait();
     }
-    put(m_folder->dataFile(), "<Volt");
+    QVERIFY(Test::write(m_folder->dataFile(), "<Volt"));
     keeper.lookAndWait(); // marks the fifth
     clock.addSecs(1);
-    put(m_folder->dataFile(), logbook(6, 1000));
+    QVERIFY(Test::write(m_folder->dataFile(), logbook(6, 1000)));
     keeper.lookAndWait();
     for (int i = 7; i < 60; ++i) { // a year, a change each week and one an hour before
         for (const int hours : {7 * 24 - 1, 1}) {
             clock.addSecs(hours * 3600);
-            put(m_folder->dataFile(), logbook(100 * hours + i, 1000));
+            QVERIFY(Test::write(m_folder->dataFile(), logbook(100 * hours + i, 1000)));
             Backups::thin(*m_folder, clock.function()());
             keeper.lookAndWait();
         }
@@ -277,7 +278,7 @@ void BackupKeeperTest::marksSurviveTheThinning()
     const QList<Copy> copies = Backups::list(*m_folder);
     for (const Copy &copy : copies) {
         if (copy.kept)
-            kept.prepend(contentsOf(path(copy.name)));
+            kept.prepend(Test::contents(path(copy.name)));
     }
     QCOMPARE(kept, (QByteArrayList{logbook(2, 1000), logbook(5, 1000)}));
 }
@@ -287,7 +288,7 @@ void BackupKeeperTest::copiesAreThinnedWhenOneIsMade()
     TestClock clock("2026-11-21T12:00:00Z");
     BackupKeeper keeper(*m_folder, clock.function());
     for (int i = 0; i < 24; ++i) {
-        put(m_folder->dataFile(), logbook(i));
+        QVERIFY(Test::write(m_folder->dataFile(), logbook(i)));
         keeper.lookAndWait();
         clock.addSecs(120);
     }
@@ -306,7 +307,7 @@ void BackupKeeperTest::aClockThatJumpsThinsNothing()
     int number = 0;
     const auto change = [&](BackupKeeper &keeper) {
         clock.addSecs(7);
-        put(m_folder->dataFile(), logbook(++number));
+        QVERIFY(Test::write(m_folder->dataFile(), logbook(++number)));
         keeper.lookAndWait();
     };
     {
@@ -338,7 +339,7 @@ void BackupKeeperTest::anEarlierClockThinsNothing()
     TestClock clock("2026-11-21T12:00:00Z");
     BackupKeeper keeper(*m_folder, clock.function());
     for (int i = 0; i < 10; ++i) {
-        put(m_folder->dataFile(), logbook(i));
+        QVERIFY(Test::write(m_folder->dataFile(), logbook(i)));
         keeper.lookAndWait();
         clock.addSecs(i == 4 ? -48 * 3600 : 300);
     }

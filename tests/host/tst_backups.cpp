@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/host/support/logbookfiles.h"
 #include "tests/support/brokendisk.h"
+#include "tests/support/files.h"
 
 #include <QTemporaryDir>
 
@@ -42,6 +43,7 @@ private Q_SLOTS:
 
 private:
     QString path(const QString &name) const { return m_folder->backups().filePath(name); }
+    QString newestName() const { return Backups::newestWhole(*m_folder).value_or(Copy()).name; }
     QString add(int number, const QDateTime &now) const
     {
         return Backups::add(*m_folder, logbook(number), now);
@@ -55,7 +57,7 @@ void BackupsTest::init()
 {
     m_home = std::make_unique<QTemporaryDir>();
     m_folder.emplace(m_home->path());
-    put(m_folder->dataFile(), logbook(0));
+    QVERIFY(Test::write(m_folder->dataFile(), logbook(0)));
 }
 
 void BackupsTest::aNameSaysNumberTimeAndMark_data()
@@ -130,12 +132,12 @@ void BackupsTest::aLocalTimeThatTheZoneSkipsIsListed()
     QFETCH(QString, name);
     const Zone there(zone);
     QVERIFY(m_folder->backups().mkpath(u"."_s));
-    put(path(name), logbook(1));
+    QVERIFY(Test::write(path(name), logbook(1)));
     const QList<Copy> copies = Backups::list(*m_folder);
     QCOMPARE(copies.size(), 1);
     QVERIFY(copies.first().time.isValid());
     QTEST(copies.first().time.toUTC().toString(Qt::ISODate), "time");
-    QCOMPARE(Backups::newestWholePath(*m_folder), path(name));
+    QCOMPARE(newestName(), name);
 }
 
 void BackupsTest::theOrderIsByNumberThenTimeThenName()
@@ -152,7 +154,7 @@ void BackupsTest::theOrderIsByNumberThenTimeThenName()
                                   u"voltbok-20261121-120000-000.xml"_s};
     QVERIFY(m_folder->backups().mkpath(u"."_s));
     for (const QString &name : newestFirst)
-        put(path(name), logbook(1));
+        QVERIFY(Test::write(path(name), logbook(1)));
     QStringList names;
     const QList<Copy> copies = Backups::list(*m_folder);
     for (const Copy &copy : copies)
@@ -167,7 +169,7 @@ void BackupsTest::onlyRegularFilesAreListed()
     const auto name = [](int number) { return u"voltbok-0000000%1-20261121-130000-000Z.xml"_s.arg(number); };
     QVERIFY(m_folder->backups().mkdir(name(2)));
     QCOMPARE(mkfifo(QFile::encodeName(path(name(3))), 0600), 0);
-    put(m_home->filePath(u"elsewhere.xml"_s), logbook(4));
+    QVERIFY(Test::write(m_home->filePath(u"elsewhere.xml"_s), logbook(4)));
     QVERIFY(QFile::link(m_home->filePath(u"elsewhere.xml"_s), path(name(4))));
     QVERIFY(QFile::link(path(name(3)), path(name(5))));
     QVERIFY(QFile::link(u"/dev/zero"_s, path(name(6))));
@@ -175,7 +177,7 @@ void BackupsTest::onlyRegularFilesAreListed()
     QVERIFY(QFile::link(path(name(8)), path(name(8))));
 
     QCOMPARE(Backups::list(*m_folder).size(), 1);
-    QCOMPARE(Backups::newestWholePath(*m_folder), path(First));
+    QCOMPARE(newestName(), First);
     QCOMPARE(add(9, Noon.addSecs(1)), QString());
     QCOMPARE(Backups::list(*m_folder).first().number, 9U); // above every name that is there
     Backups::thin(*m_folder, Noon.addYears(9));
@@ -187,7 +189,7 @@ void BackupsTest::aCopyHoldsTheSameBytesUnderTheNextNumber()
 {
     QCOMPARE(add(1, Noon), QString());
     QCOMPARE(namesIn(*m_folder), QStringList{First});
-    QCOMPARE(contentsOf(path(First)), logbook(1));
+    QCOMPARE(Test::contents(path(First)), logbook(1));
     QCOMPARE(add(2, Noon.addSecs(-7200)), QString());
     QCOMPARE(namesIn(*m_folder).last(), u"voltbok-00000002-20261121-100000-000Z.xml"_s);
 }
@@ -195,7 +197,8 @@ void BackupsTest::aCopyHoldsTheSameBytesUnderTheNextNumber()
 void BackupsTest::whatEqualsTheNewestWholeCopyIsNotCopied()
 {
     QCOMPARE(add(1, Noon), QString());
-    put(path(u"voltbok-00000007-20261121-110000-000Z.xml"_s), "<Voltbok><Loc"); // cut, and newer
+    QVERIFY(
+        Test::write(path(u"voltbok-00000007-20261121-110000-000Z.xml"_s), "<Voltbok><Loc")); // cut, and newer
     QCOMPARE(add(1, Noon.addSecs(1)), QString());
     QCOMPARE(namesIn(*m_folder).size(), 2);
     QCOMPARE(add(2, Noon.addSecs(2)), QString());
@@ -230,7 +233,8 @@ void BackupsTest::theNewestIsTheOneMadeLast()
     QFETCH(QByteArrayList, zones);
     QFETCH(QList<QDateTime>, times);
     QVERIFY(m_folder->backups().mkpath(u"."_s));
-    put(path(u"voltbok-20300101-000000-000.xml"_s), logbook(99)); // of an earlier version, and ahead
+    QVERIFY(Test::write(path(u"voltbok-20300101-000000-000.xml"_s),
+                        logbook(99))); // of an earlier version, and ahead
     for (int i = 0; i < times.size(); ++i) {
         const Zone there(zones[i]);
         QCOMPARE(add(i, times[i]), QString());
@@ -239,7 +243,7 @@ void BackupsTest::theNewestIsTheOneMadeLast()
         QCOMPARE(newest, logbook(i));
     }
     const Zone there("Asia/Kathmandu");
-    QCOMPARE(contentsOf(Backups::newestWholePath(*m_folder)), logbook(int(times.size()) - 1));
+    QCOMPARE(newestCopy(*m_folder), logbook(int(times.size()) - 1));
     QCOMPARE(Backups::list(*m_folder).size(), times.size() + 1);
 }
 
@@ -286,7 +290,7 @@ void BackupsTest::aLogbookBelowHalfMarksTheCopyBefore()
     QCOMPARE(copies.size(), 2);
     QTEST(copies[1].kept, "kept");
     QVERIFY(!copies[0].kept);
-    QCOMPARE(contentsOf(path(copies[1].name)), ofSize(1000));
+    QCOMPARE(Test::contents(path(copies[1].name)), ofSize(1000));
     QCOMPARE(copies[1].number, 1U);
     QCOMPARE(copies[1].time, Noon);
 }
@@ -296,8 +300,8 @@ void BackupsTest::theNewestWholeCopyIsMarkedByOneRename()
     QCOMPARE(Backups::keepNewestWhole(*m_folder), QString()); // there is none
     const Zone there("Asia/Kathmandu");
     QVERIFY(m_folder->backups().mkpath(u"."_s));
-    put(path(u"voltbok-20261121-195112-123.xml"_s), logbook(1));
-    put(path(u"voltbok-00000001-20261121-195112-123Z.xml"_s), "");
+    QVERIFY(Test::write(path(u"voltbok-20261121-195112-123.xml"_s), logbook(1)));
+    QVERIFY(Test::write(path(u"voltbok-00000001-20261121-195112-123Z.xml"_s), ""));
     struct stat before = {};
     struct stat after = {};
     QCOMPARE(stat(QFile::encodeName(path(u"voltbok-20261121-195112-123.xml"_s)), &before), 0);
@@ -325,11 +329,11 @@ void BackupsTest::aCopyThatDoesNotFitLeavesNothing()
 void BackupsTest::aNameThatIsTakenByALinkIsNotWrittenTo()
 {
     const QString precious = m_home->filePath(u"precious"_s);
-    put(precious, "precious");
+    QVERIFY(Test::write(precious, "precious"));
     QVERIFY(m_folder->backups().mkpath(u"."_s));
     QVERIFY(QFile::link(precious, path(First)));
     QCOMPARE(add(1, Noon), QString());
-    QCOMPARE(contentsOf(precious), QByteArray("precious"));
+    QCOMPARE(Test::contents(precious), QByteArray("precious"));
     QCOMPARE(Backups::list(*m_folder).first().number, 2U);
 }
 
@@ -340,7 +344,7 @@ void BackupsTest::thinningTouchesOnlyCopies()
     const QStringList foreign{u"notes.txt"_s, u".hidden"_s, u".voltbok-00000002-20261121-120002-000Z.xml"_s,
                               u"voltbok-copy.xml"_s, u"voltbok.xml"_s};
     for (const QString &name : foreign)
-        put(path(name), logbook(1));
+        QVERIFY(Test::write(path(name), logbook(1)));
     QVERIFY(m_folder->backups().mkdir(u"folder"_s));
     Backups::thin(*m_folder, Noon.addYears(1));
     QCOMPARE(Backups::list(*m_folder).size(), 1);
@@ -356,9 +360,9 @@ void BackupsTest::leftoversAreRemovedAndNothingElse()
     const QStringList left{First + u".backup"_s, First + u".AbCdEfG"_s, First + u".Ab1dEf"_s,
                            u"voltbok-notes.xml.AbCdEf"_s, u"voltbok.xml.AbCdEf"_s};
     for (const QString &name : gone)
-        put(path(name), "<Voltbok>");
+        QVERIFY(Test::write(path(name), "<Voltbok>"));
     for (const QString &name : left)
-        put(path(name), logbook(1));
+        QVERIFY(Test::write(path(name), logbook(1)));
     QCOMPARE(mkfifo(QFile::encodeName(path(First + u".FiFoOo"_s)), 0600), 0);
     Backups::removeLeftovers(*m_folder);
     QStringList expected = left + QStringList{First, First + u".FiFoOo"_s};

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "gui/voltbokgui.h"
 #include "host/data/cataloguefile.h"
-#include "tests/host/support/files.h"
+#include "tests/host/support/snapshot.h"
 #include "tests/support/brokendisk.h"
+#include "tests/support/files.h"
 
 #include <QFileInfo>
 #include <QPushButton>
@@ -59,8 +60,8 @@ private:
 void CatalogueFileTest::aFileOfTheLibraryComesOutAsItWas_data()
 {
     QTest::addColumn<QByteArray>("document");
-    QTest::newRow("sample") << Files::sample();
-    QTest::newRow("golden") << Files::read(QStringLiteral(GOLDEN));
+    QTest::newRow("sample") << Test::sample();
+    QTest::newRow("golden") << Test::contents(QStringLiteral(GOLDEN));
 }
 
 void CatalogueFileTest::aFileOfTheLibraryComesOutAsItWas()
@@ -81,14 +82,14 @@ void CatalogueFileTest::anEmptyLogbookIsWhatTheLibraryMakesOfNothing()
 void CatalogueFileTest::nothingIsLeftInTheTemporaryFolder()
 {
     const TemporaryPlace place(m_folder->path());
-    QVERIFY(!CatalogueFile::loadAndSave(Files::sample()).document.isEmpty());
-    QVERIFY(Files::snapshot(m_folder->path()).isEmpty());
+    QVERIFY(!CatalogueFile::loadAndSave(Test::sample()).document.isEmpty());
+    QVERIFY(Test::snapshot(m_folder->path()).isEmpty());
 }
 
 void CatalogueFileTest::aScratchFolderThatCannotBeMadeIsAReason()
 {
     const TemporaryPlace place(m_folder->path());
-    const QByteArray document = Files::sample();
+    const QByteArray document = Test::sample();
     const Permissions closed(m_folder->path(), QFile::ReadOwner | QFile::ExeOwner);
     QVERIFY(closed.works());
     const CatalogueFile::Saved saved = CatalogueFile::loadAndSave(document);
@@ -99,7 +100,7 @@ void CatalogueFileTest::aScratchFolderThatCannotBeMadeIsAReason()
 void CatalogueFileTest::aDiskThatIsFullIsAReasonAndNoShorterLogbook()
 {
     // The save is longer than what was loaded: there is room for one only.
-    const QByteArray document = Files::sample().replace("\n", "").replace("    ", "");
+    const QByteArray document = Test::sample().replace("\n", "").replace("    ", "");
     const QByteArray saved = CatalogueFile::loadAndSave(document).document;
     QVERIFY(saved.size() > document.size());
     for (const qsizetype room : {document.size() / 2, document.size(), saved.size() - 1}) {
@@ -116,33 +117,33 @@ void CatalogueFileTest::aDiskThatIsFullIsAReasonAndNoShorterLogbook()
 void CatalogueFileTest::whatTheWindowHoldsIsReadWithoutTouchingItsFile()
 {
     const QString path = file(u"voltbok.xml"_s);
-    const QByteArray document = Files::sample() + "<!-- of hers -->\n";
-    Files::write(path, document);
+    const QByteArray document = Test::sample() + "<!-- of hers -->\n";
+    QVERIFY(Test::write(path, document));
     const QDateTime before = QFileInfo(path).lastModified();
     VoltbokGui window;
     window.changeStoragePath(m_folder->path());
     QTest::qWait(20); // the file's clock goes on
     const CatalogueFile::Saved held = CatalogueFile::heldBy(window, m_folder->path());
     QCOMPARE(held.problem, QString());
-    QVERIFY(held.document == Files::sample());
-    QVERIFY(Files::read(path) == document);
+    QVERIFY(held.document == Test::sample());
+    QVERIFY(Test::contents(path) == document);
     QCOMPARE(QFileInfo(path).lastModified(), before);
-    QCOMPARE(Files::snapshot(m_folder->path()).size(), 1);
+    QCOMPARE(Test::snapshot(m_folder->path()).size(), 1);
 }
 
 void CatalogueFileTest::theWindowGoesOnSavingInItsFolder()
 {
-    Files::write(file(u"voltbok.xml"_s), Files::sample() + "\n");
+    QVERIFY(Test::write(file(u"voltbok.xml"_s), Test::sample() + "\n"));
     VoltbokGui window;
     window.changeStoragePath(m_folder->path());
     QVERIFY(!CatalogueFile::heldBy(window, m_folder->path()).document.isEmpty());
     QVERIFY(QMetaObject::invokeMethod(&window, "writeDataWithDataprocessor"));
-    QVERIFY(Files::read(file(u"voltbok.xml"_s)) == Files::sample());
+    QVERIFY(Test::contents(file(u"voltbok.xml"_s)) == Test::sample());
 }
 
 void CatalogueFileTest::aScratchFolderThatCannotBeMadeLeavesTheWindowInItsFolder()
 {
-    Files::write(file(u"voltbok.xml"_s), Files::sample() + "\n");
+    QVERIFY(Test::write(file(u"voltbok.xml"_s), Test::sample() + "\n"));
     VoltbokGui window;
     window.changeStoragePath(m_folder->path());
     {
@@ -152,9 +153,9 @@ void CatalogueFileTest::aScratchFolderThatCannotBeMadeLeavesTheWindowInItsFolder
         QCOMPARE(held.problem, u"Permission denied"_s);
         QCOMPARE(held.document, QByteArray());
     }
-    QVERIFY(Files::read(file(u"voltbok.xml"_s)) == Files::sample() + "\n");
+    QVERIFY(Test::contents(file(u"voltbok.xml"_s)) == Test::sample() + "\n");
     QVERIFY(QMetaObject::invokeMethod(&window, "writeDataWithDataprocessor"));
-    QVERIFY(Files::read(file(u"voltbok.xml"_s)) == Files::sample());
+    QVERIFY(Test::contents(file(u"voltbok.xml"_s)) == Test::sample());
 }
 
 QTEST_MAIN(CatalogueFileTest)

@@ -4,6 +4,7 @@
 #include "tests/host/support/logbookfiles.h"
 #include "tests/host/support/lyingdisk.h"
 #include "tests/support/brokendisk.h"
+#include "tests/support/files.h"
 
 #include <QTemporaryDir>
 
@@ -28,7 +29,7 @@ private Q_SLOTS:
 
 private:
     QString path(const QString &name) const { return m_folder->backups().filePath(name); }
-    QByteArray newest() const { return contentsOf(Backups::newestWholePath(*m_folder)); }
+    QByteArray newest() const { return newestCopy(*m_folder); }
 
     std::unique_ptr<QTemporaryDir> m_home;
     std::optional<StorageFolder> m_folder;
@@ -38,7 +39,7 @@ void CopyFailuresTest::init()
 {
     m_home = std::make_unique<QTemporaryDir>();
     m_folder.emplace(m_home->path());
-    put(m_folder->dataFile(), logbook(1));
+    QVERIFY(Test::write(m_folder->dataFile(), logbook(1)));
     // Another user may write, too: what is refused is refused by the test.
     QCOMPARE(chmod(QFile::encodeName(m_home->path()), 0777), 0);
     QCOMPARE(chmod(QFile::encodeName(m_folder->dataFile()), 0666), 0);
@@ -115,7 +116,7 @@ void CopyFailuresTest::aCopyThatCannotBeKeptSaysWhy()
     const QString backups = m_folder->backups().path();
     std::unique_ptr<Refusal> refusal;
     if (fault == u"file")
-        put(backups, "mine");
+        QVERIFY(Test::write(backups, "mine"));
     else if (fault == u"pipe")
         QCOMPARE(mkfifo(QFile::encodeName(backups), 0600), 0);
     else if (fault == u"dangling")
@@ -156,14 +157,14 @@ void CopyFailuresTest::aFullDiskIsToldOnceAndRecovers()
     Ears ears(keeper);
     LyingDisk::syncError = disk ? 0 : ENOSPC;
     for (int i = 0; i < 3; ++i) {
-        put(m_folder->dataFile(), logbook(i, 70000));
+        QVERIFY(Test::write(m_folder->dataFile(), logbook(i, 70000)));
         lookAndHear(keeper);
     }
     QCOMPARE(ears.failed.size(), 1);
     QVERIFY2(ears.problem().contains(u": no space left on device. Free some space;"),
              qPrintable(ears.problem()));
     LyingDisk::syncError = 0;
-    put(m_folder->dataFile(), logbook(9));
+    QVERIFY(Test::write(m_folder->dataFile(), logbook(9)));
     lookAndHear(keeper);
     QCOMPARE(newest(), logbook(9));
     QCOMPARE(ears.recovered.size(), 1);
@@ -171,14 +172,14 @@ void CopyFailuresTest::aFullDiskIsToldOnceAndRecovers()
     QCOMPARE(ears.recovered.size(), 1);
     QCOMPARE(ears.failed.size(), 1);
     LyingDisk::syncError = ENOSPC; // the same again is a new problem
-    put(m_folder->dataFile(), logbook(10));
+    QVERIFY(Test::write(m_folder->dataFile(), logbook(10)));
     lookAndHear(keeper);
     QCOMPARE(ears.failed.size(), 2);
 }
 
 void CopyFailuresTest::anotherReasonIsToldAnew()
 {
-    put(m_folder->backups().path(), "mine");
+    QVERIFY(Test::write(m_folder->backups().path(), "mine"));
     BackupKeeper keeper(*m_folder);
     Ears ears(keeper);
     lookAndHear(keeper);
@@ -194,7 +195,7 @@ void CopyFailuresTest::anotherReasonIsToldAnew()
 void CopyFailuresTest::aFailureIsTriedAgainLessAndLessOften()
 {
     using namespace std::chrono_literals;
-    put(m_folder->backups().path(), "mine");
+    QVERIFY(Test::write(m_folder->backups().path(), "mine"));
     BackupKeeper keeper(*m_folder);
     Ears ears(keeper);
     lookAndHear(keeper);

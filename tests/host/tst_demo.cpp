@@ -2,6 +2,8 @@
 #include "host/demo/demo.h"
 #include "tests/host/support/logbookfolder.h"
 #include "tests/support/brokendisk.h"
+#include "tests/support/files.h"
+#include "tests/support/recordlists.h"
 
 #include <QTest>
 
@@ -27,6 +29,8 @@ private Q_SLOTS:
     void aResetLeavesWhatCannotBeReadWhereItIs();
     void aResetWithoutRoomForTheCopyChangesNothing();
     void aSampleThatCannotBeWrittenIsAnError();
+    void theSampleIsInTheBytesOfTheLibrary();
+    void theSampleIsGenerous();
 
 private:
     QString prepare(bool reset) const { return prepareDemo(m_log->folder(), reset); }
@@ -46,13 +50,13 @@ void DemoTest::theSampleIsPutIntoAnEmptyFolder()
 {
     QFETCH(bool, reset);
     QCOMPARE(prepare(reset), QString());
-    QCOMPARE(Files::snapshot(m_log->path()).keys(), QStringList{u"voltbok.xml"_s});
-    QVERIFY(Files::read(m_log->dataFile()) == Files::sample());
+    QCOMPARE(Test::snapshot(m_log->path()).keys(), QStringList{u"voltbok.xml"_s});
+    QVERIFY(Test::contents(m_log->dataFile()) == Test::sample());
 }
 
 void DemoTest::aChangedDemoStays()
 {
-    m_log->save(LogbookFolder::document("mine"));
+    m_log->save(LogbookFolder::document(u"mine"_s));
     const auto before = m_log->snapshot();
     QCOMPARE(prepare(false), QString());
     QCOMPARE(m_log->snapshot(), before);
@@ -60,7 +64,7 @@ void DemoTest::aChangedDemoStays()
 
 void DemoTest::aDamagedOrMissingDemoIsLeftToBeAskedAbout()
 {
-    m_log->copy(LogbookFolder::document("mine"));
+    m_log->copy(LogbookFolder::document(u"mine"_s));
     auto before = m_log->snapshot();
     QCOMPARE(prepare(false), QString());
     QCOMPARE(m_log->snapshot(), before);
@@ -72,12 +76,12 @@ void DemoTest::aDamagedOrMissingDemoIsLeftToBeAskedAbout()
 
 void DemoTest::aResetKeepsAChangedDemoAsACopy()
 {
-    m_log->save(LogbookFolder::document("mine"));
+    m_log->save(LogbookFolder::document(u"mine"_s));
     QCOMPARE(prepare(true), QString());
-    QVERIFY(Files::read(m_log->dataFile()) == Files::sample());
+    QVERIFY(Test::contents(m_log->dataFile()) == Test::sample());
     QCOMPARE(copies().size(), 1);
-    QCOMPARE(Files::read(m_log->folder().backups().filePath(copies().constFirst())),
-             LogbookFolder::document("mine"));
+    QCOMPARE(Test::contents(m_log->folder().backups().filePath(copies().constFirst())),
+             LogbookFolder::document(u"mine"_s));
 }
 
 void DemoTest::aResetOfTheSampleMakesOneCopy()
@@ -85,7 +89,7 @@ void DemoTest::aResetOfTheSampleMakesOneCopy()
     QCOMPARE(prepare(false), QString());
     QCOMPARE(prepare(true), QString());
     QCOMPARE(prepare(true), QString());
-    QVERIFY(Files::read(m_log->dataFile()) == Files::sample());
+    QVERIFY(Test::contents(m_log->dataFile()) == Test::sample());
     QCOMPARE(copies().size(), 1);
 }
 
@@ -93,20 +97,20 @@ void DemoTest::aResetPutsADamagedDemoAside()
 {
     m_log->save("half");
     QCOMPARE(prepare(true), QString());
-    QVERIFY(Files::read(m_log->dataFile()) == Files::sample());
+    QVERIFY(Test::contents(m_log->dataFile()) == Test::sample());
     QCOMPARE(m_log->folder().asides().size(), 1);
-    QCOMPARE(Files::read(m_log->folder().asides().constFirst()), QByteArray("half"));
+    QCOMPARE(Test::contents(m_log->folder().asides().constFirst()), QByteArray("half"));
     QCOMPARE(copies().size(), 0);
 }
 
 void DemoTest::aResetGoesThroughALink()
 {
     const QString target = QDir(m_log->root()).filePath(u"flights.xml"_s);
-    Files::write(target, LogbookFolder::document("mine"));
+    QVERIFY(Test::write(target, LogbookFolder::document(u"mine"_s)));
     QVERIFY(QFile::link(target, m_log->dataFile()));
     QCOMPARE(prepare(true), QString());
     QCOMPARE(QFileInfo(m_log->dataFile()).symLinkTarget(), target);
-    QVERIFY(Files::read(target) == Files::sample());
+    QVERIFY(Test::contents(target) == Test::sample());
     QCOMPARE(copies().size(), 1);
 }
 
@@ -121,12 +125,12 @@ void DemoTest::aResetLeavesWhatCannotBeReadWhereItIs()
 
 void DemoTest::aResetWithoutRoomForTheCopyChangesNothing()
 {
-    const QByteArray mine = Files::sample().replace("Club field", "My own field");
+    const QByteArray mine = Test::sample().replace("Club field", "My own field");
     m_log->save(mine);
     const FullDisk disk(static_cast<rlim_t>(mine.size() / 2));
     const QString problem = prepare(true);
     QVERIFY2(problem.contains(u"the file would be too large"_s), qPrintable(problem));
-    QVERIFY(Files::read(m_log->dataFile()) == mine);
+    QVERIFY(Test::contents(m_log->dataFile()) == mine);
 }
 
 void DemoTest::aSampleThatCannotBeWrittenIsAnError()
@@ -144,5 +148,25 @@ void DemoTest::aSampleThatCannotBeWrittenIsAnError()
     QCOMPARE(m_log->snapshot(), (QMap<QString, QByteArray>{{u"log/voltbok.xml"_s, "half"}}));
 }
 
-QTEST_GUILESS_MAIN(DemoTest)
+void DemoTest::theSampleIsInTheBytesOfTheLibrary()
+{
+    m_log->save(Test::sample());
+    RecordLists catalogue;
+    catalogue.load(m_log->path());
+    catalogue.save(m_log->path());
+    QVERIFY(Test::contents(m_log->dataFile()) == Test::sample());
+}
+
+void DemoTest::theSampleIsGenerous()
+{
+    const QByteArray sample = Test::sample();
+    QVERIFY(sample.count("<Location ") >= 6);
+    QVERIFY(sample.count("<Capacity>") >= 12);
+    QVERIFY(sample.count("<Type>") >= 4);
+    QVERIFY(sample.count("<Cycle ") >= 400);
+    QVERIFY(sample.count("<LogData ") >= 300);
+    QVERIFY(sample.contains("<Charged>1<") && sample.contains("<Charged>0<"));
+}
+
+QTEST_MAIN(DemoTest)
 #include "tst_demo.moc"

@@ -3,6 +3,7 @@
 #include "tests/host/support/logbookfiles.h"
 #include "tests/host/support/logbookfolder.h"
 #include "tests/host/support/started.h"
+#include "tests/support/files.h"
 
 #include <QImage>
 #include <QTest>
@@ -51,11 +52,11 @@ private:
 
 void DrawingTest::aPictureTakesNoLockAndMakesNothing()
 {
-    m_log->save(Files::sample() + "<!-- strange -->");
+    m_log->save(Test::sample() + "<!-- strange -->");
     auto expected = m_log->snapshot();
     QCOMPARE(draw(commandLine()), 0);
     QVERIFY(!QImage(picture()).isNull());
-    expected.insert(u"picture.png"_s, Files::read(picture()));
+    expected.insert(u"picture.png"_s, Test::contents(picture()));
     QCOMPARE(m_log->snapshot(), expected);
     CommandLine line = commandLine();
     line.storagePath = m_log->file(u"none"_s);
@@ -65,7 +66,7 @@ void DrawingTest::aPictureTakesNoLockAndMakesNothing()
 
 void DrawingTest::aFolderThatMayOnlyBeReadIsDrawn()
 {
-    m_log->save(Files::sample());
+    m_log->save(Test::sample());
     QFile::setPermissions(m_log->root(), QFile::Permissions(0x7777));
     const Refusal closed(m_log->path(), 0555);
     QVERIFY(closed.works());
@@ -75,10 +76,10 @@ void DrawingTest::aFolderThatMayOnlyBeReadIsDrawn()
 
 void DrawingTest::aFolderThatIsOpenIsDrawn()
 {
-    m_log->save(Files::sample());
-    Files::write(m_log->folder().lock(), "123\nvoltbok\nlaptop\n");
+    m_log->save(Test::sample());
+    QVERIFY(Test::write(m_log->folder().lock(), "123\nvoltbok\nlaptop\n"));
     QCOMPARE(draw(commandLine()), 0);
-    QCOMPARE(Files::read(m_log->folder().lock()), "123\nvoltbok\nlaptop\n"_ba);
+    QCOMPARE(Test::contents(m_log->folder().lock()), "123\nvoltbok\nlaptop\n"_ba);
     QCOMPARE(m_answers.asked.size(), 0);
 }
 
@@ -90,7 +91,7 @@ void DrawingTest::theDemoIsMadeToBeDrawn()
     line.demo = true;
     QCOMPARE(draw(line), 0);
     QVERIFY(!empty.isNull() && empty != QImage(picture()));
-    QCOMPARE(Files::read(StorageFolder(m_log->path()).dataFile()), Files::sample());
+    QCOMPARE(Test::contents(StorageFolder(m_log->path()).dataFile()), Test::sample());
 }
 
 void DrawingTest::aResetDemoIsMadeAndDrawn()
@@ -98,18 +99,18 @@ void DrawingTest::aResetDemoIsMadeAndDrawn()
     CommandLine line = commandLine();
     line.demo = line.resetDemo = true;
     QCOMPARE(draw(line), 0);
-    QVERIFY(Files::read(m_log->dataFile()) == Files::sample());
+    QVERIFY(Test::contents(m_log->dataFile()) == Test::sample());
     QVERIFY(!QFile::exists(m_log->folder().lock()));
 }
 
 void DrawingTest::aPictureIsReplacedAndNothingElse()
 {
-    m_log->save(Files::sample());
-    const QString copy = m_log->copy(LogbookFolder::document("a"));
+    m_log->save(Test::sample());
+    const QString copy = m_log->copy(LogbookFolder::document(u"a"_s));
     CommandLine line = commandLine();
     QCOMPARE(draw(line), 0);
     QCOMPARE(draw(line), 0); // over the picture before
-    Files::write(picture(), QByteArray());
+    QVERIFY(Test::write(picture(), QByteArray()));
     QCOMPARE(draw(line), 0); // over an empty file
     const auto before = m_log->snapshot();
     for (const QString &path : {m_log->dataFile(), copy}) {
@@ -126,7 +127,7 @@ void DrawingTest::aPictureIsReplacedAndNothingElse()
 
 void DrawingTest::whatIsNoLogbookIsNotDrawn()
 {
-    m_log->copy(LogbookFolder::document("a"));
+    m_log->copy(LogbookFolder::document(u"a"_s));
     m_answers.pressReturn();
     QCOMPARE(draw(commandLine()), 1); // it is missing
     m_log->save("half");

@@ -3,6 +3,7 @@
 #include "host/safety/wholefile.h"
 #include "tests/host/support/logbookfiles.h"
 #include "tests/host/support/logbookfolder.h"
+#include "tests/support/files.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -101,8 +102,8 @@ private:
 void ExamineTest::nothingIsANewLogbook()
 {
     QVERIFY(QDir(m_log->path()).mkdir(u"backups"_s));
-    Files::write(m_log->file(u"backups/notes.txt"_s), "hers");
-    Files::write(m_log->file(u"voltbok.xml.old"_s), "hers");
+    QVERIFY(Test::write(m_log->file(u"backups/notes.txt"_s), "hers"));
+    QVERIFY(Test::write(m_log->file(u"voltbok.xml.old"_s), "hers"));
     QCOMPARE(state().kind, FileState::New);
     QCOMPARE(state().problem, QString());
 }
@@ -114,28 +115,28 @@ void ExamineTest::aFolderThatDoesNotExistIsANewLogbook()
 
 void ExamineTest::aWholeFileIsRead()
 {
-    m_log->save(LogbookFolder::document("a"));
+    m_log->save(LogbookFolder::document(u"a"_s));
     QCOMPARE(state().kind, FileState::Whole);
     QCOMPARE(state().problem, QString());
-    QCOMPARE(state().bytes, LogbookFolder::document("a"));
+    QCOMPARE(state().bytes, LogbookFolder::document(u"a"_s));
 }
 
 void ExamineTest::nothingBesideCopiesIsMissing()
 {
-    m_log->copy(LogbookFolder::document("a"));
+    m_log->copy(LogbookFolder::document(u"a"_s));
     QCOMPARE(state().kind, FileState::Missing);
     QCOMPARE(state().problem, u"it is missing"_s);
 }
 
 void ExamineTest::nothingBesideAFileThatWasPutAsideIsMissing()
 {
-    Files::write(m_log->file(u"voltbok-broken-20261120-120000-000Z.xml"_s), "half");
+    QVERIFY(Test::write(m_log->file(u"voltbok-broken-20261120-120000-000Z.xml"_s), "half"));
     QCOMPARE(state().kind, FileState::Missing);
 }
 
 void ExamineTest::nothingBesideCopiesThatCannotBeListedIsUnreadable()
 {
-    m_log->copy(LogbookFolder::document("a"));
+    m_log->copy(LogbookFolder::document(u"a"_s));
     QFile::setPermissions(m_log->root(), QFile::Permissions(0x7777));
     const Refusal closed(m_log->file(u"backups"_s), 0);
     QVERIFY(closed.works());
@@ -145,7 +146,7 @@ void ExamineTest::nothingBesideCopiesThatCannotBeListedIsUnreadable()
 
 void ExamineTest::whatCannotBeUnderstoodIsDamaged()
 {
-    const QByteArray whole = LogbookFolder::document("a");
+    const QByteArray whole = LogbookFolder::document(u"a"_s);
     m_log->copy(whole);
     for (const QByteArray &document :
          {QByteArray(), whole.first(whole.size() / 2), "<html/>"_ba, QByteArray(512, '\0')}) {
@@ -193,7 +194,7 @@ void ExamineTest::whatIsNoFileIsUnreadableAtOnce()
 {
     QFETCH(Maker, make);
     QFETCH(QString, expected);
-    m_log->copy(LogbookFolder::document("a"));
+    m_log->copy(LogbookFolder::document(u"a"_s));
     make(m_log->dataFile());
     QElapsedTimer timer;
     timer.start();
@@ -206,20 +207,20 @@ void ExamineTest::whatIsNoFileIsUnreadableAtOnce()
 
 void ExamineTest::aLargeFileIsNotRead()
 {
-    m_log->save(LogbookFolder::document("a"));
+    m_log->save(LogbookFolder::document(u"a"_s));
     QVERIFY(QFile::resize(m_log->dataFile(), WholeFile::MaximumSize + 1));
     QElapsedTimer timer;
     timer.start();
     QCOMPARE(state().kind, FileState::Unreadable);
     QCOMPARE(state().problem, u"it is larger than 256 MB"_s);
     QVERIFY(timer.elapsed() < 100);
-    QVERIFY(QFile::resize(m_log->dataFile(), LogbookFolder::document("a").size()));
+    QVERIFY(QFile::resize(m_log->dataFile(), LogbookFolder::document(u"a"_s).size()));
     QCOMPARE(state().kind, FileState::Whole);
 }
 
 void ExamineTest::aFileWithoutPermissionIsUnreadable()
 {
-    m_log->save(LogbookFolder::document("a"));
+    m_log->save(LogbookFolder::document(u"a"_s));
     QFile::setPermissions(m_log->root(), QFile::Permissions(0x7777));
     const Refusal closed(m_log->dataFile(), 0);
     QVERIFY(closed.works());
@@ -229,7 +230,7 @@ void ExamineTest::aFileWithoutPermissionIsUnreadable()
 
 void ExamineTest::aFileInAClosedFolderIsUnreadable()
 {
-    m_log->save(LogbookFolder::document("a"));
+    m_log->save(LogbookFolder::document(u"a"_s));
     QFile::setPermissions(m_log->root(), QFile::Permissions(0x7777));
     const Refusal closed(m_log->path(), 0);
     QVERIFY(closed.works());
@@ -239,7 +240,7 @@ void ExamineTest::aFileInAClosedFolderIsUnreadable()
 
 void ExamineTest::tooManyOpenFilesAreNoDamage()
 {
-    m_log->save(LogbookFolder::document("a"));
+    m_log->save(LogbookFolder::document(u"a"_s));
     const auto found = [this] {
         const NoMoreFiles limit;
         return state();
@@ -252,7 +253,7 @@ void ExamineTest::tooManyOpenFilesAreNoDamage()
 void ExamineTest::aLinkToAWholeFileIsWhole()
 {
     const QString target = QDir(m_log->root()).filePath(u"flights.xml"_s);
-    Files::write(target, LogbookFolder::document("a"));
+    QVERIFY(Test::write(target, LogbookFolder::document(u"a"_s)));
     QVERIFY(QFile::link(target, m_log->dataFile()));
     QCOMPARE(state().kind, FileState::Whole);
 }

@@ -3,6 +3,7 @@
 #include "host/safety/storagefolder.h"
 #include "tests/host/support/faultrun.h"
 #include "tests/host/support/session.h"
+#include "tests/support/files.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
@@ -219,7 +220,7 @@ void FileFaultsTest::theNewestCopyIsTheNewestStateWhereverTheClockJumps()
     Session session(home, environment);
     const auto isCopied = [&] {
         QByteArray copy;
-        return Backups::newestWhole(folder, &copy) && copy == bytesOf(home.dataFile());
+        return Backups::newestWhole(folder, &copy) && copy == Test::contents(home.dataFile());
     };
     QTRY_VERIFY(session.run({u"messages"_s}).isDone() && isCopied());
     QVERIFY(session.run({u"click"_s, u"3S A"_s}).isDone());

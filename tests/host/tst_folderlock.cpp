@@ -3,6 +3,7 @@
 
 #include "host/safety/folderlock.h"
 #include "host/safety/runtimefolder.h"
+#include "tests/support/files.h"
 
 #include <QDateTime>
 #include <QElapsedTimer>
@@ -59,7 +60,7 @@ void FolderLockTest::theFolderIsMadeWithItsParentsAndLockedInside()
     const QString folder = path(u"a/b/c"_s);
     const auto first = m_place->start(folder);
     QCOMPARE(first->ask("take"), u"taken"_s);
-    QVERIFY(LockPlace::read(folder + u"/voltbok.lock"_s).startsWith(QByteArray::number(first->process())));
+    QVERIFY(Test::contents(folder + u"/voltbok.lock"_s).startsWith(QByteArray::number(first->process())));
     m_place->environment.insert(u"XDG_RUNTIME_DIR"_s, path(u"cache"_s)); // as on another machine
     QVERIFY(m_place->start(folder)->ask("take").startsWith(u"here "_s));
 }
@@ -104,7 +105,7 @@ void FolderLockTest::aFolderIsOneInEachSpelling()
     QVERIFY(QFile::link(path(u"parent"_s), path(u"link"_s)));
     const auto first = m_place->start(path(u"link/log"_s));
     QCOMPARE(first->ask("take"), u"taken"_s);
-    QVERIFY(LockPlace::write(path(u"parent/log/voltbok.xml"_s), "<Voltbok/>"));
+    QVERIFY(Test::write(path(u"parent/log/voltbok.xml"_s), "<Voltbok/>"));
     QVERIFY(QFile::remove(path(u"parent/log/voltbok.lock"_s))); // the second lock alone must tell, too
     for (const QString &spelling : {u"link/log"_s, u"parent/log"_s, u"parent/../link/log/"_s})
         QVERIFY2(m_place->start(path(spelling))->ask("take").startsWith(u"here "_s), qPrintable(spelling));
@@ -127,7 +128,7 @@ void FolderLockTest::foldersWhoseDataFileIsOneAreOne()
     QVERIFY(QDir().mkdir(path(u"log"_s)) && QDir().mkdir(path(u"other"_s)) && QDir().mkdir(path(u"none"_s)));
     QVERIFY(QFile::link(u"log/voltbok.xml"_s, path(u"relay"_s)));
     QVERIFY(QFile::link(path(target), path(u"other/voltbok.xml"_s)));
-    QVERIFY(!isThere || LockPlace::write(path(u"log/voltbok.xml"_s), "<Voltbok/>"));
+    QVERIFY(!isThere || Test::write(path(u"log/voltbok.xml"_s), "<Voltbok/>"));
     const auto first = start();
     QCOMPARE(first->ask("take"), u"taken"_s);
     const auto second = m_place->start(path(u"other"_s));
@@ -153,7 +154,7 @@ void FolderLockTest::theSecondLockLiesInTheUsersOwnPlace()
 {
     QFETCH(QString, runtime);
     QFETCH(QString, expected);
-    QVERIFY(LockPlace::write(path(u"file"_s), "x") && QDir().mkdir(path(u"open"_s)));
+    QVERIFY(Test::write(path(u"file"_s), "x") && QDir().mkdir(path(u"open"_s)));
     QCOMPARE(chmod(qPrintable(path(u"open"_s)), 01777), 0);
     m_place->environment.insert(u"XDG_RUNTIME_DIR"_s, path(runtime));
     if (runtime.isEmpty())
@@ -192,11 +193,11 @@ void FolderLockTest::whatADeadInstanceLeftIsTakenOver()
         left = lockOf(QByteArray::number(other->process()));
     QVERIFY(QDir().mkdir(m_place->log()));
     const QString second = path(u"run/voltbok/"_s) + runtimeName(StorageFolder(m_place->log())) + u".lock"_s;
-    QVERIFY(LockPlace::write(lock(), left) && LockPlace::write(second, left));
+    QVERIFY(Test::write(lock(), left) && Test::write(second, left));
     const auto first = start();
     QCOMPARE(first->ask("take"), u"taken"_s);
     for (const QString &taken : {lock(), second})
-        QVERIFY(LockPlace::read(taken).startsWith(QByteArray::number(first->process())));
+        QVERIFY(Test::contents(taken).startsWith(QByteArray::number(first->process())));
     QCOMPARE(first->errors(), QByteArray());
 }
 
@@ -225,7 +226,7 @@ void FolderLockTest::whatIsNoRegularFileIsNeverOpened()
     QFETCH(bool, inFolder);
     const QString inTheWay = inFolder ? lock() : m_place->runtimeLock(m_place->log());
     QVERIFY(QDir().mkpath(m_place->log()) && !inTheWay.isEmpty());
-    QVERIFY(LockPlace::write(path(u"file"_s), lockOf(deadProcess())));
+    QVERIFY(Test::write(path(u"file"_s), lockOf(deadProcess())));
     QCOMPARE(mkfifo(qPrintable(path(u"pipe"_s)), 0666), 0);
     if (kind == "pipe"_L1)
         QVERIFY(QFile::rename(path(u"pipe"_s), inTheWay));
@@ -263,7 +264,7 @@ void FolderLockTest::anotherMachinesLockIsTakenOverOnlyWhenTold()
     QFETCH(QString, machine);
     const QString second = m_place->runtimeLock(m_place->log());
     for (const QString &place : {lock(), second}) {
-        QVERIFY(LockPlace::write(place, content));
+        QVERIFY(Test::write(place, content));
         QFile file(place);
         QVERIFY(file.open(QFile::ReadWrite)); // however old it is
         QVERIFY(file.setFileTime(QDateTime::currentDateTime().addDays(-30), QFile::FileModificationTime));
@@ -273,19 +274,19 @@ void FolderLockTest::anotherMachinesLockIsTakenOverOnlyWhenTold()
         QVERIFY2(answer.startsWith(u"takeover The logbook in “"_s + m_place->log()), qPrintable(answer));
         for (const QString &told : {u"“%1”"_s.arg(machine), u"process 123"_s, place})
             QVERIFY2(answer.contains(told), qPrintable(answer));
-        QCOMPARE(LockPlace::read(place), content);
+        QCOMPARE(Test::contents(place), content);
         QCOMPARE(first->ask("break"), u"taken"_s);
-        QVERIFY(LockPlace::read(place).startsWith(QByteArray::number(first->process())));
+        QVERIFY(Test::contents(place).startsWith(QByteArray::number(first->process())));
         QVERIFY(start()->ask("take").startsWith(u"here "_s));
     }
 }
 
 void FolderLockTest::whatTheUserWasNotToldOfIsNotTakenOver()
 {
-    QVERIFY(QDir().mkdir(m_place->log()) && LockPlace::write(lock(), Stranger));
+    QVERIFY(QDir().mkdir(m_place->log()) && Test::write(lock(), Stranger));
     const auto first = start();
     QVERIFY(first->ask("take").startsWith(u"takeover "_s));
-    QVERIFY(LockPlace::write(lock(), QByteArray(Stranger).replace("laptop", "tablet")));
+    QVERIFY(Test::write(lock(), QByteArray(Stranger).replace("laptop", "tablet")));
     const QString answer = first->ask("break");
     QVERIFY2(answer.startsWith(u"takeover "_s) && answer.contains(u"tablet"_s), qPrintable(answer));
     QCOMPARE(first->ask("break"), u"taken"_s);
@@ -295,7 +296,7 @@ void FolderLockTest::aProgramThatCertainlyRunsIsNotTakenOver()
 {
     const auto first = start();
     QCOMPARE(first->ask("take"), u"taken"_s);
-    QVERIFY(LockPlace::write(lock(), Stranger)); // as a file server shows it that knows who holds it
+    QVERIFY(Test::write(lock(), Stranger)); // as a file server shows it that knows who holds it
     const auto second = start();
     for (const char *word : {"take", "break"}) {
         const QString answer = second->ask(word);
@@ -307,17 +308,17 @@ void FolderLockTest::anInstanceThatWasTakenOverLeavesTheNewLock()
 {
     const auto first = start();
     QCOMPARE(first->ask("take"), u"taken"_s);
-    QVERIFY(QFile::remove(lock()) && LockPlace::write(lock(), Stranger));
+    QVERIFY(QFile::remove(lock()) && Test::write(lock(), Stranger));
     QVERIFY(first->quit());
-    QCOMPARE(LockPlace::read(lock()), QByteArray(Stranger));
+    QCOMPARE(Test::contents(lock()), QByteArray(Stranger));
     QCOMPARE(first->errors(), QByteArray());
 }
 
 void FolderLockTest::aTextFromALockIsPlain()
 {
     QVERIFY(QDir().mkdir(m_place->log()));
-    QVERIFY(LockPlace::write(lock(), QByteArray("123\n\x1b]0;owned\x07voltbok\nlap\xe2\x80\xaetop") +
-                                         QByteArray(1000, 'x') + "\n\n\n"));
+    QVERIFY(Test::write(lock(), QByteArray("123\n\x1b]0;owned\x07voltbok\nlap\xe2\x80\xaetop") +
+                                    QByteArray(1000, 'x') + "\n\n\n"));
     const QString answer = start()->ask("take");
     QVERIFY2(answer.startsWith(u"takeover "_s) && answer.contains(u"]0;ownedvoltbok"_s), qPrintable(answer));
     QVERIFY(answer.contains(u"“laptopxxx"_s) && !answer.contains(QString(100, u'x')));

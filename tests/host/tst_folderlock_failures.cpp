@@ -3,6 +3,7 @@
 #include "tests/support/brokendisk.h"
 
 #include "host/safety/folderlock.h"
+#include "tests/support/files.h"
 
 #include <QTest>
 
@@ -84,7 +85,7 @@ void FolderLockFailuresTest::aFolderThatCannotBeMadeIsNamed()
 {
     QFETCH(QString, name);
     QFETCH(QString, reason);
-    QVERIFY(LockPlace::write(m_place->path(u"file"_s), "x"));
+    QVERIFY(Test::write(m_place->path(u"file"_s), "x"));
     QVERIFY(QFile::link(m_place->path(u"nowhere"_s), m_place->path(u"dangling"_s)));
     const QString found = problem(m_place->path(name));
     QVERIFY2(found.contains(m_place->path(name)) && found.contains(reason), qPrintable(found));
@@ -92,7 +93,7 @@ void FolderLockFailuresTest::aFolderThatCannotBeMadeIsNamed()
 
 void FolderLockFailuresTest::aRuntimeFolderThatCannotBeMadeIsNamed()
 {
-    QVERIFY(LockPlace::write(m_place->path(u"run/voltbok"_s), "in the way"));
+    QVERIFY(Test::write(m_place->path(u"run/voltbok"_s), "in the way"));
     const QString found = problem(m_place->log());
     QVERIFY2(found.contains(m_place->path(u"run/voltbok"_s)), qPrintable(found));
     QCOMPARE(m_place->files(u"log"_s), QStringList());

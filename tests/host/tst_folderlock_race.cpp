@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/host/support/lockplace.h"
+#include "tests/support/files.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -48,7 +49,7 @@ void FolderLockRaceTest::ofManyThatStartAtOnceOneGetsTheFolder()
             m_place.path(QString::fromLatin1(QTest::currentDataTag()) + QString::number(round));
         const QString file = folder + u"/voltbok.lock"_s;
         QVERIFY(left == "NONE" || QDir().mkdir(folder));
-        QVERIFY(left == "NONE" || left == "NEW" || LockPlace::write(file, left));
+        QVERIFY(left == "NONE" || left == "NEW" || Test::write(file, left));
         std::vector<std::unique_ptr<Instance>> instances;
         for (int i = 0; i < 10; ++i) {
             // Each is somebody else, so that nothing but the lock in the folder keeps them apart.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/host/support/lockplace.h"
+#include "tests/support/files.h"
 
 #include <QSysInfo>
 #include <QTest>
@@ -32,7 +33,7 @@ private:
     QString lock() const { return m_place->log() + u"/voltbok.lock"_s; }
     bool leave(const QByteArray &content, mode_t mode) const
     {
-        return LockPlace::write(lock(), content) && chmod(qPrintable(lock()), mode) == 0;
+        return Test::write(lock(), content) && chmod(qPrintable(lock()), mode) == 0;
     }
     std::unique_ptr<Instance> startFriend()
     {

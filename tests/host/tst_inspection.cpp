@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/safety/wholefile.h"
-#include "tests/host/support/files.h"
+#include "tests/host/support/snapshot.h"
+#include "tests/support/files.h"
 
 #include <QElapsedTimer>
 #include <QStringEncoder>
@@ -29,13 +30,13 @@ private Q_SLOTS:
 
 void InspectionTest::aWholeLogbookIsCounted()
 {
-    const Contents contents = WholeFile::inspect(Files::sample());
+    const Contents contents = WholeFile::inspect(Test::sample());
     QCOMPARE(contents.problem, QString());
     QCOMPARE(contents.locations, 6);
-    QCOMPARE(contents.batteries, Files::sample().count("\n    <Battery>"));
-    QCOMPARE(contents.discharges, Files::sample().count("<Cycle "));
-    QCOMPARE(contents.models, Files::sample().count("<Model>"));
-    QCOMPARE(contents.flights, Files::sample().count("<LogData "));
+    QCOMPARE(contents.batteries, Test::sample().count("\n    <Battery>"));
+    QCOMPARE(contents.discharges, Test::sample().count("<Cycle "));
+    QCOMPARE(contents.models, Test::sample().count("<Model>"));
+    QCOMPARE(contents.flights, Test::sample().count("<LogData "));
     QVERIFY(contents.batteries > 0 && contents.flights > 0 && contents.discharges > 0);
 }
 
@@ -69,7 +70,7 @@ void InspectionTest::whatIsNoLogbookSaysWhy_data()
         << "<Voltbok>\n<Battery>\n</Voltbok>"_ba << u"line 3 cannot be understood"_s;
     QTest::newRow("zeros") << QByteArray(4096, '\0') << u"it contains zero bytes"_s;
     QTest::newRow("zeros at the end") << "<Voltbok/>" + QByteArray(10, '\0') << u"it contains zero bytes"_s;
-    QByteArray zeroed = Files::sample();
+    QByteArray zeroed = Test::sample();
     zeroed.replace(4096, 512, QByteArray(512, '\0'));
     QTest::newRow("a bad sector") << zeroed << u"it contains zero bytes"_s;
     QTest::newRow("a long root") << "<" + QByteArray(1000, 'a') + "/>" << QString(100, u'a') + u'”';
@@ -144,7 +145,7 @@ void InspectionTest::aDeclarationIsNoticedHoweverItIsWritten()
 
 void InspectionTest::aCutIsNoticedAtEachByte()
 {
-    const QByteArray document = Files::sample().first(3000) + "</Data></Battery></Voltbok>\n";
+    const QByteArray document = Test::sample().first(3000) + "</Data></Battery></Voltbok>\n";
     const qsizetype begin = document.lastIndexOf("/>", 3000) + 2;
     const QByteArray small = document.first(begin) + "</Data></Battery></Voltbok>\n";
     QVERIFY(WholeFile::isWhole(small));
@@ -155,7 +156,7 @@ void InspectionTest::aCutIsNoticedAtEachByte()
 
 void InspectionTest::aZeroIsNoticedAtEachByte()
 {
-    const QByteArray whole = Files::sample().first(200) + "\"/></Locations></Voltbok>";
+    const QByteArray whole = Test::sample().first(200) + "\"/></Locations></Voltbok>";
     for (qsizetype at = 0; at < whole.size(); ++at) {
         QByteArray zeroed = whole;
         zeroed[at] = '\0';

@@ -5,6 +5,7 @@
 #include "tests/host/support/harness.h"
 #include "tests/host/support/logbook.h"
 #include "tests/host/support/record.h"
+#include "tests/support/files.h"
 
 #include <QElapsedTimer>
 #include <QProcess>
@@ -150,7 +151,7 @@ QString Victim::judge(qint64 death)
 {
     const qint64 limit = death - GraceMs - m_record.longestRest(death - 3LL * GraceMs);
     m_tally.owing += m_record.changes(limit) > 0 ? 1 : 0;
-    const QByteArray bytes = bytesOf(m_home->dataFile());
+    const QByteArray bytes = Test::contents(m_home->dataFile());
     const Logbook found = Logbook::read(bytes);
     const bool isWhole = Recovery::examine(StorageFolder(m_home->logbook())).kind == FileState::Whole;
     if (isWhole != found.whole)
@@ -179,7 +180,7 @@ QString Victim::recover(const QByteArray &damaged, qint64 limit)
     const QString reason = Recovery::replace(folder, copy, QDateTime::currentDateTimeUtc(), &aside);
     if (!reason.isEmpty())
         return u"not restored: "_s + reason;
-    if (bytesOf(aside) != damaged)
+    if (Test::contents(aside) != damaged)
         return u"the broken file was not kept"_s;
     ++m_tally.recoveries;
     return QString();
@@ -197,7 +198,7 @@ QString Victim::refusal(const QByteArray &damaged) const
         return u"a broken file was opened"_s;
     if (Harness::complaints(program.readAllStandardError()).size() != 1)
         return u"a broken file was not called so in one line"_s;
-    return bytesOf(m_home->dataFile()) == damaged ? QString() : u"a broken file was overwritten"_s;
+    return Test::contents(m_home->dataFile()) == damaged ? QString() : u"a broken file was overwritten"_s;
 }
 
 class KilledProgramTest : public QObject

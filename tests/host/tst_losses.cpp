@@ -3,9 +3,11 @@
 #include "host/data/losses.h"
 #include "host/safety/wholefile.h"
 #include "tests/host/support/facts.h"
-#include "tests/host/support/files.h"
 #include "tests/host/support/logbookfiles.h"
 #include "tests/host/support/mutations.h"
+#include "tests/host/support/snapshot.h"
+#include "tests/support/datafile.h"
+#include "tests/support/files.h"
 
 #include <QElapsedTimer>
 #include <QRegularExpression>
@@ -17,32 +19,27 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/** A small logbook in the spelling of the library. */
+/** A small logbook. */
 QByteArray small()
 {
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE Voltbok>\n<Voltbok>\n"
-           "    <Locations>\n        <Location Name=\"Süd\"/>\n        <Location Name=\"Meadow\"/>\n"
-           "    </Locations>\n"
-           "    <Battery>\n        <Name>3S</Name>\n        <Capacity>450</Capacity>\n"
-           "        <Chrgrate>20</Chrgrate>\n        <Dischrgrate>45</Dischrgrate>\n"
-           "        <Purchase>2025/03/14</Purchase>\n        <Cycles>42</Cycles>\n"
-           "        <Charged>1</Charged>\n        <LastUse>Tue Nov 10 21:09:54 2026</LastUse>\n"
-           "        <Data>\n"
-           "            <Cycle Discharged=\"376\" Current=\"1317\" Date=\"Sun Apr 6 16:40:28 2025\"/>\n"
-           "            <Cycle Discharged=\"322\" Current=\"786\" Date=\"Mon Apr 21 12:56:07 2025\"/>\n"
-           "        </Data>\n    </Battery>\n"
-           "    <Battery>\n        <Name>4S</Name>\n        <Capacity>800</Capacity>\n"
-           "        <Chrgrate>20</Chrgrate>\n        <Dischrgrate>45</Dischrgrate>\n"
-           "        <Purchase></Purchase>\n        <Cycles>0</Cycles>\n        <Charged>0</Charged>\n"
-           "        <LastUse></LastUse>\n    </Battery>\n"
-           "    <Model>\n        <Name>Wing</Name>\n        <Type>Plane</Type>\n"
-           "        <Weight>310</Weight>\n        <Size>550</Size>\n"
-           "        <Purchase>2024/08/20</Purchase>\n        <Flights>7</Flights>\n"
-           "        <Notes>one &amp; two</Notes>\n        <LastUpdate></LastUpdate>\n"
-           "        <Battery>3S</Battery>\n        <Battery>4S</Battery>\n        <FlightLog>\n"
-           "            <LogData Date=\"Sun Apr 6 16:40:28 2025\" Location=\"Süd\" Duration=\"00:05:12\" "
-           "Temperature=\"18\" Notes=\"calm\"/>\n"
-           "        </FlightLog>\n    </Model>\n</Voltbok>\n"_ba;
+    const QDateTime first(QDate(2025, 4, 6), QTime(16, 40, 28));
+    const QDateTime second(QDate(2025, 4, 21), QTime(12, 56, 7));
+    const QDateTime lastUse(QDate(2026, 11, 10), QTime(21, 9, 54));
+    const QList<Test::Discharge> history{{first, 376, 1317}, {second, 322, 786}};
+    const Test::Flight calm{first, u"Süd"_s, {0, 5, 12}, 18, u"calm"_s};
+    return Test::document({{{u"3S"_s, true, history, 450, 20, 45, 42, {2025, 3, 14}, lastUse},
+                            {u"4S"_s, false, {}, 800, 20, 45, 0, {}, {}}},
+                           {{u"Wing"_s,
+                             {u"3S"_s, u"4S"_s},
+                             {calm},
+                             310,
+                             550,
+                             7,
+                             u"Plane"_s,
+                             u"one & two"_s,
+                             {2024, 8, 20},
+                             {}}},
+                           {u"Süd"_s, u"Meadow"_s}});
 }
 
 QByteArray changed(const QByteArray &from, const QByteArray &to)
@@ -84,8 +81,8 @@ void LossesTest::aFileOfTheLibraryLosesNothing_data()
 {
     QTest::addColumn<QByteArray>("document");
     QTest::newRow("small") << small();
-    QTest::newRow("sample") << Files::sample();
-    QTest::newRow("golden") << Files::read(QStringLiteral(GOLDEN));
+    QTest::newRow("sample") << Test::sample();
+    QTest::newRow("golden") << Test::contents(QStringLiteral(GOLDEN));
 }
 
 void LossesTest::aFileOfTheLibraryLosesNothing()
@@ -282,7 +279,7 @@ void LossesTest::aTimeInASkippedHourIsALoss()
 
 void LossesTest::eachOfManyLossesIsSaidOnce()
 {
-    const QByteArray sample = Files::sample();
+    const QByteArray sample = Test::sample();
     QByteArray document = sample;
     document.replace("Temperature=", "Wind=\"3\" Temperature=");
     QCOMPARE(lossesOf(document).size(), sample.count("Temperature="));
@@ -298,7 +295,7 @@ void LossesTest::everyMutationIsJudgedAsByItsFacts_data()
     QTest::addColumn<int>("rounds");
     QTest::newRow("always the same") << small() << 20261121U << 800;
     QTest::newRow("others each time") << small() << QRandomGenerator::global()->generate() << 800;
-    QTest::newRow("of the sample") << Files::sample() << QRandomGenerator::global()->generate() << 100;
+    QTest::newRow("of the sample") << Test::sample() << QRandomGenerator::global()->generate() << 100;
 }
 
 void LossesTest::everyMutationIsJudgedAsByItsFacts()
@@ -325,7 +322,7 @@ void LossesTest::everyMutationIsJudgedAsByItsFacts()
 
 void LossesTest::comparingAHundredThousandEntriesTakesNoLongerThanReadingThem()
 {
-    QByteArray document = Files::sample();
+    QByteArray document = Test::sample();
     const qsizetype begin = document.indexOf("<Cycle ");
     const QByteArray entry = document.mid(begin, document.indexOf("/>", begin) + 2 - begin);
     document.insert(begin, QByteArray(entry + "\n").repeated(100'000) + "<Wind/>");

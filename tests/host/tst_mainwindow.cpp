@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Opening a folder, closing the window, and what is in the file afterwards.
 #include "tests/host/support/brokensaves.h"
+#include "tests/support/files.h"
 
 #include <QHash>
 #include <QScopedValueRollback>
@@ -97,7 +98,7 @@ void MainWindowTest::whatSomebodyElseHasWrittenIsNotOverwrittenAtTheEnd()
 {
     HostWindow window;
     recordInTheWindowAlone(window);
-    const QByteArray theirs = Xml::file(Xml::battery("of another"));
+    const QByteArray theirs = HostWindow::theirs(u"of another"_s);
     window.put(theirs); // and at once:
     QVERIFY(window.window().close());
     window.close();
@@ -265,7 +266,7 @@ void MainWindowTest::theTitleOfTheDemoSaysSo()
 void MainWindowTest::anotherFolderEndsTheMessagesAndTheCareForTheOneBefore()
 {
     HostWindow window;
-    window.put(Xml::file(Xml::battery("of another")));
+    window.put(HostWindow::theirs(u"of another"_s));
     QTRY_VERIFY(!window.others().isEmpty());
     const QByteArray before = window.bytes();
     const Host::StorageFolder other(window.place() + u"/other"_s);
@@ -276,7 +277,7 @@ void MainWindowTest::anotherFolderEndsTheMessagesAndTheCareForTheOneBefore()
     QCOMPARE(window.others(), QString());
     window.addLocation(u"Hill"_s);
     window.settle();
-    QVERIFY(HostWindow::read(other.dataFile()).contains("Hill"));
+    QVERIFY(Test::contents(other.dataFile()).contains("Hill"));
     QCOMPARE(window.bytes(), before);
     Host::FolderLock again;
     QCOMPARE(again.take(Host::StorageFolder(window.path())).problem, QString());

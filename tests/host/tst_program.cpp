@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/safety/backups.h"
 #include "host/safety/storagefolder.h"
-#include "storage/dataprocessor.h"
 #include "tests/host/support/harness.h"
 #include "tests/host/support/logbook.h"
 #include "tests/host/support/oddfiles.h"
 #include "tests/host/support/session.h"
+#include "tests/support/files.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -53,8 +53,6 @@ private Q_SLOTS:
     void aScreenshotShowsTheWindow();
     void aScreenshotMakesNoFolderAndWritesNoData();
     void theDemoIsCopiedToAFolderOfItsOwnAndKept();
-    void theDemoFileIsInTheBytesOfTheLibrary();
-    void theDemoIsGenerous();
     void aSecondStartLeavesTheFolderToTheFirst();
     void aSecondInstanceThatCannotReachTheFirstIsRefusedAndTheHolderNamed();
     void theLockOfAKilledInstanceIsTakenOver();
@@ -203,44 +201,13 @@ void ProgramTest::theDemoIsCopiedToAFolderOfItsOwnAndKept()
     const QStringList draw{u"--screenshot"_s, file(u"window.png"_s)};
     const QString copy = file(u"home/Voltbok-demo/voltbok.xml"_s);
     QCOMPARE(run(QStringList{u"--demo"_s} + draw, false).status, 0);
-    QCOMPARE(bytesOf(copy), bytesOf(QStringLiteral(SAMPLE)));
+    QCOMPARE(Test::contents(copy), Test::contents(QStringLiteral(SAMPLE)));
 
-    QFile edited(copy);
-    QVERIFY(edited.open(QFile::WriteOnly));
-    edited.write(smallLogbook());
-    edited.close();
+    QVERIFY(Test::write(copy, smallLogbook()));
     QCOMPARE(run(QStringList{u"--demo"_s} + draw, false).status, 0);
-    QCOMPARE(bytesOf(copy), smallLogbook());
+    QCOMPARE(Test::contents(copy), smallLogbook());
     QCOMPARE(run(QStringList{u"--reset-demo"_s} + draw, false).status, 0);
-    QCOMPARE(bytesOf(copy), bytesOf(QStringLiteral(SAMPLE)));
-}
-
-void ProgramTest::theDemoFileIsInTheBytesOfTheLibrary()
-{
-    m_home->makeLogbook(bytesOf(QStringLiteral(SAMPLE)));
-    DataProcessor processor(nullptr);
-    processor.setBasePath(m_home->logbook());
-    QList<QString> locations;
-    QList<ModelWidget *> models;
-    QList<BatteryWidget *> batteries;
-    QVERIFY(processor.getLocationsFromData(locations));
-    processor.getModelWidgetsFromData(models);
-    processor.getBatteryWidgetsFromData(batteries);
-    processor.addData(batteries, models, locations);
-    QCOMPARE(bytesOf(m_home->dataFile()), bytesOf(QStringLiteral(SAMPLE)));
-    qDeleteAll(batteries);
-    qDeleteAll(models);
-}
-
-void ProgramTest::theDemoIsGenerous()
-{
-    const QByteArray demo = bytesOf(QStringLiteral(SAMPLE));
-    QVERIFY(demo.count("<Location ") >= 6);
-    QVERIFY(demo.count("<Capacity>") >= 12);
-    QVERIFY(demo.count("<Type>") >= 4);
-    QVERIFY(demo.count("<Cycle ") >= 400);
-    QVERIFY(demo.count("<LogData ") >= 300);
-    QVERIFY(demo.contains("<Charged>1<") && demo.contains("<Charged>0<"));
+    QCOMPARE(Test::contents(copy), Test::contents(QStringLiteral(SAMPLE)));
 }
 
 void ProgramTest::aSecondStartLeavesTheFolderToTheFirst()
@@ -363,7 +330,7 @@ void ProgramTest::aSignalEndsItInOrder()
     QCOMPARE(session.process().exitStatus(), QProcess::NormalExit);
     QCOMPARE(session.process().exitCode(), 0);
     QVERIFY(session.record().changes() > 10);
-    const QByteArray kept = bytesOf(m_home->dataFile());
+    const QByteArray kept = Test::contents(m_home->dataFile());
     QVERIFY(Logbook::read(kept).whole);
     QCOMPARE(session.record().missing(Logbook::read(kept)), QStringList());
     QByteArray copy;
@@ -384,8 +351,7 @@ void ProgramTest::itLivesOnWhenNobodyReadsWhatItSays()
 {
     QFETCH(bool, closed);
     m_home->makeLogbook(smallLogbook());
-    QFile inTheWay(m_home->logbook() + u"/backups"_s); // so that it has something to say
-    QVERIFY(inTheWay.open(QFile::WriteOnly));
+    QVERIFY(Test::write(m_home->logbook() + u"/backups"_s, {})); // so that it has something to say
     Session session(*m_home);
     if (closed)
         session.process().setChildProcessModifier([] { ::close(STDERR_FILENO); });

@@ -22,18 +22,17 @@ using namespace Qt::Literals::StringLiterals;
 using Host::Answer;
 using Host::Question;
 
+/** How a box is left. */
+enum class Way { Button, Escape, Closing, Return, ReturnInTable };
+
 class QuestionsTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void cleanup();
-    void aButtonGivesItsAnswer_data();
-    void aButtonGivesItsAnswer();
-    void escapeAndClosingRefuse_data();
-    void escapeAndClosingRefuse();
-    void returnGivesThePreferredAnswer_data();
-    void returnGivesThePreferredAnswer();
+    void everyWayOutGivesItsAnswer_data();
+    void everyWayOutGivesItsAnswer();
     void textsAreNeverMarkup();
     void aTextThatIsToldIsNeverMarkup();
     void aVersionIsChosenByKeyboard();
@@ -138,69 +137,42 @@ Question QuestionsTest::longOne(QAbstractItemModel *choices)
     return question;
 }
 
-void QuestionsTest::aButtonGivesItsAnswer_data()
+void QuestionsTest::everyWayOutGivesItsAnswer_data()
 {
+    QTest::addColumn<Way>("way");
     QTest::addColumn<int>("answer");
-    for (int i = 0; i < 3; ++i)
-        QTest::newRow(qPrintable(sample().answers.at(i))) << i;
+    const std::pair<const char *, Way> ways[] = {{"its button", Way::Button},
+                                                 {"escape", Way::Escape},
+                                                 {"closing", Way::Closing},
+                                                 {"return", Way::Return},
+                                                 {"return in the table", Way::ReturnInTable}};
+    for (const auto &[name, way] : ways) {
+        for (int answer = 0; answer < 3; ++answer)
+            QTest::addRow("%s, %d", name, answer) << way << answer;
+    }
 }
 
-void QuestionsTest::aButtonGivesItsAnswer()
+void QuestionsTest::everyWayOutGivesItsAnswer()
 {
+    QFETCH(Way, way);
     QFETCH(int, answer);
-    const Answer given = ask(sample(), [answer](QDialog &box) {
-        QTest::mouseClick(button(box, sample().answers.at(answer)), Qt::LeftButton);
-    });
-    QCOMPARE(given.button, answer);
-    QCOMPARE(given.row, -1);
-}
-
-void QuestionsTest::escapeAndClosingRefuse_data()
-{
-    QTest::addColumn<bool>("byKey");
-    QTest::addColumn<int>("refusal");
-    for (int i = 0; i < 3; ++i) {
-        QTest::addRow("escape, %d", i) << true << i;
-        QTest::addRow("closed, %d", i) << false << i;
-    }
-}
-
-void QuestionsTest::escapeAndClosingRefuse()
-{
-    QFETCH(bool, byKey);
-    QFETCH(int, refusal);
-    Question question = sample();
-    question.refusal = refusal;
-    const Answer given = ask(question, [byKey](QDialog &box) {
-        if (byKey)
-            pressKey(box, Qt::Key_Escape);
-        else
-            box.close();
-    });
-    QCOMPARE(given.button, refusal);
-}
-
-void QuestionsTest::returnGivesThePreferredAnswer_data()
-{
-    QTest::addColumn<int>("preferred");
-    QTest::addColumn<bool>("withTable");
-    for (int i = 0; i < 3; ++i) {
-        QTest::addRow("answer %d", i) << i << false;
-        QTest::addRow("answer %d from the table", i) << i << true;
-    }
-}
-
-void QuestionsTest::returnGivesThePreferredAnswer()
-{
-    QFETCH(int, preferred);
-    QFETCH(bool, withTable);
     const auto table = versions();
     Question question = sample();
-    question.preferred = preferred;
-    question.choices = withTable ? table.get() : nullptr;
-    const Answer given = ask(question, [](QDialog &box) { pressKey(box, Qt::Key_Return); });
-    QCOMPARE(given.button, preferred);
-    QCOMPARE(given.row, withTable ? 0 : -1);
+    if (way == Way::Escape || way == Way::Closing)
+        question.refusal = answer;
+    if (way == Way::Return || way == Way::ReturnInTable)
+        question.preferred = answer;
+    question.choices = way == Way::ReturnInTable ? table.get() : nullptr;
+    const Answer given = ask(question, [&](QDialog &box) {
+        if (way == Way::Button)
+            QTest::mouseClick(button(box, question.answers.at(answer)), Qt::LeftButton);
+        else if (way == Way::Closing)
+            box.close();
+        else
+            pressKey(box, way == Way::Escape ? Qt::Key_Escape : Qt::Key_Return);
+    });
+    QCOMPARE(given.button, answer);
+    QCOMPARE(given.row, question.choices ? 0 : -1);
 }
 
 void QuestionsTest::textsAreNeverMarkup()

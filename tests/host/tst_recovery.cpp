@@ -4,6 +4,7 @@
 #include "host/safety/wholefile.h"
 #include "tests/host/support/logbookfolder.h"
 #include "tests/support/brokendisk.h"
+#include "tests/support/files.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -18,7 +19,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QByteArray Broken = "<Voltbok><Battery><Name>half a na"_ba;
-const QByteArray Whole = LogbookFolder::document("restored");
+const QByteArray Whole = LogbookFolder::document(u"restored"_s);
 constexpr QFile::Permissions OwnerOnly = QFile::ReadOwner | QFile::WriteOwner;
 constexpr QFile::Permissions Bits = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
                                     QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
@@ -164,9 +165,9 @@ void RecoveryTest::aReplacementThatIsTakenByAFolderIsMovedAside()
 {
     m_log->save(Broken);
     QVERIFY(QDir(m_log->path()).mkpath(u"voltbok-new.xml/hers"_s));
-    Files::write(m_log->file(u"voltbok-new.xml/hers/notes"_s), "mine");
+    QVERIFY(Test::write(m_log->file(u"voltbok-new.xml/hers/notes"_s), "mine"));
     QCOMPARE(replace(Whole), QString());
-    QCOMPARE(Files::read(m_log->dataFile()), Whole);
+    QCOMPARE(Test::contents(m_log->dataFile()), Whole);
     const auto after = m_log->snapshot();
     QCOMPARE(after.size(), 3);
     QVERIFY(after.values().contains("mine"));
@@ -178,7 +179,7 @@ void RecoveryTest::aReplacementThatIsALinkIsNotFollowed()
     m_log->save(Broken);
     QVERIFY(QFile::link(m_log->dataFile(), m_log->file(u"voltbok-new.xml"_s)));
     QCOMPARE(replace(Whole), QString());
-    QCOMPARE(Files::read(m_log->dataFile()), Whole);
+    QCOMPARE(Test::contents(m_log->dataFile()), Whole);
     QVERIFY(!QFileInfo(m_log->dataFile()).isSymLink());
     QVERIFY(m_log->snapshot().values().contains(Broken));
 }
@@ -186,11 +187,11 @@ void RecoveryTest::aReplacementThatIsALinkIsNotFollowed()
 void RecoveryTest::aReplacementOfSomebodyElseIsKept()
 {
     m_log->save(Broken);
-    Files::write(m_log->file(u"voltbok-new.xml"_s), "hers");
+    QVERIFY(Test::write(m_log->file(u"voltbok-new.xml"_s), "hers"));
     QCOMPARE(replace(Whole), QString());
     QVERIFY(m_log->snapshot().values().contains("hers"));
     QVERIFY(m_log->snapshot().values().contains(Broken));
-    QCOMPARE(Files::read(m_log->dataFile()), Whole);
+    QCOMPARE(Test::contents(m_log->dataFile()), Whole);
 }
 
 void RecoveryTest::twoReplacementsInOneMomentKeepBothFiles()
@@ -205,13 +206,13 @@ void RecoveryTest::aLinkGoesOnLeadingToItsFile()
 {
     QVERIFY(QDir(m_log->root()).mkdir(u"sync"_s));
     const QString target = QDir(m_log->root()).filePath(u"sync/flights.xml"_s);
-    Files::write(target, Broken);
+    QVERIFY(Test::write(target, Broken));
     QVERIFY(QFile::link(target, m_log->dataFile()));
     QString aside;
     QCOMPARE(replace(Whole, &aside), QString());
     QCOMPARE(QFileInfo(m_log->dataFile()).symLinkTarget(), target);
-    QCOMPARE(Files::read(target), Whole);
-    QCOMPARE(Files::read(aside), Broken);
+    QCOMPARE(Test::contents(target), Whole);
+    QCOMPARE(Test::contents(aside), Broken);
     QCOMPARE(names(), (QStringList{u"log/voltbok.xml"_s, u"sync/flights.xml"_s,
                                    u"sync/voltbok-broken-20261120-120000-000Z.xml"_s}));
 }
@@ -289,11 +290,11 @@ void RecoveryTest::deathAtAnyMomentLosesNothing()
     QFETCH(Content, expected);
     QVERIFY(QDir(m_log->path()).mkdir(u"backups"_s));
     for (auto it = left.cbegin(); it != left.cend(); ++it)
-        Files::write(m_log->file(it.key()), it.value());
+        QVERIFY(Test::write(m_log->file(it.key()), it.value()));
     Recovery::finishInterrupted(m_log->folder());
-    QCOMPARE(Files::snapshot(m_log->path()), expected);
+    QCOMPARE(Test::snapshot(m_log->path()), expected);
     Recovery::finishInterrupted(m_log->folder());
-    QCOMPARE(Files::snapshot(m_log->path()), expected);
+    QCOMPARE(Test::snapshot(m_log->path()), expected);
 }
 
 void RecoveryTest::deathBetweenTheMovesOfALinkedFileIsMended()
@@ -302,34 +303,34 @@ void RecoveryTest::deathBetweenTheMovesOfALinkedFileIsMended()
     const QDir sync(QDir(m_log->root()).filePath(u"sync"_s));
     QVERIFY(QFile::link(sync.filePath(u"flights.xml"_s), m_log->file(u"second"_s)));
     QVERIFY(QFile::link(m_log->file(u"second"_s), m_log->dataFile()));
-    Files::write(sync.filePath(u"voltbok-new.xml"_s), Whole);
-    Files::write(sync.filePath(u"voltbok-broken-20261120-120000-000Z.xml"_s), Broken);
+    QVERIFY(Test::write(sync.filePath(u"voltbok-new.xml"_s), Whole));
+    QVERIFY(Test::write(sync.filePath(u"voltbok-broken-20261120-120000-000Z.xml"_s), Broken));
     Recovery::finishInterrupted(m_log->folder());
-    QCOMPARE(Files::read(sync.filePath(u"flights.xml"_s)), Whole);
+    QCOMPARE(Test::contents(sync.filePath(u"flights.xml"_s)), Whole);
     QCOMPARE(Recovery::examine(m_log->folder()).kind, FileState::Whole);
     QVERIFY(!sync.exists(u"voltbok-new.xml"_s));
-    QCOMPARE(Files::read(sync.filePath(u"voltbok-broken-20261120-120000-000Z.xml"_s)), Broken);
+    QCOMPARE(Test::contents(sync.filePath(u"voltbok-broken-20261120-120000-000Z.xml"_s)), Broken);
 }
 
 void RecoveryTest::aReplacementThatIsNeededIsNeverRemoved()
 {
     const QString fresh = m_log->file(u"voltbok-new.xml"_s);
     m_log->save(Broken);
-    Files::write(fresh, Whole); // nobody else holds it
+    QVERIFY(Test::write(fresh, Whole)); // nobody else holds it
     Recovery::finishInterrupted(m_log->folder());
-    QCOMPARE(Files::read(m_log->dataFile()), Broken);
+    QCOMPARE(Test::contents(m_log->dataFile()), Broken);
     QVERIFY(m_log->snapshot().values().contains(Whole));
     QCOMPARE(m_log->folder().asides().size(), 1);
 
     m_log = std::make_unique<LogbookFolder>();
     const QString half = m_log->file(u"voltbok-new.xml"_s);
-    Files::write(half, Broken); // without a logbook, but it is none itself
+    QVERIFY(Test::write(half, Broken)); // without a logbook, but it is none itself
     Recovery::finishInterrupted(m_log->folder());
     QCOMPARE(m_log->snapshot(), (QMap<QString, QByteArray>{{u"log/voltbok-new.xml"_s, Broken}}));
 
     m_log = std::make_unique<LogbookFolder>();
     QFile::setPermissions(m_log->root(), QFile::Permissions(0x7777));
-    Files::write(m_log->file(u"voltbok-new.xml"_s), Whole); // it cannot be moved to its place
+    QVERIFY(Test::write(m_log->file(u"voltbok-new.xml"_s), Whole)); // it cannot be moved to its place
     {
         const Permissions closed(m_log->path(),
                                  QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
@@ -342,11 +343,11 @@ void RecoveryTest::whatWasCutOffWhileItWasWrittenIsRemoved()
 {
     m_log->save(Whole);
     for (const QString &name : {u"voltbok-new.xml.AbCdEf"_s, u"voltbok-new.xml.zzzzzz"_s})
-        Files::write(m_log->file(name), "half");
+        QVERIFY(Test::write(m_log->file(name), "half"));
     const QStringList hers{u"voltbok-new.xml.backups"_s, u"voltbok-new.xml.1"_s, u"voltbok-new.xml.2026-1"_s,
                            u"voltbok.xml.backup"_s, u"voltbok.xml.AbCdEf"_s};
     for (const QString &name : hers)
-        Files::write(m_log->file(name), "hers");
+        QVERIFY(Test::write(m_log->file(name), "hers"));
     QVERIFY(QFile::link(m_log->dataFile(), m_log->file(u"voltbok-new.xml.LinkTo"_s)));
     Recovery::finishInterrupted(m_log->folder());
     QCOMPARE(m_log->snapshot().values().count("hers"), hers.size());
@@ -364,14 +365,14 @@ void RecoveryTest::aFileIsPutAsideOnce()
     QCOMPARE(Recovery::keepAside(m_log->folder(), Whole, now, &first), QString());
     QCOMPARE(Recovery::keepAside(m_log->folder(), Whole, now.addDays(1), &second), QString());
     QCOMPARE(first, second);
-    QCOMPARE(Files::read(first), Whole);
+    QCOMPARE(Test::contents(first), Whole);
     QCOMPARE(QFile::permissions(first) & Bits, OwnerOnly);
     QCOMPARE(m_log->snapshot().size(), 2);
     QString other;
-    QCOMPARE(Recovery::keepAside(m_log->folder(), LogbookFolder::document("retsored"), now, &other),
+    QCOMPARE(Recovery::keepAside(m_log->folder(), LogbookFolder::document(u"retsored"_s), now, &other),
              QString());
     QVERIFY(other != first);
-    QCOMPARE(Files::read(first), Whole);
+    QCOMPARE(Test::contents(first), Whole);
 }
 
 void RecoveryTest::aFileThatCannotBePutAsideSaysWhy()

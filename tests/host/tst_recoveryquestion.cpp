@@ -5,6 +5,7 @@
 #include "host/window/recoveryquestion.h"
 #include "tests/host/support/answers.h"
 #include "tests/host/support/logbookfolder.h"
+#include "tests/support/files.h"
 
 #include <QTest>
 
@@ -56,11 +57,11 @@ private:
 void RecoveryQuestionTest::returnRestoresTheNewestWholeCopy()
 {
     m_log->save("<Voltbok>");
-    m_log->copy(LogbookFolder::document("a"));
-    m_log->copy(LogbookFolder::document("b"));
+    m_log->copy(LogbookFolder::document(u"a"_s));
+    m_log->copy(LogbookFolder::document(u"b"_s));
     m_log->copy("half");
     m_answers->pressReturn();
-    QCOMPARE(ask(), LogbookFolder::document("b"));
+    QCOMPARE(ask(), LogbookFolder::document(u"b"_s));
     QCOMPARE(asked().question.answers.at(asked().question.preferred), Restore);
     QCOMPARE(asked().question.chosen, 1);
     QCOMPARE(asked().choosable, (QList<bool>{false, true, true}));
@@ -69,16 +70,16 @@ void RecoveryQuestionTest::returnRestoresTheNewestWholeCopy()
 void RecoveryQuestionTest::anotherCopyCanBeChosen()
 {
     m_log->save("<Voltbok>");
-    m_log->copy(LogbookFolder::document("a"));
-    m_log->copy(LogbookFolder::document("b"));
+    m_log->copy(LogbookFolder::document(u"a"_s));
+    m_log->copy(LogbookFolder::document(u"b"_s));
     m_answers->press(Restore, 1);
-    QCOMPARE(ask(), LogbookFolder::document("a"));
+    QCOMPARE(ask(), LogbookFolder::document(u"a"_s));
 }
 
 void RecoveryQuestionTest::escapeQuits()
 {
     m_log->save("<Voltbok>");
-    m_log->copy(LogbookFolder::document("a"));
+    m_log->copy(LogbookFolder::document(u"a"_s));
     QCOMPARE(ask(), std::nullopt);
     QCOMPARE(asked().question.answers.at(asked().question.refusal), Quit);
     m_answers->press(Quit, 0);
@@ -88,14 +89,14 @@ void RecoveryQuestionTest::escapeQuits()
 void RecoveryQuestionTest::anEmptyLogbookCanBeBegun()
 {
     m_log->save("<Voltbok>");
-    m_log->copy(LogbookFolder::document("a"));
+    m_log->copy(LogbookFolder::document(u"a"_s));
     m_answers->press(StartEmpty, 0);
     QCOMPARE(ask(), CatalogueFile::emptyDocument());
 }
 
 void RecoveryQuestionTest::withoutAWholeCopyReturnQuits()
 {
-    m_log->save(Files::sample().first(60'000));
+    m_log->save(Test::sample().first(60'000));
     m_log->copy("half");
     m_answers->pressReturn();
     QCOMPARE(ask(), std::nullopt);
@@ -106,12 +107,13 @@ void RecoveryQuestionTest::withoutAWholeCopyReturnQuits()
 
 void RecoveryQuestionTest::whatWasPutAsideIsNeverRestoredByReturnAlone()
 {
-    Files::write(m_log->file(u"voltbok-broken-20261101-120000-000Z.xml"_s), LogbookFolder::document("old"));
+    QVERIFY(Test::write(m_log->file(u"voltbok-broken-20261101-120000-000Z.xml"_s),
+                        LogbookFolder::document(u"old"_s)));
     m_answers->pressReturn();
     QCOMPARE(ask(), std::nullopt);
     QCOMPARE(asked().rows.size(), 1);
     m_answers->press(Restore, 0);
-    QCOMPARE(ask(), LogbookFolder::document("old"));
+    QCOMPARE(ask(), LogbookFolder::document(u"old"_s));
 }
 
 void RecoveryQuestionTest::withoutAnythingToRestoreOnlyTheRestIsAsked()
@@ -127,9 +129,9 @@ void RecoveryQuestionTest::withoutAnythingToRestoreOnlyTheRestIsAsked()
 
 void RecoveryQuestionTest::whatCanStillBeReadIsOfferedWithItsCounts()
 {
-    const QByteArray sample = Files::sample();
+    const QByteArray sample = Test::sample();
     m_log->save(sample.first(sample.indexOf("<Model>") + 20));
-    m_log->copy(LogbookFolder::document("a"));
+    m_log->copy(LogbookFolder::document(u"a"_s));
     m_answers->press(Restore, 1);
     const QByteArray document = ask().value_or(QByteArray());
     const Contents read = WholeFile::inspect(document);
@@ -145,7 +147,7 @@ void RecoveryQuestionTest::whatCanStillBeReadIsOfferedWithItsCounts()
 
 void RecoveryQuestionTest::nothingThatCanBeReadIsNotOffered()
 {
-    m_log->copy(LogbookFolder::document("a"));
+    m_log->copy(LogbookFolder::document(u"a"_s));
     for (const QByteArray &document : {"hello"_ba, QByteArray(), "<html><body/></html>"_ba}) {
         m_log->save(document);
         ask();
@@ -155,7 +157,7 @@ void RecoveryQuestionTest::nothingThatCanBeReadIsNotOffered()
 
 void RecoveryQuestionTest::aDangerousFileIsNeverLoaded()
 {
-    m_log->copy(LogbookFolder::document("a"));
+    m_log->copy(LogbookFolder::document(u"a"_s));
     const QByteArray entities = "<!DOCTYPE Voltbok [<!ENTITY a 'b'>]>";
     const QByteArray content = "<Voltbok><Battery><Name>&a;</Name></Battery></Voltbok>";
     for (const QByteArray &document : {entities + content, entities + content + QByteArray(1, '\0')}) {
@@ -184,7 +186,7 @@ void RecoveryQuestionTest::theMatterIsSaidInWholeSentences()
     if (damaged)
         m_log->save("<Voltbok>");
     if (copy)
-        m_log->copy(LogbookFolder::document("a"));
+        m_log->copy(LogbookFolder::document(u"a"_s));
     ask();
     const Question &question = m_answers->asked.constFirst().question;
     QVERIFY2(question.text.contains(m_log->dataFile()), qPrintable(question.text));

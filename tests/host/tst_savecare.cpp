@@ -22,6 +22,10 @@ private Q_SLOTS:
     void aRetryThatFailsSaysWhy();
     void theSameProblemIsToldOnceAndAnotherReasonAgain();
     void aFileThatCannotBeWrittenIsToldAtTheStart();
+    void whatWasNotReadAtTheStartIsReadAgain();
+    void whatIsNeverReadAtTheStartIsToldAndNotOverwritten();
+    void whatIsOpenedWholeIsNotReadAgain_data();
+    void whatIsOpenedWholeIsNotReadAgain();
     void whatTheDiskDidNotGiveBackIsReadAgain();
     void aFileThatCannotBeReadBackIsNotOverwritten();
     void aFileThatIsGoneIsToldAndWrittenAgain();
@@ -30,8 +34,13 @@ private Q_SLOTS:
 
 private:
     HostWindow &window() { return *m_window; }
+    /** Has a window of its own opened that the disk has @p given this file, where it holds another. */
+    void openAs(const QByteArray &given, const QByteArray &document, bool readable);
 
     std::unique_ptr<HostWindow> m_window;
+    int m_reloads = 0; // of the window that openAs() makes
+    QString m_loss;
+    bool m_isEnabled = false;
 };
 
 void SaveCareTest::init()
@@ -230,6 +239,63 @@ void SaveCareTest::aFileThatCannotBeWrittenIsToldAtTheStart()
     QCOMPARE(window().bytes(), HostWindow::sample());
 }
 
+void SaveCareTest::openAs(const QByteArray &given, const QByteArray &document, bool readable)
+{
+    window().close(); // and its care with it
+    VoltbokGui gui;
+    window().put(given);
+    gui.changeStoragePath(window().path());
+    window().put(document);
+    m_reloads = 0;
+    const auto reload = [&] {
+        ++m_reloads;
+        if (readable)
+            gui.changeStoragePath(window().path());
+    };
+    Host::MessageBar messages;
+    const Host::SaveCare care(Host::StorageFolder(window().path()), {&gui, [] {}, reload}, messages,
+                              window().questions);
+    m_loss = messages.m_texts.value(u"saving"_s);
+    m_isEnabled = gui.isEnabled();
+}
+
+void SaveCareTest::whatWasNotReadAtTheStartIsReadAgain()
+{
+    openAs({}, HostWindow::sample(), true);
+    QCOMPARE(m_reloads, 1);
+    QCOMPARE(m_loss, QString());
+    QVERIFY(m_isEnabled);
+    QCOMPARE(window().bytes(), HostWindow::sample());
+}
+
+void SaveCareTest::whatIsNeverReadAtTheStartIsToldAndNotOverwritten()
+{
+    openAs({}, HostWindow::sample(), false);
+    QCOMPARE(m_reloads, 1);
+    QVERIFY2(m_loss.contains(u"it cannot be read back"_s), qPrintable(m_loss));
+    QVERIFY(!m_isEnabled);
+    QCOMPARE(window().bytes(), HostWindow::sample());
+}
+
+void SaveCareTest::whatIsOpenedWholeIsNotReadAgain_data()
+{
+    const QByteArray sample = HostWindow::sample();
+    QTest::addColumn<QByteArray>("document");
+    QTest::newRow("as it is saved") << sample;
+    QTest::newRow("in another spelling") << QByteArray(sample).replace("    ", "\t");
+    QTest::newRow("empty by now") << QByteArray(); // the window holds more than a reload would give it
+}
+
+void SaveCareTest::whatIsOpenedWholeIsNotReadAgain()
+{
+    QFETCH(QByteArray, document);
+    openAs(HostWindow::sample(), document, true);
+    QCOMPARE(m_reloads, 0);
+    QCOMPARE(m_loss, QString());
+    QVERIFY(m_isEnabled);
+    QCOMPARE(window().bytes(), document);
+}
+
 void SaveCareTest::whatTheDiskDidNotGiveBackIsReadAgain()
 {
     // Gone from when the locations are read again until the overview is built.
@@ -294,7 +360,7 @@ void SaveCareTest::aFileThatIsGoneIsToldAndWrittenAgain()
 
 void SaveCareTest::aFileThatIsHalfWrittenByAnotherProgramIsWaitedFor()
 {
-    const QByteArray theirs = Xml::file(Xml::battery("of another"));
+    const QByteArray theirs = HostWindow::theirs(u"of another"_s);
     window().put(theirs.left(100));
     QTRY_VERIFY(!window().loss().isEmpty());
     window().put(theirs);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The buttons of the message about a save that failed: what they put back, and where.
 #include "tests/host/support/brokensaves.h"
+#include "tests/support/files.h"
 
 using namespace Qt::Literals::StringLiterals;
 using namespace Faults;
@@ -53,7 +54,7 @@ void SaveRemediesTest::restoringWhileTheWindowHoldsMoreLosesNothing()
     QVERIFY(!window().battery(u"Pack A"_s)->getBatteryCharged());
     const QStringList asides = Host::StorageFolder(window().path()).asides();
     QCOMPARE(asides.size(), 1);
-    QCOMPARE(HostWindow::read(asides.constFirst()), cut);
+    QCOMPARE(Test::contents(asides.constFirst()), cut);
     QVERIFY(window().message(u"restored"_s).contains(asides.constFirst()));
 }
 
@@ -145,7 +146,7 @@ void SaveRemediesTest::keptElsewhereTheLogbookIsWhole()
     window().settle();
 
     QCOMPARE(window().questions.told(), QStringList());
-    const QByteArray kept = HostWindow::read(elsewhere + u"/voltbok.xml"_s);
+    const QByteArray kept = Test::contents(elsewhere + u"/voltbok.xml"_s);
     QCOMPARE(kept.count("<Capacity>"), 2);
     QCOMPARE(kept.count("<LogData"), edits ? 0 : 1);
     QCOMPARE(window().loss(), QString());
@@ -155,7 +156,7 @@ void SaveRemediesTest::keptElsewhereTheLogbookIsWhole()
     const QByteArray before = window().bytes();
     window().clickCard(u"Pack B"_s);
     window().settle();
-    QVERIFY(HostWindow::read(elsewhere + u"/voltbok.xml"_s).contains("<Charged>1<"));
+    QVERIFY(Test::contents(elsewhere + u"/voltbok.xml"_s).contains("<Charged>1<"));
     QCOMPARE(window().bytes(), before);
 }
 
@@ -178,7 +179,7 @@ void SaveRemediesTest::noLogbookIsKeptOnTopOfAnother()
     window().questions.choose(elsewhere);
     window().press(u"Keep Elsewhere…"_s);
     QVERIFY(window().questions.told().constLast().contains(u"already"_s));
-    QCOMPARE(HostWindow::read(elsewhere + path), HostWindow::sample());
+    QCOMPARE(Test::contents(elsewhere + path), HostWindow::sample());
     QVERIFY(!window().loss().isEmpty());
     fault.reset();
     window().press(u"Try Again"_s);

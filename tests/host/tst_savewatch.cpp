@@ -275,7 +275,7 @@ void SaveWatchTest::anotherProgramsChangeIsCopiedBeforeAClickOverwritesIt()
             LogbookWindow::type(m_window->ui().ledt_location_new, QString::number(time));
         }
         m_window->told.clear();
-        const QByteArray theirs = Xml::file(Xml::battery("of another " + QByteArray::number(time)));
+        const QByteArray theirs = HostWindow::theirs(u"of another %1"_s.arg(time));
         m_window->put(theirs); // and at once:
         if (edits)
             LogbookWindow::click(m_window->ui().pb_add_location);
@@ -292,19 +292,19 @@ void SaveWatchTest::anotherProgramsChangeIsCopiedBeforeAClickOverwritesIt()
 
 void SaveWatchTest::anotherProgramsChangeIsToldWithoutAnyClick()
 {
-    const QByteArray theirs = Xml::file(Xml::battery("of another"));
+    const QByteArray theirs = HostWindow::theirs(u"of another"_s);
     m_window->put(theirs);
     QTRY_VERIFY(!m_window->others().isEmpty());
     QVERIFY(m_window->copies().contains(theirs));
-    m_window->put(Xml::file(Xml::battery("of a third")));
-    QTRY_VERIFY(m_window->copies().contains(Xml::file(Xml::battery("of a third"))));
+    m_window->put(HostWindow::theirs(u"of a third"_s));
+    QTRY_VERIFY(m_window->copies().contains(HostWindow::theirs(u"of a third"_s)));
     QCOMPARE(m_window->told.count(), 1);
 }
 
 void SaveWatchTest::aFileThatIsReplacedAgainAndAgainIsStillWatched()
 {
     for (int time = 0; time < 4; ++time) {
-        const QByteArray theirs = Xml::file(Xml::battery("number " + QByteArray::number(time)));
+        const QByteArray theirs = HostWindow::theirs(u"number %1"_s.arg(time));
         QSaveFile file(m_window->filePath());
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(theirs);

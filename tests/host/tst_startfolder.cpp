@@ -1,24 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whose folder it is that the program starts in, and whether it is the right one.
 #include "host/safety/folderlock.h"
-#include "tests/host/support/logbookfolder.h"
-#include "tests/host/support/started.h"
+#include "tests/host/support/starttest.h"
 #include "tests/support/brokendisk.h"
 
 #include <QTest>
 
-#include <memory>
-
 using namespace Host;
 using namespace Qt::Literals::StringLiterals;
 
-class StartFolderTest : public QObject
+class StartFolderTest : public StartTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
+    void init() { prepare(); }
     void aFolderThatIsOpenHereIsRefused();
     void theLockOfAnotherMachineIsTakenOverOnlyByAnAnswer();
     void aFolderGivenByNameThatHasNoLogbookIsSaid_data();
@@ -26,45 +22,11 @@ private Q_SLOTS:
     void theDemoIsMadeAndOpened();
     void aResetDemoIsKept();
     void aDemoThatCannotBeMadeIsAnError();
-
-private:
-    CommandLine commandLine() const
-    {
-        CommandLine result;
-        result.storagePath = m_log->path();
-        return result;
-    }
-    Started run() { return Started::run(commandLine(), m_answers); }
-    QByteArray data() const { return Files::read(m_log->dataFile()); }
-    QByteArrayList asides() const
-    {
-        QByteArrayList contents;
-        const QStringList paths = m_log->folder().asides();
-        for (const QString &path : paths)
-            contents.append(Files::read(path));
-        return contents;
-    }
-
-    QTemporaryDir m_runtime;
-    std::unique_ptr<LogbookFolder> m_log;
-    Answers m_answers;
 };
-
-void StartFolderTest::initTestCase()
-{
-    QFile::setPermissions(m_runtime.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtime.path()));
-}
-
-void StartFolderTest::init()
-{
-    m_log = std::make_unique<LogbookFolder>();
-    m_answers.reset();
-}
 
 void StartFolderTest::aFolderThatIsOpenHereIsRefused()
 {
-    m_log->save(LogbookFolder::document("a"));
+    m_log->save(LogbookFolder::document(u"a"_s));
     FolderLock lock;
     QCOMPARE(lock.take(m_log->folder()).problem, QString());
     const Started started = run();
@@ -76,15 +38,15 @@ void StartFolderTest::aFolderThatIsOpenHereIsRefused()
 
 void StartFolderTest::theLockOfAnotherMachineIsTakenOverOnlyByAnAnswer()
 {
-    m_log->save(LogbookFolder::document("a"));
+    m_log->save(LogbookFolder::document(u"a"_s));
     const QString lock = m_log->folder().lock();
     const QByteArray stranger =
         "123\nvoltbok\nlaptop\n" + QByteArray(32, 'a') + '\n' + QByteArray(36, 'b') + '\n';
-    Files::write(lock, stranger);
+    QVERIFY(Test::write(lock, stranger));
     const Started refused = run();
     QCOMPARE(refused.status, 1);
     QVERIFY(!refused.hasWindow);
-    QCOMPARE(Files::read(lock), stranger);
+    QCOMPARE(Test::contents(lock), stranger);
     QVERIFY2(m_answers.asked.value(0).question.text.contains(u"laptop"_s),
              qPrintable(m_answers.asked.value(0).question.text));
     m_answers.pressReturn();
@@ -115,7 +77,7 @@ void StartFolderTest::aFolderGivenByNameThatHasNoLogbookIsSaid()
     QFETCH(bool, logbook);
     QFETCH(bool, said);
     if (logbook)
-        m_log->save(LogbookFolder::document("a"));
+        m_log->save(LogbookFolder::document(u"a"_s));
     CommandLine line = commandLine();
     line.dataGiven = given;
     if (!folder)
@@ -137,20 +99,20 @@ void StartFolderTest::theDemoIsMadeAndOpened()
     QCOMPARE(started.status, 0);
     QVERIFY(started.batteries > 3);
     QCOMPARE(started.messages, QStringList());
-    QVERIFY(Files::read(line.storagePath + u"/voltbok.xml"_s) == Files::sample());
+    QVERIFY(Test::contents(line.storagePath + u"/voltbok.xml"_s) == Test::sample());
 }
 
 void StartFolderTest::aResetDemoIsKept()
 {
     CommandLine line = commandLine();
     line.demo = line.resetDemo = true;
-    m_log->save(LogbookFolder::document("mine"));
+    m_log->save(LogbookFolder::document(u"mine"_s));
     QCOMPARE(Started::run(line, m_answers).status, 0);
-    QVERIFY(data() == Files::sample());
-    QVERIFY(m_log->snapshot().values().contains(LogbookFolder::document("mine")));
+    QVERIFY(data() == Test::sample());
+    QVERIFY(m_log->snapshot().values().contains(LogbookFolder::document(u"mine"_s)));
     m_log->save("half");
     QCOMPARE(Started::run(line, m_answers).status, 0);
-    QVERIFY(data() == Files::sample());
+    QVERIFY(data() == Test::sample());
     QCOMPARE(asides(), QByteArrayList{"half"});
     QCOMPARE(m_answers.asked.size() + m_answers.told.size(), 0);
 }

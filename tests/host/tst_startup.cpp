@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/data/cataloguefile.h"
 #include "tests/host/support/logbookfiles.h"
-#include "tests/host/support/logbookfolder.h"
-#include "tests/host/support/started.h"
+#include "tests/host/support/starttest.h"
 #include "tests/support/brokendisk.h"
 
 #include <QTest>
 
 #include <sys/stat.h>
-
-#include <memory>
 
 using namespace Host;
 using namespace Qt::Literals::StringLiterals;
@@ -22,18 +19,17 @@ const QString StartEmpty = u"Start with an Empty Logbook"_s;
 /** With an element in its first battery that no save writes. */
 QByteArray strange()
 {
-    return Files::sample().replace("<Cycles>42</Cycles>", "<Cycles>42</Cycles><Chemistry>LiPo</Chemistry>");
+    return Test::sample().replace("<Cycles>42</Cycles>", "<Cycles>42</Cycles><Chemistry>LiPo</Chemistry>");
 }
 
 } // namespace
 
-class StartupTest : public QObject
+class StartupTest : public StartTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
+    void init() { prepare(); }
     void aWholeLogbookOpensWithoutAWord();
     void aDamagedFileIsReplacedByTheNewestCopy();
     void aDamagedFileIsReplacedByTheChosenCopy();
@@ -50,83 +46,49 @@ private Q_SLOTS:
     void whatCannotBeCheckedIsNotOpened();
     void whatCannotBeReadIsToldAndNeverReplaced_data();
     void whatCannotBeReadIsToldAndNeverReplaced();
-
-private:
-    CommandLine commandLine() const
-    {
-        CommandLine result;
-        result.storagePath = m_log->path();
-        return result;
-    }
-    Started run() { return Started::run(commandLine(), m_answers); }
-    QByteArray data() const { return Files::read(m_log->dataFile()); }
-    QByteArrayList asides() const
-    {
-        QByteArrayList contents;
-        const QStringList paths = m_log->folder().asides();
-        for (const QString &path : paths)
-            contents.append(Files::read(path));
-        return contents;
-    }
-
-    QTemporaryDir m_runtime;
-    std::unique_ptr<LogbookFolder> m_log;
-    Answers m_answers;
 };
-
-void StartupTest::initTestCase()
-{
-    QFile::setPermissions(m_runtime.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    qputenv("XDG_RUNTIME_DIR", QFile::encodeName(m_runtime.path()));
-}
-
-void StartupTest::init()
-{
-    m_log = std::make_unique<LogbookFolder>();
-    m_answers.reset();
-}
 
 void StartupTest::aWholeLogbookOpensWithoutAWord()
 {
-    m_log->save(Files::sample());
+    m_log->save(Test::sample());
     const Started started = run();
     QCOMPARE(started.status, 0);
     QVERIFY(started.hasWindow);
     QCOMPARE(started.messages, QStringList());
     QVERIFY(started.batteries > 0);
-    QVERIFY(data() == Files::sample());
+    QVERIFY(data() == Test::sample());
     QCOMPARE(m_answers.asked.size() + m_answers.told.size(), 0);
     QVERIFY(asides().isEmpty());
 }
 
 void StartupTest::aDamagedFileIsReplacedByTheNewestCopy()
 {
-    m_log->copy(LogbookFolder::document("old"));
-    m_log->copy(LogbookFolder::document("new"));
+    m_log->copy(LogbookFolder::document(u"old"_s));
+    m_log->copy(LogbookFolder::document(u"new"_s));
     m_log->save("half");
     m_answers.pressReturn();
     const Started started = run();
     QCOMPARE(started.status, 0);
     QVERIFY(started.hasWindow);
-    QCOMPARE(data(), LogbookFolder::document("new"));
+    QCOMPARE(data(), LogbookFolder::document(u"new"_s));
     QCOMPARE(asides(), QByteArrayList{"half"});
     QCOMPARE(m_log->folder().backups().entryList({u"*-kept-*"_s}).size(), 1); // made before the damage
 }
 
 void StartupTest::aDamagedFileIsReplacedByTheChosenCopy()
 {
-    m_log->copy(LogbookFolder::document("old"));
-    m_log->copy(LogbookFolder::document("new"));
+    m_log->copy(LogbookFolder::document(u"old"_s));
+    m_log->copy(LogbookFolder::document(u"new"_s));
     m_log->save("half");
     m_answers.press(Restore, 1);
     QCOMPARE(run().status, 0);
-    QCOMPARE(data(), LogbookFolder::document("old"));
+    QCOMPARE(data(), LogbookFolder::document(u"old"_s));
     QCOMPARE(asides(), QByteArrayList{"half"});
 }
 
 void StartupTest::aDamagedFileIsReplacedByAnEmptyLogbook()
 {
-    m_log->copy(LogbookFolder::document("old"));
+    m_log->copy(LogbookFolder::document(u"old"_s));
     m_log->save("half");
     m_answers.press(StartEmpty);
     const Started started = run();
@@ -138,7 +100,7 @@ void StartupTest::aDamagedFileIsReplacedByAnEmptyLogbook()
 
 void StartupTest::aDamagedFileStaysWhereItIsWhenTheUserQuits()
 {
-    m_log->copy(LogbookFolder::document("old"));
+    m_log->copy(LogbookFolder::document(u"old"_s));
     m_log->save("half");
     const auto before = m_log->snapshot();
     const Started started = run();
@@ -150,18 +112,18 @@ void StartupTest::aDamagedFileStaysWhereItIsWhenTheUserQuits()
 
 void StartupTest::aMissingFileIsRestoredFromACopy()
 {
-    m_log->copy(LogbookFolder::document("old"));
+    m_log->copy(LogbookFolder::document(u"old"_s));
     m_answers.pressReturn();
     const Started started = run();
     QCOMPARE(started.status, 0);
     QCOMPARE(m_answers.asked.size(), 1);
-    QCOMPARE(data(), LogbookFolder::document("old"));
+    QCOMPARE(data(), LogbookFolder::document(u"old"_s));
     QVERIFY(asides().isEmpty());
 }
 
 void StartupTest::aMissingFileIsReplacedByAnEmptyLogbook()
 {
-    m_log->copy(LogbookFolder::document("old"));
+    m_log->copy(LogbookFolder::document(u"old"_s));
     m_answers.press(StartEmpty);
     QCOMPARE(run().status, 0);
     QCOMPARE(data(), CatalogueFile::emptyDocument());
@@ -169,7 +131,7 @@ void StartupTest::aMissingFileIsReplacedByAnEmptyLogbook()
 
 void StartupTest::aMissingFileStaysMissingWhenTheUserQuits()
 {
-    m_log->copy(LogbookFolder::document("old"));
+    m_log->copy(LogbookFolder::document(u"old"_s));
     const auto before = m_log->snapshot();
     const Started started = run();
     QCOMPARE(started.status, 1);
@@ -179,7 +141,7 @@ void StartupTest::aMissingFileStaysMissingWhenTheUserQuits()
 
 void StartupTest::aRestoreThatFailsChangesNothing()
 {
-    const QByteArray large = LogbookFolder::document(QByteArray(20'000, 'x'));
+    const QByteArray large = LogbookFolder::document(QString(20'000, u'x'));
     m_log->copy(large);
     m_log->save("half");
     m_answers.pressReturn();
@@ -197,10 +159,10 @@ void StartupTest::aRestoreThatFailsChangesNothing()
 
 void StartupTest::aVersionThatIsGoneMeanwhileChangesNothing()
 {
-    const QString copy = m_log->copy(LogbookFolder::document("old"));
+    const QString copy = m_log->copy(LogbookFolder::document(u"old"_s));
     m_log->save("half");
     m_answers.pressReturn();
-    m_answers.whenAsked = [&] { Files::write(copy, "damaged now"); };
+    m_answers.whenAsked = [&] { QVERIFY(Test::write(copy, "damaged now")); };
     const Started started = run();
     QCOMPARE(started.status, 1);
     QVERIFY(!started.hasWindow);
@@ -210,13 +172,13 @@ void StartupTest::aVersionThatIsGoneMeanwhileChangesNothing()
 
 void StartupTest::anInterruptedRestoreIsFinished()
 {
-    Files::write(m_log->file(u"voltbok-new.xml"_s), LogbookFolder::document("new"));
-    Files::write(m_log->file(u"voltbok-broken-20261120-120000-000Z.xml"_s), "half");
+    QVERIFY(Test::write(m_log->file(u"voltbok-new.xml"_s), LogbookFolder::document(u"new"_s)));
+    QVERIFY(Test::write(m_log->file(u"voltbok-broken-20261120-120000-000Z.xml"_s), "half"));
     const Started started = run();
     QCOMPARE(started.status, 0);
     QVERIFY(started.hasWindow);
     QCOMPARE(m_answers.asked.size(), 0);
-    QCOMPARE(data(), LogbookFolder::document("new"));
+    QCOMPARE(data(), LogbookFolder::document(u"new"_s));
 }
 
 void StartupTest::whatIsNotUnderstoodIsPutAsideOnce()
@@ -245,7 +207,7 @@ void StartupTest::whatIsNotUnderstoodIsNotOpenedWhereItCannotBePutAside()
     // The file is a link into a folder that nothing can be added to.
     const QDir sync(QDir(m_log->root()).filePath(u"sync"_s));
     QVERIFY(sync.mkpath(u"."_s));
-    Files::write(sync.filePath(u"voltbok.xml"_s), strange());
+    QVERIFY(Test::write(sync.filePath(u"voltbok.xml"_s), strange()));
     QVERIFY(QFile::link(sync.filePath(u"voltbok.xml"_s), m_log->dataFile()));
     qputenv("XDG_CACHE_HOME", QFile::encodeName(m_log->root())); // where another user's locks go
     QFile::setPermissions(sync.filePath(u"voltbok.xml"_s), QFile::Permissions(0x6666));
@@ -268,7 +230,7 @@ void StartupTest::whatIsNotUnderstoodIsNotOpenedWhereItCannotBePutAside()
 
 void StartupTest::whatCannotBeCheckedIsNotOpened()
 {
-    m_log->save(Files::sample());
+    m_log->save(Test::sample());
     const auto before = m_log->snapshot();
     {
         const FullDisk disk(10'000);
@@ -291,7 +253,7 @@ void StartupTest::whatCannotBeReadIsToldAndNeverReplaced_data()
 void StartupTest::whatCannotBeReadIsToldAndNeverReplaced()
 {
     QFETCH(QByteArray, kind);
-    m_log->copy(LogbookFolder::document("old"));
+    m_log->copy(LogbookFolder::document(u"old"_s));
     const QString path = m_log->dataFile();
     // Nothing of the machine's own: a program that is wrong would put a logbook in its place.
     if (kind == "pipe")

@@ -2,6 +2,7 @@
 #include "host/safety/storagefolder.h"
 
 #include "tests/host/support/logbookfiles.h"
+#include "tests/support/files.h"
 
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -58,7 +59,7 @@ void StorageFolderTest::aLinkedLogbookIsReplacedWhereItLies()
     const StorageFolder folder(m_home->filePath(u"log"_s));
     QVERIFY(QDir(m_home->path()).mkdir(u"log"_s) && QDir(m_home->path()).mkdir(u"synchronised"_s));
     const QString target = QFileInfo(m_home->path()).canonicalFilePath() + u"/synchronised/mine.xml"_s;
-    put(target, logbook(1));
+    QVERIFY(Test::write(target, logbook(1)));
     QVERIFY(QFile::link(target, folder.dataFile()));
     QCOMPARE(folder.dataFileTarget(), target);
     QCOMPARE(folder.replacement(), QFileInfo(target).dir().filePath(u"voltbok-new.xml"_s));
@@ -76,7 +77,7 @@ void StorageFolderTest::aNameAsideIsNeverTaken()
     const QDateTime now(QDate(2026, 11, 21), QTime(12, 0));
     const QString first = m_home->filePath(u"voltbok-broken-20261121-061500-000Z.xml"_s);
     QCOMPARE(folder.aside(now), first);
-    put(first, "mine");
+    QVERIFY(Test::write(first, "mine"));
     const QString second = m_home->filePath(u"voltbok-broken-20261121-061500-001Z.xml"_s);
     QCOMPARE(folder.aside(now), second);
     QVERIFY(QFile::link(u"/nowhere"_s, second));
@@ -88,7 +89,7 @@ void StorageFolderTest::aFolderThatCannotHoldALogbookSaysWhy()
     const auto problem = [&](const QString &name) { return StorageFolder(m_home->filePath(name)).problem(); };
     QCOMPARE(problem(QString()), QString());
     QCOMPARE(problem(u"new/folder"_s), QString());
-    put(m_home->filePath(u"file"_s), "mine");
+    QVERIFY(Test::write(m_home->filePath(u"file"_s), "mine"));
     QVERIFY(problem(u"file"_s).contains(u"is not a directory. Choose another folder."));
     QVERIFY(problem(u"file/folder"_s).contains(m_home->filePath(u"file"_s) + u"” is not a directory"_s));
     QVERIFY(QFile::link(u"/nowhere"_s, m_home->filePath(u"dangling"_s)));

@@ -3,6 +3,7 @@
 #include "host/window/versionsmodel.h"
 #include "tests/host/support/logbookfiles.h"
 #include "tests/host/support/logbookfolder.h"
+#include "tests/support/files.h"
 
 #include <QAbstractItemModelTester>
 #include <QElapsedTimer>
@@ -30,6 +31,8 @@ private Q_SLOTS:
     void aVersionInNoFileIsOfferedLast();
     void theFirstWholeOneMayBeBehindDamagedOnes();
     void aVersionIsReadWhenItIsShown();
+    void copiesThatCannotBeListedAreMissed_data();
+    void copiesThatCannotBeListedAreMissed();
     void twoThousandCopiesOpenAtOnce();
 
 private:
@@ -52,15 +55,15 @@ private:
 void VersionsModelTest::copiesStandFromTheNewestToTheOldest()
 {
     const Zone zone("Europe/Oslo");
-    for (const char *name : {"a", "b", "c"})
+    for (const QString &name : {u"a"_s, u"b"_s, u"c"_s})
         m_log->copy(LogbookFolder::document(name));
     VersionsModel model(m_log->folder());
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
     QCOMPARE(model.rowCount(), 3);
     QCOMPARE(row(model, 0).first(), u"Copy of 2026-11-20 13:00:03"_s);
     QCOMPARE(row(model, 2).first(), u"Copy of 2026-11-20 13:00:01"_s);
-    QCOMPARE(model.document(0), LogbookFolder::document("c"));
-    QCOMPARE(model.document(2), LogbookFolder::document("a"));
+    QCOMPARE(model.document(0), LogbookFolder::document(u"c"_s));
+    QCOMPARE(model.document(2), LogbookFolder::document(u"a"_s));
     QCOMPARE(model.firstWhole(), 0);
     QVERIFY(model.isCopy(2));
     QCOMPARE(VersionsModel(StorageFolder(m_log->file(u"none"_s))).rowCount(), 0);
@@ -68,7 +71,7 @@ void VersionsModelTest::copiesStandFromTheNewestToTheOldest()
 
 void VersionsModelTest::aVersionShowsWhatItHolds()
 {
-    const QByteArray sample = Files::sample();
+    const QByteArray sample = Test::sample();
     m_log->copy(sample);
     const VersionsModel model(m_log->folder());
     const Contents contents = WholeFile::inspect(sample);
@@ -92,7 +95,7 @@ void VersionsModelTest::everyColumnHasATitle()
 
 void VersionsModelTest::aDamagedVersionIsListedAndCannotBeChosen()
 {
-    m_log->copy(Files::sample().first(9000));
+    m_log->copy(Test::sample().first(9000));
     const VersionsModel model(m_log->folder());
     QVERIFY2(row(model, 0).first().endsWith(u" (damaged)"_s), qPrintable(row(model, 0).first()));
     QCOMPARE(row(model, 0).mid(2), QStringList(4)); // no figures
@@ -103,7 +106,7 @@ void VersionsModelTest::aDamagedVersionIsListedAndCannotBeChosen()
 
 void VersionsModelTest::aVersionThatCannotBeReadSaysSo()
 {
-    const QString copy = m_log->copy(LogbookFolder::document("a"));
+    const QString copy = m_log->copy(LogbookFolder::document(u"a"_s));
     QFile::setPermissions(m_log->root(), QFile::Permissions(0x7777));
     const Refusal closed(copy, 0);
     QVERIFY(closed.works());
@@ -115,35 +118,36 @@ void VersionsModelTest::aVersionThatCannotBeReadSaysSo()
 
 void VersionsModelTest::filesThatWerePutAsideAreOfferedBehindTheCopies()
 {
-    m_log->copy(LogbookFolder::document("a"));
-    Files::write(m_log->file(u"voltbok-broken-20261101-120000-000Z.xml"_s), LogbookFolder::document("b"));
-    Files::write(m_log->file(u"voltbok-broken-20261102-120000-000Z.xml"_s), "half");
+    m_log->copy(LogbookFolder::document(u"a"_s));
+    QVERIFY(Test::write(m_log->file(u"voltbok-broken-20261101-120000-000Z.xml"_s),
+                        LogbookFolder::document(u"b"_s)));
+    QVERIFY(Test::write(m_log->file(u"voltbok-broken-20261102-120000-000Z.xml"_s), "half"));
     const VersionsModel model(m_log->folder());
     QCOMPARE(model.rowCount(), 3);
     QCOMPARE(row(model, 1).first(), u"voltbok-broken-20261102-120000-000Z.xml (damaged)"_s);
     QCOMPARE(row(model, 2).first(), u"voltbok-broken-20261101-120000-000Z.xml"_s);
     QVERIFY(isChoosable(model, 2));
     QVERIFY(!model.isCopy(1));
-    QCOMPARE(model.document(2), LogbookFolder::document("b"));
+    QCOMPARE(model.document(2), LogbookFolder::document(u"b"_s));
 }
 
 void VersionsModelTest::aVersionInNoFileIsOfferedLast()
 {
-    m_log->copy(LogbookFolder::document("a"));
+    m_log->copy(LogbookFolder::document(u"a"_s));
     VersionsModel model(m_log->folder());
     const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-    model.add(u"What was read"_s, LogbookFolder::document("b"));
+    model.add(u"What was read"_s, LogbookFolder::document(u"b"_s));
     model.add(u"No logbook"_s, "half");
     QCOMPARE(model.rowCount(), 2);
     QCOMPARE(row(model, 1).first(), u"What was read"_s);
-    QCOMPARE(model.document(1), LogbookFolder::document("b"));
+    QCOMPARE(model.document(1), LogbookFolder::document(u"b"_s));
     QVERIFY(!model.isCopy(1));
     QVERIFY(isChoosable(model, 1));
 }
 
 void VersionsModelTest::theFirstWholeOneMayBeBehindDamagedOnes()
 {
-    m_log->copy(LogbookFolder::document("a"));
+    m_log->copy(LogbookFolder::document(u"a"_s));
     m_log->copy("half");
     m_log->copy(QByteArray());
     QCOMPARE(VersionsModel(m_log->folder()).firstWhole(), 2);
@@ -151,17 +155,47 @@ void VersionsModelTest::theFirstWholeOneMayBeBehindDamagedOnes()
 
 void VersionsModelTest::aVersionIsReadWhenItIsShown()
 {
-    const QString path = m_log->copy(LogbookFolder::document("a"));
+    const QString path = m_log->copy(LogbookFolder::document(u"a"_s));
     const VersionsModel model(m_log->folder());
-    Files::write(path, "damaged in between");
+    QVERIFY(Test::write(path, "damaged in between"));
     QVERIFY(!isChoosable(model, 0));
-    Files::write(path, LogbookFolder::document("c"));
-    QCOMPARE(model.document(0), LogbookFolder::document("c"));
+    QVERIFY(Test::write(path, LogbookFolder::document(u"c"_s)));
+    QCOMPARE(model.document(0), LogbookFolder::document(u"c"_s));
+}
+
+void VersionsModelTest::copiesThatCannotBeListedAreMissed_data()
+{
+    QTest::addColumn<bool>("copied");
+    QTest::addColumn<bool>("listable");
+    QTest::addColumn<bool>("complete");
+    QTest::newRow("no folder of copies") << false << true << true;
+    QTest::newRow("a folder of copies") << true << true << true;
+    QTest::newRow("one that cannot be listed") << true << false << false;
+}
+
+void VersionsModelTest::copiesThatCannotBeListedAreMissed()
+{
+    QFETCH(bool, copied);
+    QFETCH(bool, listable);
+    if (copied)
+        m_log->copy(LogbookFolder::document(u"a"_s));
+    QVERIFY(Test::write(m_log->file(u"voltbok-broken-20261101-120000-000Z.xml"_s),
+                        LogbookFolder::document(u"b"_s)));
+    for (const QString &folder : {m_log->root(), m_log->path()})
+        QFile::setPermissions(folder, QFile::Permissions(0x7777));
+    std::unique_ptr<Refusal> closed;
+    if (!listable) {
+        closed = std::make_unique<Refusal>(m_log->folder().backups().path(), 0);
+        QVERIFY(closed->works());
+    }
+    const VersionsModel model(m_log->folder());
+    QTEST(model.isComplete(), "complete");
+    QCOMPARE(model.rowCount(), copied && listable ? 2 : 1); // what was put aside is offered all the same
 }
 
 void VersionsModelTest::twoThousandCopiesOpenAtOnce()
 {
-    const QByteArray large = LogbookFolder::document(QByteArray(1'000'000, 'x'));
+    const QByteArray large = LogbookFolder::document(QString(1'000'000, u'x'));
     const QByteArray first = QFile::encodeName(m_log->copy(large));
     for (int number = 2; number <= 2000; ++number) {
         Copy copy;

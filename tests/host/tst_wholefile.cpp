@@ -4,6 +4,7 @@
 #include "tests/host/support/logbookfiles.h"
 #include "tests/host/support/lyingdisk.h"
 #include "tests/support/brokendisk.h"
+#include "tests/support/files.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -78,7 +79,7 @@ void WholeFileTest::aDocumentIsWholeWhenItIsOneLogbook_data()
     row("cut off", document.left(document.size() - 4), "line");
     row("empty", {}, "it is empty");
     row("no XML", "hello", "line 1");
-    row("something behind the end", document + "<Voltbok/>", "line 6");
+    row("something behind the end", document + "<Voltbok/>", "line 8");
     row("zeros", QByteArray(4096, '\0'), "it contains zero bytes");
     row("one zero in a name", QByteArray(document).replace("Location ", QByteArray("Loca\0ion ", 9)),
         "it contains zero bytes");
@@ -101,7 +102,7 @@ void WholeFileTest::aDocumentIsWholeWhenItIsOneLogbook()
 
 void WholeFileTest::theContentsAreCounted()
 {
-    const Contents contents = WholeFile::inspect(contentsOf(QStringLiteral(SAMPLE)));
+    const Contents contents = WholeFile::inspect(Test::contents(QStringLiteral(SAMPLE)));
     QCOMPARE(contents.problem, QString());
     QCOMPARE(contents.locations, 6);
     QCOMPARE(contents.batteries, 12);
@@ -112,11 +113,11 @@ void WholeFileTest::theContentsAreCounted()
 
 void WholeFileTest::aFileIsReadAsItIs()
 {
-    put(path(), QByteArray("a\0\r\n", 4));
+    QVERIFY(Test::write(path(), QByteArray("a\0\r\n", 4)));
     QCOMPARE(WholeFile::read(path()).bytes, QByteArray("a\0\r\n", 4));
     QVERIFY(QFile::link(path(), path("link")));
     QCOMPARE(WholeFile::read(path("link")).bytes.size(), 4);
-    put(path("empty"), "");
+    QVERIFY(Test::write(path("empty"), ""));
     QCOMPARE(WholeFile::read(path("empty")).problem, QString());
     QFile large(path("large"));
     QVERIFY(large.open(QFile::WriteOnly) && large.resize(WholeFile::MaximumSize + 1));
@@ -160,7 +161,7 @@ void WholeFileTest::onlyANameWithNothingIsMissing()
     QVERIFY(WholeFile::read(path()).isMissing);
     QCOMPARE(WholeFile::read(path()).problem, u"there is no such file"_s);
     QVERIFY(WholeFile::read(path("folder/file")).isMissing);
-    put(path(), "");
+    QVERIFY(Test::write(path(), ""));
     QVERIFY(!WholeFile::read(path()).isMissing);
     QVERIFY(QFile::link(path("loop"), path("loop")));
     QVERIFY(!WholeFile::read(path("loop")).isMissing);
@@ -168,7 +169,7 @@ void WholeFileTest::onlyANameWithNothingIsMissing()
 
 void WholeFileTest::whatMayNotBeReadIsNamed()
 {
-    put(path(), "text");
+    QVERIFY(Test::write(path(), "text"));
     {
         const Refusal closed(m_folder->path(), 0);
         QVERIFY(closed.works());
@@ -185,7 +186,7 @@ void WholeFileTest::aFileIsWrittenWhole()
 {
     for (const QByteArray &bytes : {QByteArray("first"), QByteArray(100000, 'x'), QByteArray()}) {
         QCOMPARE(WholeFile::write(path(), bytes), QString());
-        QCOMPARE(contentsOf(path()), bytes);
+        QCOMPARE(Test::contents(path()), bytes);
     }
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files).size(), 1);
     QVERIFY(!WholeFile::write(path("folder/file"), "text").isEmpty());
@@ -201,14 +202,14 @@ void WholeFileTest::aFileThatDoesNotFitLeavesTheOldOne_data()
 void WholeFileTest::aFileThatDoesNotFitLeavesTheOldOne()
 {
     QFETCH(int, size);
-    put(path(), "old");
+    QVERIFY(Test::write(path(), "old"));
     {
         const FullDisk disk(300);
         QVERIFY(disk.works());
         QCOMPARE(WholeFile::write(path(), QByteArray(size, 'x')), u"the file would be too large"_s);
         QCOMPARE(WholeFile::write(path("new"), QByteArray(size, 'x')), u"the file would be too large"_s);
     }
-    QCOMPARE(contentsOf(path()), QByteArray("old"));
+    QCOMPARE(Test::contents(path()), QByteArray("old"));
     QCOMPARE(QDir(m_folder->path()).entryList(QDir::Files), QStringList{u"file"_s});
 }
 
@@ -259,18 +260,18 @@ void WholeFileTest::aDiskThatLiesIsFoundOut()
 
 void WholeFileTest::aDiskThatCannotKeepItIsNamed()
 {
-    put(path(), "old");
+    QVERIFY(Test::write(path(), "old"));
     LyingDisk::syncError = EIO;
     QCOMPARE(WholeFile::write(path(), "text"), u"the disk reports an error"_s);
     QCOMPARE(WholeFile::sync(path()), u"the disk reports an error"_s);
-    QCOMPARE(contentsOf(path()), QByteArray("old"));
+    QCOMPARE(Test::contents(path()), QByteArray("old"));
     LyingDisk::syncError = EINVAL; // nothing to wait for
     QCOMPARE(WholeFile::write(path(), "text"), QString());
 }
 
 void WholeFileTest::aFileIsWaitedFor()
 {
-    put(path(), "text");
+    QVERIFY(Test::write(path(), "text"));
     QVERIFY(!LyingDisk::wasSynced(QFile::encodeName(path())));
     QCOMPARE(WholeFile::sync(path()), QString());
     QVERIFY(LyingDisk::wasSynced(QFile::encodeName(path())));

@@ -1,16 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/batterywidget.h"
+#include "tests/records/card.h"
+#include "tests/support/warnings.h"
 
-#include <QLabel>
 #include <QMetaEnum>
 #include <QMetaType>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <climits>
 #include <memory>
+
+using namespace Qt::Literals::StringLiterals;
 
 class BatteryWidgetTest : public QObject
 {
@@ -34,17 +36,6 @@ private Q_SLOTS:
     void aClickOnADischargedBatteryChargesIt();
     void aClickOnAChargedBatteryOnlyAsks();
     void theChargeStateAlternates();
-    void aFullEntryIsAppendedToTheThreeLists();
-    void aSimpleEntryHasNoMeasurements();
-    void notifyingEntriesAnnounceOneChange_data();
-    void notifyingEntriesAnnounceOneChange();
-    void theListsAreCompleteWhenTheChangeIsAnnounced();
-    void theHistoryKeepsTheOrderOfRecording();
-    void theHistoryListsAreTheRecordsOwn();
-    void anEventIsFoundByItsExactTime_data();
-    void anEventIsFoundByItsExactTime();
-    void anEmptyHistoryHoldsNoEvent();
-    void theEarlierOfTwoEqualTimesWins();
     void theStampIsLocalTime();
 };
 
@@ -52,21 +43,11 @@ namespace {
 
 const QDateTime noon(QDate(2026, 7, 1), QTime(12, 0, 0, 500));
 
-QString labelText(const QWidget &card, const char *name)
-{
-    return card.findChild<QLabel *>(QLatin1String(name))->text();
-}
-
-void addEntry(BatteryWidget &battery, QDateTime when, unsigned int discharged, unsigned int current)
-{
-    battery.addFullEntry(when, discharged, current, false);
-}
-
 } // namespace
 
 void BatteryWidgetTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
+    Test::failOnWarnings();
 }
 
 void BatteryWidgetTest::aNewBatteryHasNoFiguresAndIsDischarged()
@@ -93,7 +74,7 @@ void BatteryWidgetTest::aNewBatteryHasNoFiguresAndIsDischarged()
 void BatteryWidgetTest::settersStoreWhatTheyAreGiven()
 {
     BatteryWidget battery;
-    QString name = QStringLiteral("Pack A");
+    QString name = u"Pack A"_s;
     QDate purchase(2025, 3, 9);
     battery.setBatteryName(name);
     battery.setBatteryCapacity(2200);
@@ -105,7 +86,7 @@ void BatteryWidgetTest::settersStoreWhatTheyAreGiven()
     battery.setDateOfPurchase(purchase);
     battery.setLastUpdated(noon);
 
-    QCOMPARE(battery.getBatteryName(), QStringLiteral("Pack A"));
+    QCOMPARE(battery.getBatteryName(), u"Pack A"_s);
     QCOMPARE(battery.getBatteryCapacity(), 2200U);
     QCOMPARE(battery.getBatteryRating(), 25U);
     QCOMPARE(battery.getBatteryCycles(), 12U);
@@ -114,7 +95,7 @@ void BatteryWidgetTest::settersStoreWhatTheyAreGiven()
     QCOMPARE(battery.getBatteryChargeRate(), 15U);
     QCOMPARE(battery.getdateOfPurchase(), QDate(2025, 3, 9));
     QCOMPARE(battery.getBatteryLastUpdated(), noon); // to the millisecond
-    QCOMPARE(name, QStringLiteral("Pack A"));
+    QCOMPARE(name, u"Pack A"_s);
 }
 
 void BatteryWidgetTest::settersTakeAnyNumberUnchanged()
@@ -141,7 +122,7 @@ void BatteryWidgetTest::settersEmitNothing()
     BatteryWidget battery;
     QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
     QSignalSpy asked(&battery, &BatteryWidget::chargeBatteryClicked);
-    QString name = QStringLiteral("Pack A");
+    QString name = u"Pack A"_s;
     QDate purchase(2025, 3, 9);
     battery.setBatteryName(name);
     battery.setBatteryCapacity(1);
@@ -164,7 +145,7 @@ void BatteryWidgetTest::theChargeRateCannotBeClearedOnPurpose()
     battery.setBatteryChargeRate(15);
     battery.setBatteryChargeRate(0);
     QCOMPARE(battery.getBatteryChargeRate(), 15U);
-    QCOMPARE(labelText(battery, "lbl_rate"), QStringLiteral("30C/1.5C"));
+    QCOMPARE(Card::find(battery, "lbl_rate")->text(), u"30C/1.5C"_s);
 }
 
 void BatteryWidgetTest::theMetaTypeSystemCreatesAndDestroysABattery()
@@ -214,15 +195,16 @@ void BatteryWidgetTest::loadingAChargeStateTouchesOnlyTheFlagAndTheButton()
     BatteryWidget battery;
     battery.setBatteryCycles(4);
     battery.setLastUpdated(noon);
-    addEntry(battery, noon, 1200, 4550);
+    QDateTime when = noon;
+    battery.addFullEntry(when, 1200, 4550, false);
     battery.setBatteryCharged(!charged, false);
     QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
 
     battery.setBatteryCharged(charged, false);
 
     QCOMPARE(battery.getBatteryCharged(), charged);
-    const auto *button = battery.findChild<QPushButton *>(QStringLiteral("pushButton"));
-    QCOMPARE(button->text(), charged ? QStringLiteral("Charged") : QStringLiteral("Discharged"));
+    const auto *button = battery.findChild<QPushButton *>(u"pushButton"_s);
+    QCOMPARE(button->text(), charged ? u"Charged"_s : u"Discharged"_s);
     QCOMPARE(battery.getBatteryCycles(), 4U);
     QCOMPARE(battery.getBatteryLastUpdated(), noon);
     QCOMPARE(battery.getDates().size(), 1);
@@ -236,7 +218,8 @@ void BatteryWidgetTest::aUsersDischargeCountsACycleAndLeavesAnEmptyEntry()
     BatteryWidget battery;
     battery.setBatteryCycles(4);
     battery.setLastUpdated(noon);
-    addEntry(battery, noon, 1200, 4550);
+    QDateTime when = noon;
+    battery.addFullEntry(when, 1200, 4550, false);
     battery.setBatteryCharged(true, false);
     QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
     QSignalSpy asked(&battery, &BatteryWidget::chargeBatteryClicked);
@@ -247,7 +230,7 @@ void BatteryWidgetTest::aUsersDischargeCountsACycleAndLeavesAnEmptyEntry()
     const QDateTime after = QDateTime::currentDateTime();
     QVERIFY(!battery.getBatteryCharged());
     QCOMPARE(battery.getBatteryCycles(), 5U);
-    QCOMPARE(labelText(battery, "lbl_cycles"), QStringLiteral("5"));
+    QCOMPARE(Card::find(battery, "lbl_cycles")->text(), u"5"_s);
     QCOMPARE(battery.getDates().size(), 2);
     QVERIFY(battery.getDates().at(1) >= before && battery.getDates().at(1) <= after);
     QCOMPARE(battery.getDischarges(), (QList<unsigned int>{1200, 0}));
@@ -271,7 +254,8 @@ void BatteryWidgetTest::aUsersChargeStampsTheTimeAndCountsNothing()
     QVERIFY(battery.getBatteryCharged());
     QVERIFY(battery.getBatteryLastUpdated() >= before);
     QVERIFY(battery.getBatteryLastUpdated() <= QDateTime::currentDateTime());
-    QCOMPARE(labelText(battery, "lbl_dateTime"), battery.getBatteryLastUpdated().toString(Qt::TextDate));
+    QCOMPARE(Card::find(battery, "lbl_dateTime")->text(),
+             battery.getBatteryLastUpdated().toString(Qt::TextDate));
     QCOMPARE(battery.getBatteryCycles(), 4U);
     QVERIFY(battery.getDates().isEmpty());
     QCOMPARE(changed.count(), 1);
@@ -285,7 +269,7 @@ void BatteryWidgetTest::theTimeIsStampedBeforeTheChangeIsAnnounced()
         ++announced;
         QVERIFY(battery.getBatteryCharged());
         QVERIFY(battery.getBatteryLastUpdated().isValid());
-        QCOMPARE(battery.findChild<QPushButton *>()->text(), QStringLiteral("Charged"));
+        QCOMPARE(battery.findChild<QPushButton *>()->text(), u"Charged"_s);
     });
     battery.setBatteryCharged(true, true);
     QCOMPARE(announced, 1);
@@ -328,166 +312,10 @@ void BatteryWidgetTest::theChargeStateAlternates()
     auto *button = battery.findChild<QPushButton *>();
     for (int i = 0; i < 3; ++i) {
         QTest::mouseClick(button, Qt::LeftButton);
-        QCOMPARE(button->text(), QStringLiteral("Charged"));
+        QCOMPARE(button->text(), u"Charged"_s);
         QTest::mouseClick(button, Qt::LeftButton);
-        QCOMPARE(button->text(), QStringLiteral("Discharged"));
+        QCOMPARE(button->text(), u"Discharged"_s);
     }
-}
-
-void BatteryWidgetTest::aFullEntryIsAppendedToTheThreeLists()
-{
-    BatteryWidget battery;
-    QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
-    QDateTime when = noon;
-    battery.addFullEntry(when, 1200, 4550, false);
-    QCOMPARE(battery.getDates(), QList<QDateTime>{noon});
-    QCOMPARE(battery.getDischarges(), QList<unsigned int>{1200});
-    QCOMPARE(battery.getCurrents(), QList<unsigned int>{4550});
-    QCOMPARE(battery.getBatteryLastDischarged(), 1200U);
-    QCOMPARE(battery.getBatteryLastMaxCurrent(), 4550U);
-    QCOMPARE(labelText(battery, "lbl_discharged"), QStringLiteral("1200mAh"));
-    QCOMPARE(labelText(battery, "lbl_maxCurrent"), QStringLiteral("45.50A"));
-    QCOMPARE(battery.getBatteryCycles(), 0U);
-    QVERIFY(battery.getBatteryLastUpdated().isNull());
-    QCOMPARE(changed.count(), 0);
-}
-
-void BatteryWidgetTest::aSimpleEntryHasNoMeasurements()
-{
-    BatteryWidget battery;
-    addEntry(battery, noon, 1200, 4550);
-    QDateTime when = noon.addDays(1);
-    battery.addSimpleEntry(when, false);
-    QCOMPARE(battery.getDates(), (QList<QDateTime>{noon, when}));
-    QCOMPARE(battery.getDischarges(), (QList<unsigned int>{1200, 0}));
-    QCOMPARE(battery.getCurrents(), (QList<unsigned int>{4550, 0}));
-    QCOMPARE(battery.getBatteryLastDischarged(), 0U);
-    QCOMPARE(battery.getBatteryLastMaxCurrent(), 0U);
-    QCOMPARE(labelText(battery, "lbl_discharged"), QStringLiteral("0mAh"));
-    QCOMPARE(labelText(battery, "lbl_maxCurrent"), QStringLiteral("0.0A"));
-}
-
-void BatteryWidgetTest::notifyingEntriesAnnounceOneChange_data()
-{
-    QTest::addColumn<bool>("full");
-    QTest::addColumn<bool>("notify");
-    QTest::newRow("full, silent") << true << false;
-    QTest::newRow("full, notifying") << true << true;
-    QTest::newRow("simple, silent") << false << false;
-    QTest::newRow("simple, notifying") << false << true;
-}
-
-void BatteryWidgetTest::notifyingEntriesAnnounceOneChange()
-{
-    QFETCH(bool, full);
-    QFETCH(bool, notify);
-    BatteryWidget battery;
-    QSignalSpy changed(&battery, &BatteryWidget::dataChanged);
-    QDateTime when = noon;
-    if (full)
-        battery.addFullEntry(when, 1, 2, notify);
-    else
-        battery.addSimpleEntry(when, notify);
-    QCOMPARE(changed.count(), notify ? 1 : 0);
-}
-
-void BatteryWidgetTest::theListsAreCompleteWhenTheChangeIsAnnounced()
-{
-    BatteryWidget battery;
-    int announced = 0;
-    connect(&battery, &BatteryWidget::dataChanged, this, [&] {
-        ++announced;
-        QCOMPARE(battery.getDates().size(), 1);
-        QCOMPARE(battery.getDischarges().size(), 1);
-        QCOMPARE(battery.getCurrents().size(), 1);
-        QCOMPARE(battery.getBatteryLastMaxCurrent(), 7U);
-        QCOMPARE(labelText(battery, "lbl_maxCurrent"), QStringLiteral("0.7A"));
-    });
-    QDateTime when = noon;
-    battery.addFullEntry(when, 1, 7, true);
-    QCOMPARE(announced, 1);
-}
-
-void BatteryWidgetTest::theHistoryKeepsTheOrderOfRecording()
-{
-    BatteryWidget battery;
-    addEntry(battery, noon, 1, 10);
-    addEntry(battery, noon.addDays(-1), 2, 20);
-    addEntry(battery, noon, 1, 10);
-    addEntry(battery, QDateTime(), 3, 30);
-    QCOMPARE(battery.getDates(), (QList<QDateTime>{noon, noon.addDays(-1), noon, QDateTime()}));
-    QCOMPARE(battery.getDischarges(), (QList<unsigned int>{1, 2, 1, 3}));
-    QCOMPARE(battery.getCurrents(), (QList<unsigned int>{10, 20, 10, 30}));
-}
-
-void BatteryWidgetTest::theHistoryListsAreTheRecordsOwn()
-{
-    BatteryWidget battery;
-    QCOMPARE(&battery.getDates(), &battery.getDates());
-    battery.getDates().append(noon);
-    battery.getDischarges().append(5);
-    battery.getCurrents().append(6);
-    unsigned int discharged = 0;
-    unsigned int current = 0;
-    QDateTime when = noon;
-    QVERIFY(battery.getEvent(when, discharged, current));
-    QCOMPARE(discharged, 5U);
-    QCOMPARE(current, 6U);
-}
-
-void BatteryWidgetTest::anEventIsFoundByItsExactTime_data()
-{
-    QTest::addColumn<QDateTime>("when");
-    QTest::addColumn<bool>("found");
-    QTest::addColumn<unsigned int>("discharged");
-    QTest::addColumn<unsigned int>("current");
-
-    QTest::newRow("oldest") << noon << true << 10U << 100U;
-    QTest::newRow("newest") << noon.addDays(2) << true << 30U << 300U;
-    QTest::newRow("the same moment in UTC") << noon.addDays(1).toUTC() << true << 20U << 200U;
-    QTest::newRow("a millisecond early") << noon.addMSecs(-1) << false << 7U << 8U;
-    QTest::newRow("a millisecond late") << noon.addMSecs(1) << false << 7U << 8U;
-    QTest::newRow("invalid") << QDateTime() << false << 7U << 8U;
-}
-
-void BatteryWidgetTest::anEventIsFoundByItsExactTime()
-{
-    QFETCH(QDateTime, when);
-    BatteryWidget battery;
-    addEntry(battery, noon, 10, 100);
-    addEntry(battery, noon.addDays(1), 20, 200);
-    addEntry(battery, noon.addDays(2), 30, 300);
-
-    unsigned int discharged = 7;
-    unsigned int current = 8;
-    QTEST(battery.getEvent(when, discharged, current), "found");
-    QTEST(discharged, "discharged");
-    QTEST(current, "current");
-}
-
-void BatteryWidgetTest::anEmptyHistoryHoldsNoEvent()
-{
-    BatteryWidget battery;
-    QDateTime when = noon;
-    unsigned int discharged = 7;
-    unsigned int current = 8;
-    QVERIFY(!battery.getEvent(when, discharged, current));
-    QCOMPARE(discharged, 7U);
-    QCOMPARE(current, 8U);
-}
-
-void BatteryWidgetTest::theEarlierOfTwoEqualTimesWins()
-{
-    BatteryWidget battery;
-    addEntry(battery, noon.addDays(-1), 1, 10);
-    addEntry(battery, noon, 2, 20);
-    addEntry(battery, noon, 3, 30);
-    QDateTime when = noon;
-    unsigned int discharged = 0;
-    unsigned int current = 0;
-    QVERIFY(battery.getEvent(when, discharged, current));
-    QCOMPARE(discharged, 2U);
-    QCOMPARE(current, 20U);
 }
 
 void BatteryWidgetTest::theStampIsLocalTime()

@@ -4,6 +4,8 @@
 #include <QDate>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class FiguresTest : public QObject
 {
     Q_OBJECT
@@ -88,10 +90,10 @@ void FiguresTest::aTemperatureIsUnsignedOnPurpose_data()
     QTest::addColumn<int>("degrees");
     QTest::addColumn<QString>("expected");
 
-    QTest::newRow("21") << 21 << QStringLiteral(u"21°");
-    QTest::newRow("0") << 0 << QStringLiteral(u"0°");
-    QTest::newRow("-5") << -5 << QStringLiteral(u"4294967291°");
-    QTest::newRow("-99") << -99 << QStringLiteral(u"4294967197°");
+    QTest::newRow("21") << 21 << u"21°"_s;
+    QTest::newRow("0") << 0 << u"0°"_s;
+    QTest::newRow("-5") << -5 << u"4294967291°"_s;
+    QTest::newRow("-99") << -99 << u"4294967197°"_s;
 }
 
 void FiguresTest::aTemperatureIsUnsignedOnPurpose()

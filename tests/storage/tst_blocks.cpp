@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::Literals::StringLiterals;
+
 class BlocksTest : public QObject
 {
     Q_OBJECT
@@ -19,7 +21,7 @@ void BlocksTest::aFileIsReadAlikeWhereverABlockEnds_data()
     QTest::addColumn<QByteArray>("document");
     QTest::addColumn<QByteArray>("opening");
     QTest::addColumn<QByteArray>("closing");
-    const QByteArray golden = contents(QStringLiteral(GOLDEN));
+    const QByteArray golden = Test::contents(QStringLiteral(GOLDEN));
     QTest::newRow("behind white space") << golden << QByteArray() << QByteArray();
     QTest::newRow("behind a comment") << golden << QByteArray("<!--") << QByteArray("-->");
     QTest::newRow("with other line ends")
@@ -32,7 +34,7 @@ void BlocksTest::aFileIsReadAlikeWhereverABlockEnds()
     QFETCH(QByteArray, document);
     QFETCH(QByteArray, opening);
     QFETCH(QByteArray, closing);
-    const QByteArray golden = contents(QStringLiteral(GOLDEN));
+    const QByteArray golden = Test::contents(QStringLiteral(GOLDEN));
     const qsizetype root = document.indexOf("<Voltbok>");
     const qsizetype around = opening.size() + closing.size();
     QVERIFY(root > 0);
@@ -42,11 +44,11 @@ void BlocksTest::aFileIsReadAlikeWhereverABlockEnds()
     // From where the root's tag begins a block to where the block ends with the document.
     for (qsizetype before = Block - document.size(); before <= Block - root; ++before) {
         const QByteArray filling = opening + QByteArray(before - around, ' ') + closing;
-        QVERIFY(writeFile(dataFile(directory.path()), QByteArray(document).insert(root, filling)));
+        QVERIFY(Test::write(Test::dataFile(directory.path()), QByteArray(document).insert(root, filling)));
         catalogue.load(directory.path());
         catalogue.save(directory.path());
-        if (contents(dataFile(directory.path())) != golden)
-            QFAIL(qPrintable(QStringLiteral("with %1 bytes before the root").arg(root + before)));
+        if (Test::contents(Test::dataFile(directory.path())) != golden)
+            QFAIL(qPrintable(u"with %1 bytes before the root"_s.arg(root + before)));
     }
 }
 

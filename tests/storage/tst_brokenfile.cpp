@@ -2,10 +2,12 @@
 // Files that break off, are no data files or hold odd things: what stands before the fault is read, nothing
 // crashes.
 #include "tests/support/recordlists.h"
+#include "tests/support/warnings.h"
 
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
 
 class BrokenFileTest : public QObject
 {
@@ -42,9 +44,9 @@ void addBrokenFiles()
     const auto row = [](const char *tag, const QByteArray &bytes, const Expected &expected = {}) {
         QTest::newRow(tag) << bytes << expected.locations << expected.batteries << expected.models;
     };
-    const QString a = QStringLiteral("A");
-    const QString batteryA = QStringLiteral("A 0 0");
-    const QString modelM = QStringLiteral("M 0");
+    const QString a = u"A"_s;
+    const QString batteryA = u"A 0 0"_s;
+    const QString modelM = u"M 0"_s;
     const QByteArray names = "<Battery><Name>A</Name></Battery><Model><Name>M</Name></Model>";
 
     row("empty file", "");
@@ -70,9 +72,9 @@ void addBrokenFiles()
 
     row("record cut in a text", "<Voltbok><Battery><Name>A</Name><Capacity>", {{}, {batteryA}, {}});
     row("record cut in a tag", "<Voltbok><Battery><Name>A</Name><Cap", {{}, {batteryA}, {}});
-    row("record cut behind its start", "<Voltbok><Model>", {{}, {}, {QStringLiteral(" 0")}});
+    row("record cut behind its start", "<Voltbok><Model>", {{}, {}, {u" 0"_s}});
     row("record cut in its start", "<Voltbok>" + names + "<Battery><Name>B</Name></Battery><Mod",
-        {{}, {batteryA, QStringLiteral("B 0 0")}, {modelM}});
+        {{}, {batteryA, u"B 0 0"_s}, {modelM}});
     row("an end tag that does not match", "<Voltbok><Battery><Name>A</Battery><Battery/></Voltbok>",
         {{}, {batteryA}, {}});
     row("records before and behind a fault", "<Voltbok>" + names + "<&>" + names + "</Voltbok>",
@@ -89,10 +91,10 @@ void addBrokenFiles()
         "<!DOCTYPE Voltbok [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;&a;&a;&a;&a;&a;&a;&a;\">"
         "<!ENTITY c \"&b;&b;&b;&b;&b;&b;&b;&b;&b;&b;\"><!ENTITY d \"&c;&c;&c;&c;&c;&c;&c;&c;&c;&c;\">]>"
         "<Voltbok><Battery><Cycles>5</Cycles><Name>&d;</Name></Battery></Voltbok>",
-        {{}, {QStringLiteral(" 0 5")}, {}});
+        {{}, {u" 0 5"_s}, {}});
     row("an entity of its own",
         "<!DOCTYPE Voltbok [<!ENTITY a \"&a;\">]><Voltbok><Battery><Name>&a;</Name></Battery></Voltbok>",
-        {{}, {QStringLiteral(" 0 0")}, {}});
+        {{}, {u" 0 0"_s}, {}});
     row("a control character",
         "<Voltbok><Battery><Name>A</Name><Cycles>\x01</Cycles></Battery><Battery/></Voltbok>",
         {{}, {batteryA}, {}});
@@ -116,25 +118,25 @@ void addBrokenFiles()
     row("history cut in an entry",
         "<Voltbok><Battery><Name>A</Name><Data><Cycle Discharged=\"1\" Current=\"2\"/><Cycle "
         "Discharged=\"3\" Cur",
-        {{}, {QStringLiteral("A 0 0 -1")}, {}});
+        {{}, {u"A 0 0 -1"_s}, {}});
     row("history cut behind an entry's slash",
         "<Voltbok><Battery><Name>A</Name><Data><Cycle Discharged=\"1\"/><Cycle Discharged=\"3\"/",
-        {{}, {QStringLiteral("A 0 0 -1")}, {}});
+        {{}, {u"A 0 0 -1"_s}, {}});
     row("log cut behind its start", "<Voltbok><Model><Name>M</Name><FlightLog>", {{}, {}, {modelM}});
     row("log cut in an entry",
         "<Voltbok><Model><Name>M</Name><FlightLog><LogData Notes=\"n\"/><LogData Notes=\"o\" ",
-        {{}, {}, {QStringLiteral("M 0 n")}});
+        {{}, {}, {u"M 0 n"_s}});
     row("a broken entry after a good one",
         "<Voltbok><Model><Name>M</Name><FlightLog><LogData Notes=\"n\"/><LogData "
         "Notes=\"<\"/></FlightLog></Model></Voltbok>",
-        {{}, {}, {QStringLiteral("M 0 n")}});
+        {{}, {}, {u"M 0 n"_s}});
 }
 
 } // namespace
 
 void BrokenFileTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
+    Test::failOnWarnings();
 }
 
 void BrokenFileTest::whatStandsBeforeTheFaultIsRead_data()
@@ -146,13 +148,13 @@ void BrokenFileTest::whatStandsBeforeTheFaultIsRead()
 {
     QFETCH(QByteArray, bytes);
     QTemporaryDir directory;
-    QVERIFY(writeFile(dataFile(directory.path()), bytes));
+    QVERIFY(Test::write(Test::dataFile(directory.path()), bytes));
     RecordLists catalogue;
     catalogue.load(directory.path());
     QTEST(QStringList(catalogue.locations), "locations");
     QTEST(catalogue.batterySummary(), "batteries");
     QTEST(catalogue.modelSummary(), "models");
-    QCOMPARE(contents(dataFile(directory.path())), bytes); // and the file is not touched
+    QCOMPARE(Test::contents(Test::dataFile(directory.path())), bytes); // and the file is not touched
 }
 
 void BrokenFileTest::whatWasReadFromABrokenFileIsSavedWhole_data()
@@ -164,17 +166,17 @@ void BrokenFileTest::whatWasReadFromABrokenFileIsSavedWhole()
 {
     QFETCH(QByteArray, bytes);
     QTemporaryDir directory;
-    QVERIFY(writeFile(dataFile(directory.path()), bytes));
+    QVERIFY(Test::write(Test::dataFile(directory.path()), bytes));
     RecordLists catalogue;
     catalogue.load(directory.path());
     catalogue.save(directory.path());
-    const QByteArray first = contents(dataFile(directory.path()));
+    const QByteArray first = Test::contents(Test::dataFile(directory.path()));
     catalogue.load(directory.path());
     QTEST(QStringList(catalogue.locations), "locations");
     QTEST(catalogue.batterySummary(), "batteries");
     QTEST(catalogue.modelSummary(), "models");
     catalogue.save(directory.path());
-    QCOMPARE(contents(dataFile(directory.path())), first);
+    QCOMPARE(Test::contents(Test::dataFile(directory.path())), first);
 }
 
 void BrokenFileTest::nullCharactersAreInNoTextThatIsRead()
@@ -187,19 +189,18 @@ void BrokenFileTest::nullCharactersAreInNoTextThatIsRead()
         <Model><Name>M&b^c;</Name><Type>T&b^c;</Type><Notes>N&b^c;</Notes><Battery>A&b^c;</Battery>
         <FlightLog><LogData Location="L&b^c;" Notes="N&b^c;"/></FlightLog></Model></Voltbok>)";
     QTemporaryDir directory;
-    QVERIFY(writeFile(dataFile(directory.path()), bytes.replace('^', '\0')));
+    QVERIFY(Test::write(Test::dataFile(directory.path()), bytes.replace('^', '\0')));
     RecordLists catalogue;
     for (const char *reading : {"what was found", "what was saved"}) {
         catalogue.load(directory.path());
-        QVERIFY2(catalogue.locations == QStringList(QStringLiteral("A&bc;")), reading);
-        QCOMPARE(catalogue.batterySummary(), QStringList(QStringLiteral("A 0 0")));
+        QVERIFY2(catalogue.locations == QStringList(u"A&bc;"_s), reading);
+        QCOMPARE(catalogue.batterySummary(), QStringList(u"A 0 0"_s));
         QCOMPARE(catalogue.models.size(), 1);
         ModelWidget &model = *catalogue.models.constFirst();
-        QCOMPARE(model.getModelName() + model.getModelType() + model.getAdditionalNotes(),
-                 QStringLiteral("MTN"));
-        QCOMPARE(model.getBatteries(), QStringList(QStringLiteral("A")));
-        QCOMPARE(model.getLogData().constFirst().location, QStringLiteral("L&bc;"));
-        QCOMPARE(model.getLogData().constFirst().notes, QStringLiteral("N&bc;"));
+        QCOMPARE(model.getModelName() + model.getModelType() + model.getAdditionalNotes(), u"MTN"_s);
+        QCOMPARE(model.getBatteries(), QStringList(u"A"_s));
+        QCOMPARE(model.getLogData().constFirst().location, u"L&bc;"_s);
+        QCOMPARE(model.getLogData().constFirst().notes, u"N&bc;"_s);
         catalogue.save(directory.path());
     }
 }
@@ -207,9 +208,9 @@ void BrokenFileTest::nullCharactersAreInNoTextThatIsRead()
 void BrokenFileTest::aFileWithAnyByteChangedIsReadToAnEnd()
 {
     QTemporaryDir directory;
-    const QString path = dataFile(directory.path());
-    const QByteArray bytes = contents(QStringLiteral(GOLDEN));
-    QVERIFY(writeFile(path, bytes));
+    const QString path = Test::dataFile(directory.path());
+    const QByteArray bytes = Test::contents(QStringLiteral(GOLDEN));
+    QVERIFY(Test::write(path, bytes));
     RecordLists whole;
     whole.load(directory.path());
     const QStringList batteries = whole.batterySummary();
@@ -219,7 +220,7 @@ void BrokenFileTest::aFileWithAnyByteChangedIsReadToAnEnd()
     for (qsizetype i = bytes.indexOf("<Voltbok>"); i < bytes.size(); ++i) {
         QByteArray changed = bytes;
         changed[i] = odd.at(i % odd.size());
-        QVERIFY(writeFile(path, changed));
+        QVERIFY(Test::write(path, changed));
         read.load(directory.path());
         // A byte that spoils a character spoils the block it was read in.
         const bool decodable = static_cast<uchar>(bytes.at(i)) < 0x80;
@@ -229,10 +230,10 @@ void BrokenFileTest::aFileWithAnyByteChangedIsReadToAnEnd()
         QVERIFY(read.historiesAreParallel());
 
         read.save(directory.path());
-        const QByteArray saved = contents(path);
+        const QByteArray saved = Test::contents(path);
         read.load(directory.path());
         read.save(directory.path());
-        QCOMPARE(contents(path), saved);
+        QCOMPARE(Test::contents(path), saved);
     }
 }
 
@@ -257,7 +258,7 @@ void BrokenFileTest::deepAndWideFilesAreReadToAnEnd()
 {
     QFETCH(QByteArray, body);
     QTemporaryDir directory;
-    QVERIFY(writeFile(dataFile(directory.path()), document(body)));
+    QVERIFY(Test::write(Test::dataFile(directory.path()), document(body)));
     RecordLists catalogue;
     catalogue.load(directory.path());
     QTEST(int(catalogue.batteries.size()), "batteryCount");

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // When the data processor reads and writes, and what it leaves behind.
 #include "tests/support/recordlists.h"
+#include "tests/support/warnings.h"
 
 #include <QFileInfo>
 #include <QMetaObject>
-#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <ctime>
+using namespace Qt::Literals::StringLiterals;
 
 class DataProcessorTest : public QObject
 {
@@ -33,59 +33,19 @@ private Q_SLOTS:
     void equalNamesAreDifferentRecords();
     void loadingACardShowsItsFigures();
     void loadingACardChangesNothingOfIt();
-    void whatCannotBeOpenedLoadsNothing_data();
-    void whatCannotBeOpenedLoadsNothing();
-    void whatCannotBeOpenedIsNotWritten();
-    void aSaveAfterAFailedOneWorks();
-    void aFullDiskCostsOnlyThatSave();
-    void aVanishedDirectoryIsCreatedAgain();
-    void aTextThatXmlCannotHoldCostsOnlyItself();
-    void aMalformedFileDoesNotTroubleTheNextLoad();
     void theLoaderLetsGoOfTheFile();
-    void everyRealTimeOfAClockChangeIsKept_data();
-    void everyRealTimeOfAClockChangeIsKept();
     void aWholeSeasonSurvives();
 };
 
 namespace {
 
-const QString packA = QStringLiteral("Pack A");
-
-/** Sets the time zone of this process, and the one before it again at the end. */
-class TimeZone
-{
-public:
-    explicit TimeZone(const QByteArray &name)
-        : before(qgetenv("TZ"))
-    {
-        set(name);
-    }
-    ~TimeZone() { set(before); }
-    Q_DISABLE_COPY_MOVE(TimeZone)
-
-private:
-    static void set(const QByteArray &name)
-    {
-        qputenv("TZ", name);
-        tzset();
-    }
-
-    QByteArray before;
-};
-
-QStringList asTheClocksShow(const QList<QDateTime> &moments)
-{
-    QStringList texts;
-    for (const QDateTime &moment : moments)
-        texts.append(moment.toString(Qt::ISODate));
-    return texts;
-}
+const QString packA = u"Pack A"_s;
 
 } // namespace
 
 void DataProcessorTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
+    Test::failOnWarnings();
 }
 
 void DataProcessorTest::aNewProcessorHasAnEmptyBasePathAndItsParent()
@@ -104,8 +64,8 @@ void DataProcessorTest::namingTheBasePathTouchesNothing()
 {
     QTemporaryDir directory;
     DataProcessor processor;
-    processor.setBasePath(directory.filePath(QStringLiteral("new")));
-    QCOMPARE(processor.basePath, directory.filePath(QStringLiteral("new")));
+    processor.setBasePath(directory.filePath(u"new"_s));
+    QCOMPARE(processor.basePath, directory.filePath(u"new"_s));
     QVERIFY(QDir(directory.path()).isEmpty());
 }
 
@@ -117,7 +77,7 @@ void DataProcessorTest::withoutABasePathNothingIsWritten()
     RecordLists catalogue;
     catalogue.addBattery(packA);
     catalogue.save(QString());
-    catalogue.save(QStringLiteral(""));
+    catalogue.save(u""_s);
     QVERIFY(QDir::setCurrent(before));
     QVERIFY(QDir(directory.path()).isEmpty());
 }
@@ -140,11 +100,11 @@ void DataProcessorTest::withoutABasePathTheWorkingDirectoryIsRead()
 void DataProcessorTest::theFirstSaveCreatesTheDirectoryWithItsParents()
 {
     QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("a/b c/ö"));
+    const QString path = directory.filePath(u"a/b c/ö"_s);
     RecordLists catalogue;
-    catalogue.locations = {QStringLiteral("Field")};
+    catalogue.locations = {u"Field"_s};
     catalogue.save(path);
-    QVERIFY(QFileInfo::exists(dataFile(path)));
+    QVERIFY(QFileInfo::exists(Test::dataFile(path)));
     RecordLists read;
     read.load(path);
     QCOMPARE(read.locations, catalogue.locations);
@@ -158,7 +118,7 @@ void DataProcessorTest::aSaveWritesOneFileAndNoOther()
     catalogue.save(directory.path());
     catalogue.save(directory.path());
     QCOMPARE(QDir(directory.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
-             QStringList{QStringLiteral("voltbok.xml")});
+             QStringList{u"voltbok.xml"_s});
 }
 
 void DataProcessorTest::aShorterCatalogueLeavesNothingOfALongerOne()
@@ -166,26 +126,26 @@ void DataProcessorTest::aShorterCatalogueLeavesNothingOfALongerOne()
     QTemporaryDir directory;
     RecordLists catalogue;
     catalogue.save(directory.path());
-    const QByteArray empty = contents(dataFile(directory.path()));
+    const QByteArray empty = Test::contents(Test::dataFile(directory.path()));
     for (int i = 0; i < 50; ++i)
         catalogue.locations.append(QString::number(i));
     catalogue.save(directory.path());
-    QVERIFY(contents(dataFile(directory.path())).size() > empty.size());
+    QVERIFY(Test::contents(Test::dataFile(directory.path())).size() > empty.size());
     catalogue.clear();
     catalogue.save(directory.path());
-    QCOMPARE(contents(dataFile(directory.path())), empty);
+    QCOMPARE(Test::contents(Test::dataFile(directory.path())), empty);
 }
 
 void DataProcessorTest::aSaveChangesNoRecordAndNoList()
 {
     QTemporaryDir directory;
     RecordLists catalogue;
-    catalogue.locations = {QStringLiteral("Field"), QStringLiteral("Field")};
+    catalogue.locations = {u"Field"_s, u"Field"_s};
     BatteryWidget *battery = catalogue.addBattery(packA);
     battery->setBatteryCharged(true, false);
     QDateTime when(QDate(2026, 7, 1), QTime(12, 0, 0, 500));
     battery->addFullEntry(when, 1, 2, false);
-    catalogue.addModel(QStringLiteral("M"))->addBattery(packA);
+    catalogue.addModel(u"M"_s)->addBattery(packA);
     QSignalSpy batteryChanged(battery, &BatteryWidget::dataChanged);
     QSignalSpy modelChanged(catalogue.models.first(), &ModelWidget::dataChanged);
     const QStringList batteries = catalogue.batterySummary();
@@ -217,16 +177,16 @@ void DataProcessorTest::oneProcessorSavesAgainAndAgain()
             QCOMPARE(read, catalogue.locations);
         }
     }
-    QCOMPARE(contents(dataFile(first.path())), contents(dataFile(second.path())));
+    QCOMPARE(Test::contents(Test::dataFile(first.path())), Test::contents(Test::dataFile(second.path())));
 }
 
 void DataProcessorTest::loadersAppendAndLookAtNothing()
 {
     QTemporaryDir directory;
     RecordLists catalogue;
-    catalogue.locations = {QStringLiteral("Field")};
+    catalogue.locations = {u"Field"_s};
     catalogue.addBattery(packA);
-    catalogue.addModel(QStringLiteral("M"));
+    catalogue.addModel(u"M"_s);
     catalogue.save(directory.path());
 
     DataProcessor processor;
@@ -272,12 +232,12 @@ void DataProcessorTest::theLocationsTellWhetherTheListHoldsAny()
     QFETCH(bool, filled);
     QTemporaryDir directory;
     if (!bytes.isNull())
-        QVERIFY(writeFile(dataFile(directory.path()), bytes));
+        QVERIFY(Test::write(Test::dataFile(directory.path()), bytes));
     DataProcessor processor;
     processor.setBasePath(directory.path());
     QList<QString> locations;
     if (filled)
-        locations.append(QStringLiteral("before"));
+        locations.append(u"before"_s);
     QTEST(processor.getLocationsFromData(locations), "expected");
 }
 
@@ -286,7 +246,7 @@ void DataProcessorTest::newRecordsHaveNoParent()
     QTemporaryDir directory;
     RecordLists catalogue;
     catalogue.addBattery(packA);
-    catalogue.addModel(QStringLiteral("M"));
+    catalogue.addModel(u"M"_s);
     catalogue.save(directory.path());
     catalogue.load(directory.path());
     QCOMPARE(catalogue.batteries.first()->parent(), nullptr);
@@ -302,13 +262,12 @@ void DataProcessorTest::equalNamesAreDifferentRecords()
     RecordLists catalogue;
     catalogue.addBattery(packA)->setBatteryCapacity(1);
     catalogue.addBattery(packA)->setBatteryCapacity(2);
-    catalogue.addModel(QStringLiteral("M"))->setModelWeight(1);
-    catalogue.addModel(QStringLiteral("M"))->setModelWeight(2);
+    catalogue.addModel(u"M"_s)->setModelWeight(1);
+    catalogue.addModel(u"M"_s)->setModelWeight(2);
     catalogue.save(directory.path());
     catalogue.load(directory.path());
-    QCOMPARE(catalogue.batterySummary(),
-             (QStringList{QStringLiteral("Pack A 1 0"), QStringLiteral("Pack A 2 0")}));
-    QCOMPARE(catalogue.modelSummary(), (QStringList{QStringLiteral("M 1"), QStringLiteral("M 2")}));
+    QCOMPARE(catalogue.batterySummary(), (QStringList{u"Pack A 1 0"_s, u"Pack A 2 0"_s}));
+    QCOMPARE(catalogue.modelSummary(), (QStringList{u"M 1"_s, u"M 2"_s}));
 }
 
 void DataProcessorTest::loadingACardShowsItsFigures()
@@ -335,13 +294,13 @@ void DataProcessorTest::loadingACardShowsItsFigures()
             .toString();
     };
     QCOMPARE(text("lbl_name"), packA);
-    QCOMPARE(text("lbl_capacity"), QStringLiteral("2200mAh"));
-    QCOMPARE(text("lbl_rate"), QStringLiteral("30C/1.5C"));
-    QCOMPARE(text("lbl_cycles"), QStringLiteral("7"));
-    QCOMPARE(text("lbl_dateTime"), QStringLiteral("Sun Nov 15 12:04:22 2026"));
-    QCOMPARE(text("lbl_discharged"), QStringLiteral("1760mAh"));
-    QCOMPARE(text("lbl_maxCurrent"), QStringLiteral("12.5A"));
-    QCOMPARE(text("pushButton"), QStringLiteral("Charged"));
+    QCOMPARE(text("lbl_capacity"), u"2200mAh"_s);
+    QCOMPARE(text("lbl_rate"), u"30C/1.5C"_s);
+    QCOMPARE(text("lbl_cycles"), u"7"_s);
+    QCOMPARE(text("lbl_dateTime"), u"Sun Nov 15 12:04:22 2026"_s);
+    QCOMPARE(text("lbl_discharged"), u"1760mAh"_s);
+    QCOMPARE(text("lbl_maxCurrent"), u"12.5A"_s);
+    QCOMPARE(text("pushButton"), u"Charged"_s);
 }
 
 void DataProcessorTest::loadingACardChangesNothingOfIt()
@@ -354,139 +313,16 @@ void DataProcessorTest::loadingACardChangesNothingOfIt()
     catalogue.save(directory.path());
     for (int i = 0; i < 3; ++i) {
         catalogue.load(directory.path());
-        QCOMPARE(catalogue.batterySummary(), QStringList{QStringLiteral("Pack A 0 4 charged")});
+        QCOMPARE(catalogue.batterySummary(), QStringList{u"Pack A 0 4 charged"_s});
         QVERIFY(!catalogue.batteries.first()->getBatteryLastUpdated().isValid());
         catalogue.save(directory.path());
     }
 }
 
-void DataProcessorTest::whatCannotBeOpenedLoadsNothing_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::newRow("no file") << QString();
-    QTest::newRow("no directory") << QStringLiteral("missing");
-    QTest::newRow("a directory in the file's place") << QStringLiteral("occupied");
-    QTest::newRow("a file in the directory's place") << QStringLiteral("file");
-}
-
-void DataProcessorTest::whatCannotBeOpenedLoadsNothing()
-{
-    QFETCH(QString, path);
-    QTemporaryDir directory;
-    QVERIFY(QDir(directory.path()).mkpath(QStringLiteral("occupied/voltbok.xml")));
-    QVERIFY(writeFile(directory.filePath(QStringLiteral("file")), "x"));
-    RecordLists catalogue;
-    catalogue.load(directory.filePath(path));
-    QVERIFY(catalogue.locations.isEmpty());
-    QVERIFY(catalogue.batteries.isEmpty());
-    QVERIFY(catalogue.models.isEmpty());
-}
-
-void DataProcessorTest::whatCannotBeOpenedIsNotWritten()
-{
-    QTemporaryDir directory;
-    const QString occupied = directory.filePath(QStringLiteral("voltbok.xml"));
-    QVERIFY(QDir().mkpath(occupied));
-    const QString file = directory.filePath(QStringLiteral("file"));
-    QVERIFY(writeFile(file, "x"));
-    RecordLists catalogue;
-    catalogue.save(directory.path());
-    catalogue.save(file);
-    catalogue.save(file + QStringLiteral("/below"));
-    QVERIFY(QFileInfo(occupied).isDir());
-    QVERIFY(QDir(occupied).isEmpty());
-    QCOMPARE(contents(file), QByteArray("x"));
-}
-
-void DataProcessorTest::aSaveAfterAFailedOneWorks()
-{
-    QTemporaryDir directory;
-    const QString occupied = directory.filePath(QStringLiteral("voltbok.xml"));
-    QVERIFY(QDir().mkpath(occupied));
-    RecordLists catalogue;
-    catalogue.addBattery(packA);
-    DataProcessor processor;
-    processor.setBasePath(directory.path());
-    processor.addData(catalogue.batteries, catalogue.models, catalogue.locations);
-    QVERIFY(QFileInfo(occupied).isDir());
-
-    QVERIFY(QDir().rmdir(occupied));
-    processor.addData(catalogue.batteries, catalogue.models, catalogue.locations);
-    RecordLists read;
-    read.load(directory.path());
-    QCOMPARE(read.batterySummary(), catalogue.batterySummary());
-}
-
-void DataProcessorTest::aFullDiskCostsOnlyThatSave()
-{
-    QTemporaryDir directory;
-    const QString path = dataFile(directory.path());
-    // Where there is such a device, every write to the file fails; elsewhere the save works twice.
-    if (QFileInfo::exists(QStringLiteral("/dev/full")))
-        QVERIFY(QFile::link(QStringLiteral("/dev/full"), path));
-    RecordLists catalogue;
-    catalogue.locations = {QString(100000, QLatin1Char('x'))};
-    DataProcessor processor;
-    processor.setBasePath(directory.path());
-    processor.addData(catalogue.batteries, catalogue.models, catalogue.locations);
-    QVERIFY(QFile::remove(path));
-
-    processor.addData(catalogue.batteries, catalogue.models, catalogue.locations);
-    QList<QString> read;
-    QVERIFY(processor.getLocationsFromData(read));
-    QCOMPARE(read, catalogue.locations);
-}
-
-void DataProcessorTest::aVanishedDirectoryIsCreatedAgain()
-{
-    QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("data"));
-    RecordLists catalogue;
-    catalogue.addBattery(packA);
-    DataProcessor processor;
-    processor.setBasePath(path);
-    processor.addData(catalogue.batteries, catalogue.models, catalogue.locations);
-    const QByteArray bytes = contents(dataFile(path));
-    QVERIFY(QDir(path).removeRecursively());
-    processor.addData(catalogue.batteries, catalogue.models, catalogue.locations);
-    QCOMPARE(contents(dataFile(path)), bytes);
-}
-
-void DataProcessorTest::aTextThatXmlCannotHoldCostsOnlyItself()
-{
-    QTemporaryDir directory;
-    RecordLists catalogue;
-    catalogue.locations = {QString(QChar(0xD800)), QString(QChar(0)), QStringLiteral("Field")};
-    catalogue.addBattery(packA);
-    DataProcessor processor;
-    processor.setBasePath(directory.path());
-    for (int i = 0; i < 2; ++i) {
-        processor.addData(catalogue.batteries, catalogue.models, catalogue.locations);
-        RecordLists read;
-        read.load(directory.path());
-        QCOMPARE(read.locations, (QList<QString>{QString(), QString(), QStringLiteral("Field")}));
-        QCOMPARE(read.batterySummary(), QStringList{QStringLiteral("Pack A 0 0")});
-    }
-}
-
-void DataProcessorTest::aMalformedFileDoesNotTroubleTheNextLoad()
-{
-    QTemporaryDir directory;
-    const QString path = dataFile(directory.path());
-    DataProcessor processor;
-    processor.setBasePath(directory.path());
-    QList<QString> locations;
-    QVERIFY(writeFile(path, "<Voltbok><Locations><Location Name=\"A\"/><"));
-    QVERIFY(processor.getLocationsFromData(locations));
-    QVERIFY(writeFile(path, document("<Locations><Location Name=\"B\"/></Locations>")));
-    QVERIFY(processor.getLocationsFromData(locations));
-    QCOMPARE(locations, (QList<QString>{QStringLiteral("A"), QStringLiteral("B")}));
-}
-
 void DataProcessorTest::theLoaderLetsGoOfTheFile()
 {
     QTemporaryDir directory;
-    QVERIFY(writeFile(dataFile(directory.path()), document("<Battery/>")));
+    QVERIFY(Test::write(Test::dataFile(directory.path()), document("<Battery/>")));
     DataProcessor processor;
     processor.setBasePath(directory.path());
     QList<QString> locations;
@@ -499,68 +335,29 @@ void DataProcessorTest::theLoaderLetsGoOfTheFile()
     QVERIFY(!processor.writer);
 }
 
-void DataProcessorTest::everyRealTimeOfAClockChangeIsKept_data()
-{
-    QTest::addColumn<QByteArray>("zone");
-    QTest::addColumn<QDate>("day");
-    QTest::newRow("spring in Berlin") << QByteArray("Europe/Berlin") << QDate(2026, 3, 29);
-    QTest::newRow("autumn in Berlin") << QByteArray("Europe/Berlin") << QDate(2026, 10, 25);
-    QTest::newRow("spring on Lord Howe Island") << QByteArray("Australia/Lord_Howe") << QDate(2026, 10, 4);
-    QTest::newRow("midnight in Santiago") << QByteArray("America/Santiago") << QDate(2026, 9, 6);
-    QTest::newRow("the date line in Samoa") << QByteArray("Pacific/Apia") << QDate(2011, 12, 29);
-}
-
-void DataProcessorTest::everyRealTimeOfAClockChangeIsKept()
-{
-    QFETCH(QByteArray, zone);
-    QFETCH(QDate, day);
-    const TimeZone timeZone(zone);
-    QTemporaryDir directory;
-    RecordLists catalogue;
-    BatteryWidget *battery = catalogue.addBattery(packA);
-    ModelWidget *model = catalogue.addModel(QStringLiteral("M"));
-    for (int minutes = 0; minutes < 48 * 60; minutes += 15) {
-        QDateTime when(day.addDays(minutes / (24 * 60)), QTime(minutes / 60 % 24, minutes % 60));
-        battery->addFullEntry(when, static_cast<unsigned int>(minutes), 0, false);
-        LogData flight;
-        flight.date = when;
-        model->addLogData(flight);
-    }
-    catalogue.save(directory.path());
-    RecordLists read;
-    read.load(directory.path());
-    // What the clocks showed: of an hour that comes twice the file does not say which is meant. A time that
-    // they left out is invalid, with a newer Qt another one, before and after.
-    QCOMPARE(asTheClocksShow(read.batteries.first()->getDates()), asTheClocksShow(battery->getDates()));
-    QCOMPARE(read.models.first()->getLogData().size(), model->getLogData().size());
-    for (qsizetype i = 0; i < battery->getDates().size(); ++i)
-        QCOMPARE(read.models.first()->getLogData().at(i).date, read.batteries.first()->getDates().at(i));
-}
-
 void DataProcessorTest::aWholeSeasonSurvives()
 {
     QTemporaryDir directory;
     RecordLists catalogue;
     for (int i = 0; i < 20; ++i) {
-        BatteryWidget *battery = catalogue.addBattery(QStringLiteral("Pack %1").arg(i));
-        ModelWidget *model = catalogue.addModel(QStringLiteral("Model %1").arg(i));
+        BatteryWidget *battery = catalogue.addBattery(u"Pack %1"_s.arg(i));
+        ModelWidget *model = catalogue.addModel(u"Model %1"_s.arg(i));
         model->addBattery(battery->getBatteryName());
         for (int entry = 0; entry < 100; ++entry) {
             QDateTime when(QDate(2026, 1, 1).addDays(entry), QTime(i, 0));
             battery->addFullEntry(when, static_cast<unsigned int>(entry * i), 4550, false);
-            LogData flight{when, QTime(0, i, 30), QStringLiteral("Field"), i - 10,
-                           QStringLiteral("flight %1").arg(entry)};
+            LogData flight{when, QTime(0, i, 30), u"Field"_s, i - 10, u"flight %1"_s.arg(entry)};
             model->addLogData(flight);
         }
     }
     catalogue.save(directory.path());
-    const QByteArray first = contents(dataFile(directory.path()));
+    const QByteArray first = Test::contents(Test::dataFile(directory.path()));
     RecordLists read;
     read.load(directory.path());
     QCOMPARE(read.batterySummary(), catalogue.batterySummary());
     QCOMPARE(read.modelSummary(), catalogue.modelSummary());
     read.save(directory.path());
-    QCOMPARE(contents(dataFile(directory.path())), first);
+    QCOMPARE(Test::contents(Test::dataFile(directory.path())), first);
 }
 
 QTEST_MAIN(DataProcessorTest)

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever the hand-written forms of dates and times give must be what Qt::TextDate gives.
 #include "storage/textdate.h"
+#include "tests/support/zone.h"
 
 #include <QTest>
-
-#include <time.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -39,7 +38,6 @@ class TextDateTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void cleanup();
 
     void everyYearIsWrittenAndReadAsQtDoes();
     void everySecondIsWrittenAndReadAsQtDoes();
@@ -52,16 +50,7 @@ private Q_SLOTS:
     void oddDateTimeTextsAreReadAsQtDoes();
     void oddTimeTextsAreReadAsQtDoes_data();
     void oddTimeTextsAreReadAsQtDoes();
-
-private:
-    const QByteArray zone = qgetenv("TZ");
 };
-
-void TextDateTest::cleanup()
-{
-    qputenv("TZ", zone);
-    tzset();
-}
 
 void TextDateTest::everyYearIsWrittenAndReadAsQtDoes()
 {
@@ -107,8 +96,7 @@ void TextDateTest::changesOfTheClockAreWrittenAndReadAsQtDoes()
     QFETCH(QByteArray, zoneName);
     QFETCH(int, firstYear);
     QFETCH(int, lastYear);
-    qputenv("TZ", zoneName);
-    tzset();
+    const Zone there(zoneName);
     for (QDate day(firstYear, 1, 1); day.year() <= lastYear; day = day.addDays(1)) {
         for (const QTime &time : {QTime(0, 0), QTime(0, 30), QTime(1, 15), QTime(1, 45), QTime(2, 15),
                                   QTime(2, 45), QTime(3, 30), QTime(23, 59, 59)}) {

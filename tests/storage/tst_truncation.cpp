@@ -4,10 +4,12 @@
 //
 // The sample logbook is large and cut at every 101st byte; VOLTBOK_TRUNCATION_STEP=1 cuts it at every one.
 #include "tests/support/recordlists.h"
+#include "tests/support/warnings.h"
 
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
 
 class TruncationTest : public QObject
 {
@@ -24,8 +26,7 @@ namespace {
 QByteArray season(const QString &directory)
 {
     RecordLists catalogue;
-    catalogue.locations = {QStringLiteral("Long Meadow"), QStringLiteral(u"Hütte & <Hang>"),
-                           QStringLiteral("Field")};
+    catalogue.locations = {u"Long Meadow"_s, u"Hütte & <Hang>"_s, u"Field"_s};
     for (const char *name : {"Pack A", "Pack \"B\""}) {
         BatteryWidget *battery = catalogue.addBattery(QLatin1String(name));
         battery->setBatteryCapacity(2200);
@@ -37,15 +38,15 @@ QByteArray season(const QString &directory)
     }
     for (const char *name : {"MyHeli", "Other"}) {
         ModelWidget *model = catalogue.addModel(QLatin1String(name));
-        model->addBattery(QStringLiteral("Pack A"));
+        model->addBattery(u"Pack A"_s);
         for (int i = 0; i < 17; ++i) {
-            LogData flight{QDateTime(QDate(2026, 4, 1).addDays(i), QTime(14, 0)), QTime(0, 7, i),
-                           QStringLiteral("Field"), 10 - i, QStringLiteral("flight%1").arg(i)};
+            LogData flight{QDateTime(QDate(2026, 4, 1).addDays(i), QTime(14, 0)), QTime(0, 7, i), u"Field"_s,
+                           10 - i, u"flight%1"_s.arg(i)};
             model->addLogData(flight);
         }
     }
     catalogue.save(directory);
-    return contents(dataFile(directory));
+    return Test::contents(Test::dataFile(directory));
 }
 
 /** The number of whole tags that begin with @p start; a cut can only spoil the last one. */
@@ -68,7 +69,7 @@ QStringList allFlights(const RecordLists &catalogue)
 {
     QStringList all;
     for (ModelWidget *model : catalogue.models) {
-        for (const LogData &flight : qAsConst(model->getLogData()))
+        for (const LogData &flight : std::as_const(model->getLogData()))
             all.append(flight.notes);
     }
     return all;
@@ -85,17 +86,17 @@ void TruncationTest::aFileCutAnywhereKeepsWhatStandsBeforeTheCut_data()
                          ? qEnvironmentVariableIntValue("VOLTBOK_TRUNCATION_STEP")
                          : 101;
     QTest::newRow("a season") << season(directory.path()) << 1;
-    QTest::newRow("the sample logbook") << contents(QStringLiteral(SAMPLE)) << step;
+    QTest::newRow("the sample logbook") << Test::contents(QStringLiteral(SAMPLE)) << step;
 }
 
 void TruncationTest::aFileCutAnywhereKeepsWhatStandsBeforeTheCut()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".")));
+    Test::failOnWarnings();
     QFETCH(QByteArray, bytes);
     QFETCH(int, step);
     QTemporaryDir directory;
-    const QString path = dataFile(directory.path());
-    QVERIFY(writeFile(path, bytes));
+    const QString path = Test::dataFile(directory.path());
+    QVERIFY(Test::write(path, bytes));
     RecordLists whole;
     whole.load(directory.path());
     const QStringList batteries = whole.batterySummary();
@@ -105,7 +106,7 @@ void TruncationTest::aFileCutAnywhereKeepsWhatStandsBeforeTheCut()
     RecordLists cut;
     for (qsizetype size = bytes.size(); size >= 0; size -= step) {
         const QByteArray rest = bytes.left(size);
-        QVERIFY(writeFile(path, rest));
+        QVERIFY(Test::write(path, rest));
         cut.load(directory.path());
 
         QCOMPARE(cut.locations, whole.locations.first(wholeTags(rest, "<Location ")));

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "storage/textdate.h"
 #include "storage/valuetext.h"
+#include "tests/support/warnings.h"
 
-#include <QRegularExpression>
 #include <QTest>
 
 #include <climits>
+
+using namespace Qt::Literals::StringLiterals;
 
 using namespace TextDate;
 using namespace ValueText;
@@ -41,7 +43,7 @@ private Q_SLOTS:
 
 void ValueTextTest::init()
 {
-    QTest::failOnWarning(QRegularExpression(QStringLiteral(".?")));
+    Test::failOnWarnings();
 }
 
 void ValueTextTest::numbersAreUnsignedDecimals_data()
@@ -90,8 +92,8 @@ void ValueTextTest::onlyOneIsTrue()
 {
     QFETCH(QString, text);
     QTEST(toBoolean(text), "value");
-    QCOMPARE(fromBoolean(true), QStringLiteral("1"));
-    QCOMPARE(fromBoolean(false), QStringLiteral("0"));
+    QCOMPARE(fromBoolean(true), u"1"_s);
+    QCOMPARE(fromBoolean(false), u"0"_s);
 }
 
 void ValueTextTest::datesAreYearMonthDay_data()
@@ -177,7 +179,7 @@ void ValueTextTest::aTimeThatTheClocksSkippedIsNotKept()
 {
     // The clocks of Kathmandu, where the tests run, went from midnight to a quarter past it. Qt takes a time
     // between for none, or for another one, depending on its age.
-    const QString text = QStringLiteral("Wed Jan 1 00:07:00 1986");
+    const QString text = u"Wed Jan 1 00:07:00 1986"_s;
     QVERIFY(fromDateTime(toDateTime(text)) != text);
 }
 
@@ -189,7 +191,7 @@ void ValueTextTest::everyDayIsReadAsItWasWritten()
         if (toDateTime(fromDateTime(when)) != when || toDate(fromDate(day)) != day)
             QFAIL(qPrintable(fromDate(day)));
     }
-    QCOMPARE(fromDate(QDate(2100, 12, 31)), QStringLiteral("2100/12/31"));
+    QCOMPARE(fromDate(QDate(2100, 12, 31)), u"2100/12/31"_s);
 }
 
 void ValueTextTest::timesHaveTwoDigitsEach_data()
@@ -208,7 +210,7 @@ void ValueTextTest::timesHaveTwoDigitsEach()
     QFETCH(QString, text);
     QCOMPARE(fromTime(time), text);
     QCOMPARE(toTime(text), time);
-    QCOMPARE(fromTime(QTime(1, 2, 3, 999)), QStringLiteral("01:02:03"));
+    QCOMPARE(fromTime(QTime(1, 2, 3, 999)), u"01:02:03"_s);
     for (const char *other : {"7:30:5x", "24:00:00", "00:60:00", "seven"})
         QVERIFY2(!toTime(QString::fromLatin1(other)).isValid(), other);
 }
@@ -232,7 +234,7 @@ void ValueTextTest::aNegativeTemperatureIsWrittenUnsignedOnPurpose()
     QFETCH(QString, text);
     QCOMPARE(fromSigned(degrees), text);
     QCOMPARE(toSigned(text), degrees);
-    QCOMPARE(toSigned(QStringLiteral("-5")), 0);
+    QCOMPARE(toSigned(u"-5"_s), 0);
 }
 
 void ValueTextTest::onlyWhatXmlCannotHoldIsDropped_data()
@@ -254,19 +256,17 @@ void ValueTextTest::onlyWhatXmlCannotHoldIsDropped_data()
                                           << "ab";
     QTest::newRow("nothing but controls") << "\x01\x02\x1f"
                                           << "";
-    QTest::newRow("delete and C1 controls stay")
-        << QStringLiteral(u"\u007f\u0085\u009f") << QStringLiteral(u"\u007f\u0085\u009f");
+    QTest::newRow("delete and C1 controls stay") << u"\u007f\u0085\u009f"_s << u"\u007f\u0085\u009f"_s;
     QTest::newRow("a pair of surrogates") << high + low << high + low;
     QTest::newRow("lone high surrogate") << high << "";
     QTest::newRow("lone low surrogate") << low << "";
-    QTest::newRow("pair the wrong way round")
-        << QStringLiteral("a") + low + high + QStringLiteral("b") << "ab";
+    QTest::newRow("pair the wrong way round") << u"a"_s + low + high + u"b"_s << "ab";
     QTest::newRow("high surrogate before a pair") << high + high + low << high + low;
     QTest::newRow("high surrogate before a letter") << high + QLatin1Char('a') << "a";
     QTest::newRow("noncharacters") << QString(QChar(0xFFFE)) + QChar(0xFFFF) + QChar(0xFFFD)
                                    << QString(QChar(0xFFFD));
     QTest::newRow("outside the first plane all stay")
-        << QStringLiteral(u"\U0001FFFE\U0010FFFF") << QStringLiteral(u"\U0001FFFE\U0010FFFF");
+        << u"\U0001FFFE\U0010FFFF"_s << u"\U0001FFFE\U0010FFFF"_s;
 }
 
 void ValueTextTest::onlyWhatXmlCannotHoldIsDropped()
@@ -283,7 +283,7 @@ void ValueTextTest::everyCodeUnitIsKeptOrDropped()
         const bool legal = code == 0x9 || code == 0xA || code == 0xD || (code >= 0x20 && code <= 0xD7FF) ||
                            (code >= 0xE000 && code <= 0xFFFD);
         const QString text = QLatin1Char('a') + QString(unit) + QLatin1Char('b');
-        if (xmlText(text) != (legal ? text : QStringLiteral("ab")))
+        if (xmlText(text) != (legal ? text : u"ab"_s))
             QFAIL(qPrintable(QString::number(code, 16)));
         kept += legal ? 1 : 0;
     }

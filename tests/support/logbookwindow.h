@@ -5,16 +5,17 @@
 #include "plugin/rotavexplugin.h"
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
+#include "tests/support/files.h"
+#include "tests/support/warnings.h"
 #include "ui_voltbokgui.h"
 
-#include <QDir>
-#include <QFile>
-#include <QRegularExpression>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include <memory>
+
+using namespace Qt::Literals::StringLiterals;
 
 /**
  * A window on show over a data file in a folder of its own, with empty preferences; for tests that use it as
@@ -23,13 +24,20 @@
 class LogbookWindow
 {
 public:
+    static constexpr QLatin1StringView ModeKey{"SETTINGS/voltbok"};
+    static constexpr QLatin1StringView ModelKey{"SETTINGS/logmodel"};
+
     LogbookWindow()
     {
-        // The offscreen platform complains of what it cannot do; whatever else is said is ours.
-        QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
+        Test::failOnWarnings();
         RotavexPlugin::rotavexSettings->clear();
         restart();
     }
+
+    /** From the next load on, every card asks for the figures of a discharge. */
+    static void storeFullMode() { RotavexPlugin::rotavexSettings->setValue(ModeKey, u"Complex"_s); }
+    /** The model that every load preselects. */
+    static void storeModel(const QVariant &name) { RotavexPlugin::rotavexSettings->setValue(ModelKey, name); }
 
     /** Another window over the same folder; the one before is deleted. */
     void restart()
@@ -44,10 +52,7 @@ public:
     /** Puts a data file into the folder and loads it. */
     void load(const QByteArray &xml)
     {
-        QFile file(filePath());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(xml);
-        file.close();
+        QVERIFY(Test::write(filePath(), xml));
         m_gui->changeStoragePath(folder());
     }
 
@@ -56,14 +61,10 @@ public:
     Ui_VoltbokGui &ui() { return *m_gui->ui; }
 
     QString folder() const { return m_folder.path(); }
-    QString filePath() const { return m_folder.filePath(QStringLiteral("voltbok.xml")); }
+    QString filePath() const { return Test::dataFile(folder()); }
 
-    /** The data file's bytes; empty when there is none. */
-    QByteArray fileBytes() const
-    {
-        QFile file(filePath());
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    /** The data file's bytes. */
+    QByteArray fileBytes() const { return Test::contents(filePath()); }
 
     /** The battery with this name; null when there is none. */
     BatteryWidget *battery(const QString &name)
@@ -82,6 +83,28 @@ public:
                 return model;
         }
         return nullptr;
+    }
+
+    QStringList batteryNames() { return namesOf(m_gui->batteryList, &BatteryWidget::getBatteryName); }
+    QStringList modelNames() { return namesOf(m_gui->modelList, &ModelWidget::getModelName); }
+
+    QList<QComboBox *> modelChoosers()
+    {
+        return {ui().cb_select_model, ui().cb_logview_model, ui().cb_model_choose_bat,
+                ui().cb_modelList_delete};
+    }
+    QList<QComboBox *> batteryChoosers()
+    {
+        return {ui().cb_batteryData, ui().cb_batteryList_delete, ui().cb_bat_choose_model};
+    }
+    QList<QComboBox *> locationChoosers() { return {ui().cb_log_location, ui().cb_location_delete}; }
+
+    static QStringList items(const QComboBox *chooser)
+    {
+        QStringList texts;
+        for (int i = 0; i < chooser->count(); ++i)
+            texts.append(chooser->itemText(i));
+        return texts;
     }
 
     /** The names of the cards on show, from top to bottom. */
@@ -106,10 +129,7 @@ public:
         QTest::mouseClick(button, Qt::LeftButton, {}, radio ? QPoint(6, button->height() / 2) : QPoint());
     }
 
-    static void clickCard(BatteryWidget *card)
-    {
-        click(card->findChild<QPushButton *>(QStringLiteral("pushButton")));
-    }
+    static void clickCard(BatteryWidget *card) { click(card->findChild<QPushButton *>(u"pushButton"_s)); }
 
     /** Replaces a field's content by typing. */
     static void type(QLineEdit *field, const QString &text)
@@ -132,6 +152,15 @@ public:
     }
 
 private:
+    template <typename Record, typename Getter>
+    static QStringList namesOf(const QList<Record *> &records, Getter getter)
+    {
+        QStringList names;
+        for (Record *record : records)
+            names.append((record->*getter)());
+        return names;
+    }
+
     QTemporaryDir m_folder;
     std::unique_ptr<VoltbokGui> m_gui;
 };

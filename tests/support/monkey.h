@@ -14,11 +14,12 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTest>
-#include <QTranslator>
 #include <QWheelEvent>
 
 #include <algorithm>
 #include <random>
+
+using namespace Qt::Literals::StringLiterals;
 
 /**
  * A user without a plan: clicks, types, turns the wheel and chooses on whatever is visible and enabled. The
@@ -56,20 +57,13 @@ public:
     QString text()
     {
         const QString texts[] = {
-            QStringLiteral("MyBattery"),
-            QStringLiteral("MyHeli"),
-            QStringLiteral("MyLocation"),
-            QStringLiteral("1"),
-            QStringLiteral("0.29"),
-            QStringLiteral("99999999999"),
-            QStringLiteral("2026-02-30"),
-            QStringLiteral("<a b=\"c\">&amp;'"),
-            QStringLiteral("]]><!--%1%2"),
-            QStringLiteral("  "),
-            QStringLiteral(u"Å\u0301🔋\u202e"),
-            QStringLiteral("\x01\x08\x0b"),
-            QStringLiteral("\r\n\t\u2028"),
-            QString(QChar(0xD800)) + QChar(0xFFFF),
+            u"MyBattery"_s,      u"MyHeli"_s,
+            u"MyLocation"_s,     u"1"_s,
+            u"0.29"_s,           u"99999999999"_s,
+            u"2026-02-30"_s,     u"<a b=\"c\">&amp;'"_s,
+            u"]]><!--%1%2"_s,    u"  "_s,
+            u"Å\u0301🔋\u202e"_s, u"\x01\x08\x0b"_s,
+            u"\r\n\t\u2028"_s,   QString(QChar(0xD800)) + QChar(0xFFFF),
             QString(300, u'x'),
         };
         return oneOf(texts);
@@ -90,9 +84,9 @@ private:
         targets.removeIf([&](const QWidget *widget) {
             const bool leadsOn = qobject_cast<const QPushButton *>(widget);
             return pages->isAncestorOf(widget) == header || (onlyButtons && !leadsOn) ||
-                   (!home && widget->objectName() == QStringLiteral("pb_home"));
+                   (!home && widget->objectName() == u"pb_home"_s);
         });
-        return targets.isEmpty() ? window.findChildren<QWidget *>(QStringLiteral("pb_options")) : targets;
+        return targets.isEmpty() ? window.findChildren<QWidget *>(u"pb_options"_s) : targets;
     }
 
     static QList<QWidget *> targetsIn(const QWidget &window)
@@ -148,12 +142,12 @@ private:
         const Qt::Key keys[] = {Qt::Key_Down, Qt::Key_Up, Qt::Key_End, Qt::Key_Return, Qt::Key_Escape};
         const Qt::Key key = oneOf(keys);
         QTest::keyClick(view ? view : &popup, key);
-        return QStringLiteral("key %1 in a popup").arg(key, 0, 16);
+        return u"key %1 in a popup"_s.arg(key, 0, 16);
     }
 
     QString click(QWidget &widget)
     {
-        const QString done = QStringLiteral("click ") + nameOf(widget);
+        const QString done = u"click "_s + nameOf(widget);
         const bool radio = widget.inherits("QRadioButton"); // its right part may be blank
         QTest::mouseClick(&widget, Qt::LeftButton, {}, radio ? QPoint(6, widget.height() / 2) : QPoint());
         return done;
@@ -162,7 +156,7 @@ private:
     QString turnWheel(QWidget &widget)
     {
         const int delta = below(2) == 0 ? 120 : -120;
-        const QString done = QStringLiteral("wheel %1 on %2").arg(delta).arg(nameOf(widget));
+        const QString done = u"wheel %1 on %2"_s.arg(delta).arg(nameOf(widget));
         const QPointF middle = widget.rect().center();
         QWheelEvent event(middle, widget.mapToGlobal(middle), {}, {0, delta}, Qt::NoButton, {},
                           Qt::NoScrollPhase, false);
@@ -177,7 +171,7 @@ private:
                                 Qt::Key_Home,      Qt::Key_End,     Qt::Key_Delete, Qt::Key_Left,
                                 Qt::Key_Backspace, Qt::Key_M,       Qt::Key_7};
         const Qt::Key key = oneOf(keys);
-        const QString done = QStringLiteral("key %1 on %2").arg(key, 0, 16).arg(nameOf(widget));
+        const QString done = u"key %1 on %2"_s.arg(key, 0, 16).arg(nameOf(widget));
         QTest::keyClick(&widget, key);
         return done;
     }
@@ -186,7 +180,7 @@ private:
     QString enter(QWidget &widget)
     {
         const QString pasted = text();
-        const QString done = QStringLiteral("enter \"%1\" in %2").arg(pasted, nameOf(widget));
+        const QString done = u"enter \"%1\" in %2"_s.arg(pasted, nameOf(widget));
         QApplication::clipboard()->setText(pasted);
         if (below(4) != 0)
             QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
@@ -195,18 +189,4 @@ private:
     }
 
     std::mt19937 m_random;
-};
-
-/** A language in which every text reads differently and every mask of zeros is one digit wider. */
-class OtherLanguage : public QTranslator
-{
-public:
-    bool isEmpty() const override { return false; }
-    QString translate(const char * /*context*/, const char *sourceText, const char * /*disambiguation*/,
-                      int /*n*/) const override
-    {
-        const QString source = QString::fromUtf8(sourceText);
-        const bool mask = !source.isEmpty() && source.count(u'0') + source.count(u'.') == source.size();
-        return mask ? QString(u'0' + source) : QStringLiteral(u"»%1«").arg(source);
-    }
 };

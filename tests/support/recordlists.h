@@ -4,10 +4,11 @@
 #include "records/batterywidget.h"
 #include "records/modelwidget.h"
 #include "storage/dataprocessor.h"
+#include "tests/support/files.h"
 
-#include <QDir>
-#include <QFile>
 #include <QStringList>
+
+using namespace Qt::Literals::StringLiterals;
 
 /** The three lists that the data processor fills and writes, with the records in them. */
 class RecordLists
@@ -65,7 +66,7 @@ public:
             QStringList words{battery->getBatteryName(), QString::number(battery->getBatteryCapacity()),
                               QString::number(battery->getBatteryCycles())};
             if (battery->getBatteryCharged())
-                words.append(QStringLiteral("charged"));
+                words.append(u"charged"_s);
             for (unsigned int discharged : battery->getDischarges())
                 words.append(QLatin1Char('-') + QString::number(discharged));
             lines.append(words.join(QLatin1Char(' ')));
@@ -102,23 +103,6 @@ public:
     QList<ModelWidget *> models;
     QList<QString> locations;
 };
-
-inline QString dataFile(const QString &directory)
-{
-    return QDir(directory).filePath(QStringLiteral("voltbok.xml"));
-}
-
-inline QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(unreadable)");
-}
-
-inline bool writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
 
 /** @p body as the content of the root element. */
 inline QByteArray document(const QByteArray &body)

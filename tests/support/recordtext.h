@@ -54,4 +54,25 @@ inline QStringList of(ModelWidget *model, qsizetype flights)
     return lines;
 }
 
+/** Batteries, and models with as many of their flights. */
+inline QStringList of(const QList<BatteryWidget *> &batteries, const QList<ModelWidget *> &models,
+                      const QList<qsizetype> &flights)
+{
+    QStringList lines;
+    for (BatteryWidget *battery : batteries)
+        lines += of(battery);
+    for (qsizetype i = 0; i < models.size(); ++i)
+        lines += of(models.at(i), flights.at(i));
+    return lines;
+}
+
+/** Batteries, and models with all of their flights. */
+inline QStringList of(const QList<BatteryWidget *> &batteries, const QList<ModelWidget *> &models)
+{
+    QList<qsizetype> flights;
+    for (ModelWidget *model : models)
+        flights.append(model->getLogData().size());
+    return of(batteries, models, flights);
+}
+
 } // namespace RecordText

@@ -25,15 +25,11 @@ public:
             else
                 appendModel(Record(xml));
         }
-        while (!xml.atEnd())
-            xml.readNext();
-        wellFormed = !xml.hasError();
     }
 
     QStringList locations;
     QList<qsizetype> flights; // of each model
     QStringList records;      // as RecordText has them
-    bool wellFormed = false;
 
 private:
     struct Record

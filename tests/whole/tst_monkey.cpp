@@ -4,11 +4,11 @@
 //
 // VOLTBOK_MONKEY_SEED=n runs the user with that seed alone, VOLTBOK_MONKEY_STEPS=n changes the number of
 // steps.
-#include "gui/voltbokgui.h"
-#include "plugin/rotavexplugin.h"
+#include "tests/support/files.h"
+#include "tests/support/foreignlanguage.h"
+#include "tests/support/logbookwindow.h"
 #include "tests/support/monkey.h"
 #include "tests/support/writtenfile.h"
-#include "ui_voltbokgui.h"
 
 #include <QDir>
 #include <QRandomGenerator>
@@ -33,12 +33,6 @@ void collectWarning(QtMsgType type, const QMessageLogContext & /*context*/, cons
         warnings.append(message);
 }
 
-QByteArray contents(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /** What the data file in a folder holds. */
 struct Reading
 {
@@ -46,18 +40,6 @@ struct Reading
     QList<qsizetype> flights; // of each model
     QStringList records;
 };
-
-/** Batteries, and models with as many of their flights. */
-QStringList described(const QList<BatteryWidget *> &batteries, const QList<ModelWidget *> &models,
-                      const QList<qsizetype> &flights)
-{
-    QStringList lines;
-    for (BatteryWidget *battery : batteries)
-        lines += RecordText::of(battery);
-    for (qsizetype i = 0; i < models.size(); ++i)
-        lines += RecordText::of(models.at(i), flights.at(i));
-    return lines;
-}
 
 /** What the loaders make of the data file in a folder. */
 Reading loaded(const QString &folder)
@@ -72,7 +54,7 @@ Reading loaded(const QString &folder)
     processor.getModelWidgetsFromData(models);
     for (ModelWidget *model : std::as_const(models))
         reading.flights.append(model->getLogData().size());
-    reading.records = described(batteries, models, reading.flights);
+    reading.records = RecordText::of(batteries, models, reading.flights);
     qDeleteAll(batteries);
     qDeleteAll(models);
     return reading;
@@ -110,7 +92,7 @@ private:
 
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<VoltbokGui> m_gui;
-    OtherLanguage m_language;
+    Test::ForeignLanguage m_language;
     QByteArrayList m_foreign; // files that were put there, not written
     QString m_file;           // the data file that was read last, its bytes and what they hold
     QByteArray m_bytes;
@@ -129,8 +111,8 @@ void MonkeyTest::init()
     const QDir folder(m_folder->path());
     for (const char *name : {"home", "other", "odd", "broken", "working directory"})
         QVERIFY(folder.mkdir(QLatin1StringView(name)));
-    const QByteArray catalogue = contents(QStringLiteral(FUZZ_DIR "/corpus/catalogue.xml"));
-    const QByteArray odd = contents(QStringLiteral(FUZZ_DIR "/corpus/odd-values.xml"));
+    const QByteArray catalogue = Test::contents(u"" FUZZ_DIR "/corpus/catalogue.xml"_s);
+    const QByteArray odd = Test::contents(u"" FUZZ_DIR "/corpus/odd-values.xml"_s);
     QVERIFY(!catalogue.isEmpty() && !odd.isEmpty());
     const QByteArray broken = catalogue.first(catalogue.indexOf("<FlightLog>"));
     m_foreign = {odd, broken};
@@ -174,9 +156,7 @@ void MonkeyTest::load(const QString &folder)
 
 void MonkeyTest::putFile(const QString &folder, const QByteArray &bytes)
 {
-    QFile file(m_folder->filePath(folder + u"/voltbok.xml"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
+    QVERIFY(Test::write(Test::dataFile(m_folder->filePath(folder)), bytes));
 }
 
 void MonkeyTest::windowRecordsAndFileAgreeAfterEveryStep_data()
@@ -235,8 +215,7 @@ QString MonkeyTest::step(Monkey &monkey)
         openWindow();
         return u"open the window again"_s;
     case 6:
-        RotavexPlugin::rotavexSettings->setValue(u"SETTINGS/logmodel"_s,
-                                                 m_gui->ui->cb_select_model->itemText(monkey.below(3)));
+        LogbookWindow::storeModel(m_gui->ui->cb_select_model->itemText(monkey.below(3)));
         return u"preselect a model"_s;
     case 7:
         m_gui->resize(200 + monkey.below(600), 200 + monkey.below(600));
@@ -294,7 +273,7 @@ QString MonkeyTest::faultOfThePage()
                               ui.dischargeView, ui.modBatteryView,  ui.modModelView};
     const int id = m_gui->currentPage;
     const QWidget *shown = ui.stackedWidget->currentWidget();
-    // A card that is connected twice and discharged in quick mode leaves 12 behind on the overview, as meant.
+    // A card that is connected twice and discharged in quick mode leaves 12 behind on the overview, intentionally.
     const bool quickCapture = id == 12 && shown == ui.scrollLayout;
     if (id < 0 || id >= 15 || (shown != pages[id] && !quickCapture))
         return u"page %1 is not %2"_s.arg(id).arg(shown->objectName());
@@ -335,7 +314,7 @@ QString MonkeyTest::faultOfTheRecords(const QString &step)
     const bool rewritten = readBack();
     if (!m_wellFormed)
         return u"the file is not well-formed:\n"_s + QString::fromUtf8(m_bytes);
-    // A file without any location leaves those that were on offer, as meant; one that was written holds what
+    // A file without any location leaves those that were on offer, intentionally; one that was written holds what
     // is.
     if (m_loaded ? !m_reading.locations.isEmpty() : rewritten)
         m_locations = m_reading.locations;
@@ -364,7 +343,7 @@ QString MonkeyTest::faultOfTheRecords(const QString &step)
     if (unwritten > allowed)
         return u"%1 flights are not written"_s.arg(unwritten);
     m_unwrittenFlights = unwritten;
-    const QStringList records = described(m_gui->batteryList, m_gui->modelList, m_reading.flights);
+    const QStringList records = RecordText::of(m_gui->batteryList, m_gui->modelList, m_reading.flights);
     if (records != m_reading.records)
         return u"the window has\n%1\nand the file\n%2"_s.arg(records.join(u'\n'),
                                                              m_reading.records.join(u'\n'));
@@ -373,8 +352,8 @@ QString MonkeyTest::faultOfTheRecords(const QString &step)
 
 bool MonkeyTest::readBack()
 {
-    const QString file = QDir(m_gui->dataProcessor.basePath).absoluteFilePath(u"voltbok.xml"_s);
-    const QByteArray bytes = contents(file);
+    const QString file = Test::dataFile(m_gui->dataProcessor.basePath);
+    const QByteArray bytes = Test::contents(file);
     if (file == m_file && bytes == m_bytes)
         return false;
     m_file = file;
@@ -384,8 +363,8 @@ bool MonkeyTest::readBack()
         m_reading = loaded(m_gui->dataProcessor.basePath);
         return true;
     }
+    m_wellFormed = Test::isWellFormed(bytes);
     const WrittenFile written(bytes);
-    m_wellFormed = written.wellFormed;
     m_reading = {written.locations, written.flights, written.records};
     return true;
 }

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Date and time of a capture are local; run in several time zones, far from the one the form thinks in.
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
+#include "tests/support/samples.h"
 
 #include <QProcess>
 #include <QTimeZone>
 #include <QXmlStreamReader>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace Test;
 
 class TimeZonesTest : public QObject
 {
@@ -33,11 +36,6 @@ private:
 };
 
 namespace {
-QByteArray hangar()
-{
-    return Xml::file(Xml::battery("Pack", true) + Xml::model("Heli", {"Pack"}));
-}
-
 // The test starts itself in another zone to write or to read there: a process keeps the zone it has begun in.
 constexpr char Write[] = "--write";
 constexpr char Resave[] = "--resave";
@@ -81,7 +79,7 @@ bool runIn(const QByteArray &zone, const QStringList &arguments)
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("TZ"), QString::fromLatin1(zone));
+    environment.insert(u"TZ"_s, QString::fromLatin1(zone));
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QCoreApplication::applicationFilePath(), arguments);
@@ -92,13 +90,13 @@ bool runIn(const QByteArray &zone, const QStringList &arguments)
 /** The dates in the file: that of the discharge, then that of the flight. */
 QStringList datesIn(const QString &folder)
 {
-    QFile file(QDir(folder).filePath(QStringLiteral("voltbok.xml")));
+    QFile file(QDir(folder).filePath(u"voltbok.xml"_s));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     QStringList dates;
     for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
-        if (xml.isStartElement() && xml.attributes().hasAttribute(QStringLiteral("Date")))
-            dates.append(xml.attributes().value(QStringLiteral("Date")).toString());
+        if (xml.isStartElement() && xml.attributes().hasAttribute(u"Date"_s))
+            dates.append(xml.attributes().value(u"Date"_s).toString());
     }
     return dates;
 }
@@ -136,7 +134,7 @@ void TimeZonesTest::aQuickCaptureIsDatedNow()
     QVERIFY2(before <= flown && flown <= after, qPrintable(flown.toString(Qt::ISODateWithMs)));
     QCOMPARE(pack().getDates(), QList<QDateTime>({flown}));
 
-    const QByteArray written = flown.toString(QStringLiteral("hh:mm:ss yyyy")).toLatin1();
+    const QByteArray written = flown.toString(u"hh:mm:ss yyyy"_s).toLatin1();
     QCOMPARE(window->fileBytes().count(written), 2); // once for each record
     window->gui().updateBatteryGui();
     QCOMPARE(heli().getLogData().constFirst().date, flown.addMSecs(-flown.time().msec()));

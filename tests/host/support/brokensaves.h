@@ -11,6 +11,8 @@
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 
+using namespace Qt::Literals::StringLiterals;
+
 /** Something that keeps the data file from being written, until it goes. */
 using Fault = std::shared_ptr<void>;
 using MakeFault = std::function<Fault(HostWindow &)>;
@@ -39,7 +41,7 @@ inline Fault inItsPlace(HostWindow &window, const std::function<bool(const QStri
                         const std::function<void(const QString &)> &remove)
 {
     const QString path = window.filePath();
-    const QString before = window.place() + QStringLiteral("/before");
+    const QString before = window.place() + u"/before"_s;
     if (!QFile::rename(path, before) || !put(path))
         return nullptr;
     window.settle();
@@ -57,7 +59,7 @@ inline Fault folderInItsPlace(HostWindow &window)
 
 inline Fault linkToNowhereInItsPlace(HostWindow &window)
 {
-    const auto put = [](const QString &path) { return QFile::link(QStringLiteral("/not/there"), path); };
+    const auto put = [](const QString &path) { return QFile::link(u"/not/there"_s, path); };
     return inItsPlace(window, put, [](const QString &path) { QFile::remove(path); });
 }
 
@@ -65,7 +67,7 @@ inline Fault linkToNowhereInItsPlace(HostWindow &window)
 inline Fault fileInTheFoldersPlace(HostWindow &window)
 {
     const QString path = window.path();
-    const QString before = window.place() + QStringLiteral("/before");
+    const QString before = window.place() + u"/before"_s;
     QFile file(path);
     if (!QFile::rename(path, before) || !file.open(QIODevice::WriteOnly))
         return nullptr;
@@ -113,7 +115,7 @@ inline Fault smallDiskThatIsFull(HostWindow &window)
     window.underneath = disk;
     window.put(HostWindow::sample());
     window.restart();
-    const QString filler = window.path() + QStringLiteral("/filler");
+    const QString filler = window.path() + u"/filler"_s;
     QFile file(filler);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         return nullptr;

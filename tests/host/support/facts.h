@@ -8,6 +8,8 @@
 #include <QString>
 #include <QTime>
 
+using namespace Qt::Literals::StringLiterals;
+
 /**
  * What a data file says, as a heap of single statements ("Voltbok/Battery/Capacity=450") without any order:
  * another way than losses() to find what one document says and another does not.
@@ -35,9 +37,8 @@ public:
 private:
     static bool isContainer(const QString &path)
     {
-        static const QSet<QString> containers{QStringLiteral("/Voltbok/Locations"),
-                                              QStringLiteral("/Voltbok/Battery/Data"),
-                                              QStringLiteral("/Voltbok/Model/FlightLog")};
+        static const QSet<QString> containers{u"/Voltbok/Locations"_s, u"/Voltbok/Battery/Data"_s,
+                                              u"/Voltbok/Model/FlightLog"_s};
         return containers.contains(path);
     }
 
@@ -45,16 +46,14 @@ private:
     static QString canonical(const QString &field, const QString &value)
     {
         static const QSet<QString> numbers{
-            QStringLiteral("Capacity"), QStringLiteral("Chrgrate"),   QStringLiteral("Dischrgrate"),
-            QStringLiteral("Cycles"),   QStringLiteral("Charged"),    QStringLiteral("Weight"),
-            QStringLiteral("Size"),     QStringLiteral("Flights"),    QStringLiteral("Temperature"),
-            QStringLiteral("Current"),  QStringLiteral("Discharged"),
+            u"Capacity"_s, u"Chrgrate"_s, u"Dischrgrate"_s, u"Cycles"_s,  u"Charged"_s,    u"Weight"_s,
+            u"Size"_s,     u"Flights"_s,  u"Temperature"_s, u"Current"_s, u"Discharged"_s,
         };
         bool ok = false;
         const qulonglong number = value.toULongLong(&ok);
         if (numbers.contains(field))
             return ok ? QString::number(number) : u'?' + value;
-        if (field == QStringLiteral("Duration")) {
+        if (field == u"Duration"_s) {
             const QStringList parts = value.split(u':');
             const QTime time(parts.value(0).toInt(), parts.value(1).toInt(), parts.value(2).toInt());
             return time.isValid() && parts.size() > 1 ? time.toString() : value;
@@ -74,12 +73,12 @@ private:
     {
         QString text;
         for (QDomNode child = node.firstChild(); !child.isNull(); child = child.nextSibling()) {
-            if (child.isElement() && path == QStringLiteral("/Voltbok"))
+            if (child.isElement() && path == u"/Voltbok"_s)
                 addRecord(child.toElement(), path + u'/' + child.nodeName());
             else if (child.isElement())
                 addElement(child.toElement(), path + u'/' + child.nodeName());
             else if (child.isComment() || (child.isProcessingInstruction() && !path.isEmpty()))
-                add(path + QStringLiteral("/remark"));
+                add(path + u"/remark"_s);
             else if (child.isText() || child.isCDATASection())
                 text += child.nodeValue();
         }
@@ -89,7 +88,7 @@ private:
     /** Says with every statement which battery or model it is about. */
     void addRecord(const QDomElement &element, const QString &path)
     {
-        for (const auto &kind : {QStringLiteral("Battery"), QStringLiteral("Model")}) {
+        for (const auto &kind : {u"Battery"_s, u"Model"_s}) {
             if (element.nodeName().contains(kind))
                 m_record = kind + QString::number(++m_records[kind]);
         }

@@ -4,6 +4,7 @@
 #include "host/safety/backups.h"
 #include "host/safety/recovery.h"
 #include "host/safety/storagefolder.h"
+#include "tests/support/files.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -26,7 +27,7 @@ QList<std::pair<QString, QByteArray>> filesBelow(const QString &folder)
     QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (it.hasNext()) {
         const QString path = it.next();
-        files.append({path, bytesOf(path)});
+        files.append({path, Test::contents(path)});
     }
     return files;
 }
@@ -41,7 +42,7 @@ bool changesTheLogbook(const QString &command)
 QList<Operation> operationsIn(const QString &faultLog)
 {
     QList<Operation> operations;
-    const QList<QByteArray> lines = bytesOf(faultLog).split('\n');
+    const QList<QByteArray> lines = Test::contents(faultLog).split('\n');
     for (const QByteArray &line : lines) {
         const QStringList words = QString::fromUtf8(line).split(u'\t');
         if (words.size() >= 4)
@@ -149,15 +150,15 @@ bool FaultRun::isSaved() const
 bool FaultRun::isCopied() const
 {
     const QList<Copy> copies = Backups::list(StorageFolder(m_home.logbook()));
-    return !copies.isEmpty() && bytesOf(m_home.logbook() + u"/backups/"_s + copies.constFirst().name) ==
-                                    bytesOf(m_home.dataFile());
+    return !copies.isEmpty() && Test::contents(m_home.logbook() + u"/backups/"_s +
+                                               copies.constFirst().name) == Test::contents(m_home.dataFile());
 }
 
 bool FaultRun::isAsItWas() const
 {
     for (const auto &[path, bytes] : m_before) {
         if (path == m_home.dataFile())
-            return bytesOf(path) == bytes;
+            return Test::contents(path) == bytes;
     }
     return !QFile::exists(m_home.dataFile());
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/host/support/harness.h"
+#include "tests/support/files.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -24,9 +25,8 @@ Home::Home()
 QString Home::makeLogbook(const QByteArray &document) const
 {
     QDir(m_root.path()).mkdir(u"log"_s);
-    QFile file(dataFile());
-    if (!document.isNull() && file.open(QFile::WriteOnly))
-        file.write(document);
+    if (!document.isNull() && !Test::write(dataFile(), document))
+        qFatal("a test cannot write a logbook");
     return logbook();
 }
 

@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+using namespace Qt::Literals::StringLiterals;
+
 /** A place of its own for the program: whatever it writes goes here, and with it. */
 class Home
 {
@@ -15,11 +17,11 @@ public:
     QString path() const { return m_root.path(); }
     /** The storage folder; it is made with @p document as its data file, unless that is null. */
     QString makeLogbook(const QByteArray &document) const;
-    QString logbook() const { return m_root.filePath(QStringLiteral("log")); }
-    QString dataFile() const { return m_root.filePath(QStringLiteral("log/voltbok.xml")); }
+    QString logbook() const { return m_root.filePath(u"log"_s); }
+    QString dataFile() const { return m_root.filePath(u"log/voltbok.xml"_s); }
     /** What is left in the run-time and temporary folders; an empty folder of the program's own may stay. */
     QStringList leftovers() const;
-    QString faultLog() const { return m_root.filePath(QStringLiteral("faults.log")); }
+    QString faultLog() const { return m_root.filePath(u"faults.log"_s); }
 
     /** Far from the developer's own files and displays. */
     QProcessEnvironment environment() const;

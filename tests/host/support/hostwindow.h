@@ -2,8 +2,8 @@
 #pragma once
 
 #include "tests/host/support/scriptedquestions.h"
+#include "tests/support/datafile.h"
 #include "tests/support/logbookwindow.h"
-#include "tests/support/xml.h"
 
 #include "gui/pages.h"
 #include "host/safety/backups.h"
@@ -12,12 +12,15 @@
 #include "host/window/mainwindow.h"
 #include "host/window/messagebar.h"
 #include "host/window/savecare.h"
+#include "tests/support/warnings.h"
 
 #include <QComboBox>
 
 #include <unistd.h>
 
 #include <memory>
+
+using namespace Qt::Literals::StringLiterals;
 
 /** The program's window on show over a logbook in a folder of its own; for tests that use it as a pilot does.
  */
@@ -27,7 +30,7 @@ public:
     /** Opens the folder as the program does, with this data file or, without one, as a new folder. */
     explicit HostWindow(const QByteArray &document = sample())
     {
-        QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
+        Test::failOnWarnings();
         RotavexPlugin::rotavexSettings->clear();
         Host::Settings().clear();
         QFile::setPermissions(m_place.path(),
@@ -44,7 +47,7 @@ public:
     void makeRuntimeFolder()
     {
         constexpr uid_t Nobody = 65534;
-        const QString run = m_place.filePath(QStringLiteral("run"));
+        const QString run = m_place.filePath(u"run"_s);
         QDir().mkdir(run, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         if (geteuid() == 0 && chown(QFile::encodeName(run), Nobody, Nobody) != 0)
             qFatal("The tests cannot give a folder away.");
@@ -54,9 +57,10 @@ public:
     /** Two batteries, one of them charged, two models that fly both, one location. */
     static QByteArray sample()
     {
-        return Xml::file(Xml::locations({"Long Meadow"}) + Xml::battery("Pack A", true) +
-                         Xml::battery("Pack B") + Xml::model("Firebrand", {"Pack A", "Pack B"}) +
-                         Xml::model("Skylark", {"Pack A", "Pack B"}));
+        const QStringList packs{u"Pack A"_s, u"Pack B"_s};
+        return Test::document({{{packs.first(), true}, {packs.last()}},
+                               {{u"Firebrand"_s, packs}, {u"Skylark"_s, packs}},
+                               {u"Long Meadow"_s}});
     }
 
     void restart()
@@ -94,23 +98,17 @@ public:
     Ui_VoltbokGui &ui() { return *gui().ui; }
 
     QString place() const { return m_place.path(); }
-    QString path() const { return m_place.filePath(QStringLiteral("logbook")); }
-    QString filePath() const { return path() + QStringLiteral("/voltbok.xml"); }
-    QByteArray bytes() const { return read(filePath()); }
+    QString path() const { return m_place.filePath(u"logbook"_s); }
+    QString filePath() const { return path() + u"/voltbok.xml"_s; }
+    QByteArray bytes() const { return Test::contents(filePath()); }
 
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    /** The data file that another program writes: one battery. */
+    static QByteArray theirs(const QString &battery) { return Test::document({{{battery}}}); }
 
     /** Writes the data file as another program would. */
     void put(const QByteArray &document) const
     {
-        QFile file(filePath());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(document), document.size());
-        file.close();
+        QVERIFY(Test::write(filePath(), document));
         QFile::setPermissions(filePath(), QFile::Permissions(0x6666));
     }
 
@@ -121,7 +119,7 @@ public:
         QByteArrayList documents;
         const auto list = Host::Backups::list(folder);
         for (const Host::Copy &copy : list)
-            documents.append(read(folder.backups().filePath(copy.name)));
+            documents.append(Test::contents(folder.backups().filePath(copy.name)));
         return documents;
     }
 
@@ -154,8 +152,8 @@ public:
 
     /** The text of the message about a matter; empty when there is none. */
     QString message(const QString &matter) { return messages().m_texts.value(matter); }
-    QString loss() { return message(QStringLiteral("saving")); }
-    QString others() { return message(QStringLiteral("others")); }
+    QString loss() { return message(u"saving"_s); }
+    QString others() { return message(u"others"_s); }
 
     /** The button of a message that is on show; null when there is none. */
     QPushButton *button(const QString &caption)

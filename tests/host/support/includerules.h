@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <QStringList>
 
+using namespace Qt::Literals::StringLiterals;
+
 /** Which file of the program may include what. A file is named from the top of the source tree. */
 namespace IncludeRules {
 
@@ -14,7 +16,7 @@ inline constexpr int MostLines = 300;
 inline QString room(const QString &file)
 {
     const QStringList parts = file.split(u'/');
-    return parts.size() > 2 ? parts.at(1) : QStringLiteral("main");
+    return parts.size() > 2 ? parts.at(1) : u"main"_s;
 }
 
 /** "host/window/mainwindow" for that file, whatever its ending. */
@@ -27,11 +29,8 @@ inline QString unit(const QString &file)
 inline int level(const QString &room)
 {
     static const QHash<QString, int> levels = {
-        {QStringLiteral("main"), 4},       {QStringLiteral("app"), 3},
-        {QStringLiteral("window"), 2},     {QStringLiteral("statistics"), 1},
-        {QStringLiteral("exchange"), 1},   {QStringLiteral("demo"), 1},
-        {QStringLiteral("data"), 0},       {QStringLiteral("safety"), 0},
-        {QStringLiteral("preferences"), 0}};
+        {u"main"_s, 4}, {u"app"_s, 3},  {u"window"_s, 2}, {u"statistics"_s, 1}, {u"exchange"_s, 1},
+        {u"demo"_s, 1}, {u"data"_s, 0}, {u"safety"_s, 0}, {u"preferences"_s, 0}};
     return levels.value(room, -1);
 }
 
@@ -45,17 +44,17 @@ inline bool mayInclude(const QString &from, const QString &to)
 inline bool isBox(const QString &header)
 {
     static const QRegularExpression boxes(
-        QStringLiteral("^(QtWidgets/|QtPrintSupport/)?(Q[A-Za-z]*Dialog[A-Za-z]*|QMessageBox|QErrorMessage|"
-                       "QWizard[A-Za-z]*|q[a-z]*dialog\\.h|qmessagebox\\.h|qerrormessage\\.h|qwizard\\.h)$|"
-                       "^(QtWidgets|QtPrintSupport)(/QtWidgets|/QtPrintSupport)?$"));
+        u"^(QtWidgets/|QtPrintSupport/)?(Q[A-Za-z]*Dialog[A-Za-z]*|QMessageBox|QErrorMessage|"
+        "QWizard[A-Za-z]*|q[a-z]*dialog\\.h|qmessagebox\\.h|qerrormessage\\.h|qwizard\\.h)$|"
+        "^(QtWidgets|QtPrintSupport)(/QtWidgets|/QtPrintSupport)?$"_s);
     return boxes.match(header).hasMatch();
 }
 
 inline bool isChart(const QString &header)
 {
-    static const QRegularExpression charts(QStringLiteral(
-        "^QtCharts(/|$)|^(QtCharts/)?(Q(Polar)?Chart(View)?|Q[A-Za-z]+Series|Q[A-Za-z]*Axis|QLegend|"
-        "Q[A-Za-z]*LegendMarker|QPieSlice|QBarSet|QBoxSet|QCandlestickSet|Q[A-Za-z]+ModelMapper)$|^qchart"));
+    static const QRegularExpression charts(
+        u"^QtCharts(/|$)|^(QtCharts/)?(Q(Polar)?Chart(View)?|Q[A-Za-z]+Series|Q[A-Za-z]*Axis|QLegend|"
+        "Q[A-Za-z]*LegendMarker|QPieSlice|QBarSet|QBoxSet|QCandlestickSet|Q[A-Za-z]+ModelMapper)$|^qchart"_s);
     return charts.match(header).hasMatch();
 }
 
@@ -67,11 +66,11 @@ inline QString libraryProblem(const QString &file, const QString &header)
     if (folder == QLatin1StringView("gui") || folder == QLatin1StringView("plugin")) {
         if (who != QLatin1StringView("host/window/mainwindow") &&
             who != QLatin1StringView("host/preferences/languages"))
-            return QStringLiteral("only the main window and the languages see the library's window");
+            return u"only the main window and the languages see the library's window"_s;
     }
     if (folder == QLatin1StringView("records") || folder == QLatin1StringView("storage")) {
         if (who != QLatin1StringView("host/data/cataloguefile"))
-            return QStringLiteral("only the catalogue's file sees the library's records");
+            return u"only the catalogue's file sees the library's records"_s;
     }
     return QString();
 }
@@ -82,25 +81,23 @@ inline QString problem(const QString &file, const QString &header, bool isQuoted
     const QString from = room(file);
     const bool isWindow = from == QLatin1StringView("window");
     if (isBox(header))
-        return isWindow ? QString() : QStringLiteral("only the window shows boxes");
+        return isWindow ? QString() : u"only the window shows boxes"_s;
     if (isChart(header))
-        return isWindow ? QString() : QStringLiteral("only the window draws charts");
+        return isWindow ? QString() : u"only the window draws charts"_s;
     const QString folder = header.section(u'/', 0, 0);
-    if (QStringList{QStringLiteral("gui"), QStringLiteral("plugin"), QStringLiteral("records"),
-                    QStringLiteral("storage")}
-            .contains(folder))
+    if (QStringList{u"gui"_s, u"plugin"_s, u"records"_s, u"storage"_s}.contains(folder))
         return libraryProblem(file, header);
     if (folder == QLatin1StringView("host")) {
         if (header.count(u'/') < 2)
-            return QStringLiteral("a header lies in a room");
+            return u"a header lies in a room"_s;
         const QString to = room(header);
-        return mayInclude(from, to) ? QString() : from + QStringLiteral(" does not use ") + to;
+        return mayInclude(from, to) ? QString() : from + u" does not use "_s + to;
     }
     if (!isQuoted || header.endsWith(QLatin1StringView(".moc")))
         return QString();
     if (header.startsWith(QLatin1StringView("ui_")))
-        return isWindow ? QString() : QStringLiteral("only the window has forms");
-    return QStringLiteral("a header of ours is spelled host/room/file.h");
+        return isWindow ? QString() : u"only the window has forms"_s;
+    return u"a header of ours is spelled host/room/file.h"_s;
 }
 
 /** What is wrong with a source file, a line for each. */
@@ -109,18 +106,17 @@ inline QStringList problems(const QString &file, const QString &text)
     QStringList found;
     const qsizetype lines = text.count(u'\n');
     if (lines > MostLines)
-        found.append(QStringLiteral("%1: %2 lines").arg(file).arg(lines));
+        found.append(u"%1: %2 lines"_s.arg(file).arg(lines));
     if (level(room(file)) < 0)
-        found.append(QStringLiteral("%1: there is no room of that name").arg(file));
-    static const QRegularExpression include(
-        QStringLiteral("^[ \\t]*#[ \\t]*include[ \\t]*([<\"])([^>\"\\n]+)[>\"]"),
-        QRegularExpression::MultilineOption);
+        found.append(u"%1: there is no room of that name"_s.arg(file));
+    static const QRegularExpression include(u"^[ \\t]*#[ \\t]*include[ \\t]*([<\"])([^>\"\\n]+)[>\"]"_s,
+                                            QRegularExpression::MultilineOption);
     for (auto match = include.globalMatch(text); match.hasNext();) {
         const QRegularExpressionMatch line = match.next();
         const QString header = line.captured(2);
         const QString wrong = problem(file, header, line.captured(1) == QLatin1StringView("\""));
         if (!wrong.isEmpty())
-            found.append(QStringLiteral("%1: %2: %3").arg(file, header, wrong));
+            found.append(u"%1: %2: %3"_s.arg(file, header, wrong));
     }
     return found;
 }

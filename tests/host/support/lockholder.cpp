@@ -19,6 +19,8 @@
 #include <memory>
 #include <string>
 
+using namespace Qt::Literals::StringLiterals;
+
 using namespace Host;
 
 namespace {
@@ -31,10 +33,10 @@ void say(const QString &line)
 
 void tell(const FolderLock::Refusal &refusal)
 {
-    say(refusal.problem.isEmpty() ? QStringLiteral("taken")
-                                  : (refusal.isOpenHere    ? QStringLiteral("here ")
-                                     : refusal.mayTakeOver ? QStringLiteral("takeover ")
-                                                           : QStringLiteral("refused ")) +
+    say(refusal.problem.isEmpty() ? u"taken"_s
+                                  : (refusal.isOpenHere    ? u"here "_s
+                                     : refusal.mayTakeOver ? u"takeover "_s
+                                                           : u"refused "_s) +
                                         refusal.problem);
 }
 
@@ -68,12 +70,11 @@ int main(int argc, char *argv[])
         if (word == "break")
             return tell(lock.breakAndTake(folder));
         if (word == "raise")
-            return say(InstanceServer::raiseFirst(folder) ? QStringLiteral("answered")
-                                                          : QStringLiteral("silence"));
+            return say(InstanceServer::raiseFirst(folder) ? u"answered"_s : u"silence"_s);
         server = std::make_unique<InstanceServer>(folder);
         QObject::connect(server.get(), &InstanceServer::raiseRequested, server.get(),
-                         [] { say(QStringLiteral("raised")); });
-        say(QStringLiteral("serving"));
+                         [] { say(u"raised"_s); });
+        say(u"serving"_s);
     });
     return QCoreApplication::exec();
 }

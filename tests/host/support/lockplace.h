@@ -9,6 +9,8 @@
 
 #include <memory>
 
+using namespace Qt::Literals::StringLiterals;
+
 /** The lock of another machine. */
 inline constexpr char Stranger[] = "123\nvoltbok\nlaptop\n00000000000000000000000000000001\nboot\n";
 
@@ -16,7 +18,7 @@ inline constexpr char Stranger[] = "123\nvoltbok\nlaptop\n0000000000000000000000
 inline QByteArray deadProcess()
 {
     QProcess process;
-    process.start(QStringLiteral("true"), {});
+    process.start(u"true"_s, {});
     process.waitForStarted();
     const QByteArray number = QByteArray::number(process.processId());
     process.waitForFinished();
@@ -54,7 +56,7 @@ public:
     {
         while (!m_process.canReadLine()) {
             if (!m_process.waitForReadyRead(10000))
-                return QStringLiteral("no answer, ") + QString::fromUtf8(m_process.readAllStandardError());
+                return u"no answer, "_s + QString::fromUtf8(m_process.readAllStandardError());
         }
         return QString::fromUtf8(m_process.readLine()).trimmed();
     }
@@ -95,19 +97,18 @@ class LockPlace
 public:
     LockPlace()
     {
-        for (const QString &name : {QStringLiteral("run"), QStringLiteral("tmp"), QStringLiteral("cache")})
+        for (const QString &name : {u"run"_s, u"tmp"_s, u"cache"_s})
             QDir(m_folder.path()).mkdir(name);
-        QFile::setPermissions(path(QStringLiteral("run")),
-                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        QFile::setPermissions(path(u"run"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), path(QStringLiteral("run")));
-        environment.insert(QStringLiteral("XDG_CACHE_HOME"), path(QStringLiteral("cache")));
-        environment.insert(QStringLiteral("TMPDIR"), path(QStringLiteral("tmp")));
+        environment.insert(u"XDG_RUNTIME_DIR"_s, path(u"run"_s));
+        environment.insert(u"XDG_CACHE_HOME"_s, path(u"cache"_s));
+        environment.insert(u"TMPDIR"_s, path(u"tmp"_s));
     }
 
     QString path(const QString &name) const { return m_folder.filePath(name); }
 
-    QString log() const { return path(QStringLiteral("log")); }
+    QString log() const { return path(u"log"_s); }
 
     std::unique_ptr<Instance> start(const QString &folder) const
     {
@@ -125,20 +126,8 @@ public:
         const auto instance = start(folder);
         if (instance->ask("take") != QLatin1StringView("taken"))
             return QString();
-        const QStringList locks = files(QStringLiteral("run/voltbok"));
-        return locks.isEmpty() ? QString() : path(QStringLiteral("run/voltbok/") + locks.first());
-    }
-
-    static bool write(const QString &path, const QByteArray &content)
-    {
-        QFile file(path);
-        return file.open(QFile::WriteOnly) && file.write(content) == content.size();
-    }
-
-    static QByteArray read(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+        const QStringList locks = files(u"run/voltbok"_s);
+        return locks.isEmpty() ? QString() : path(u"run/voltbok/"_s + locks.first());
     }
 
     QProcessEnvironment environment;

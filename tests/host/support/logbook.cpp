@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/host/support/logbook.h"
+#include "tests/support/datafile.h"
+#include "tests/support/files.h"
 
-#include <QFile>
 #include <QXmlStreamReader>
 
 using namespace Qt::Literals::StringLiterals;
@@ -89,74 +90,22 @@ Logbook Logbook::read(const QByteArray &document)
 
 Logbook Logbook::readFile(const QString &path)
 {
-    return read(bytesOf(path));
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    return read(Test::contents(path));
 }
 
 QByteArray smallLogbook()
 {
-    return R"(<?xml version="1.0" encoding="UTF-8"?>
-<!DOCTYPE Voltbok>
-<Voltbok>
-    <Locations>
-        <Location Name="Club field"/>
-        <Location Name="Meadow"/>
-    </Locations>
-    <Battery>
-        <Name>3S A</Name>
-        <Capacity>1300</Capacity>
-        <Chrgrate>20</Chrgrate>
-        <Dischrgrate>30</Dischrgrate>
-        <Purchase>2025/03/14</Purchase>
-        <Cycles>2</Cycles>
-        <Charged>1</Charged>
-        <LastUse>Tue Nov 10 21:09:54 2026</LastUse>
-        <Data>
-            <Cycle Discharged="1040" Current="2750" Date="Sun Oct 25 15:40:28 2026"/>
-            <Cycle Discharged="990" Current="3100" Date="Sun Nov 8 11:02:10 2026"/>
-        </Data>
-    </Battery>
-    <Battery>
-        <Name>3S B</Name>
-        <Capacity>1300</Capacity>
-        <Chrgrate>20</Chrgrate>
-        <Dischrgrate>30</Dischrgrate>
-        <Purchase>2025/03/14</Purchase>
-        <Cycles>0</Cycles>
-        <Charged>0</Charged>
-        <LastUse>Mon Nov 9 20:00:00 2026</LastUse>
-    </Battery>
-    <Battery>
-        <Name>6S spare</Name>
-        <Capacity>5000</Capacity>
-        <Chrgrate>10</Chrgrate>
-        <Dischrgrate>40</Dischrgrate>
-        <Purchase>2024/05/01</Purchase>
-        <Cycles>7</Cycles>
-        <Charged>0</Charged>
-        <LastUse>Mon Jun 1 12:00:00 2026</LastUse>
-    </Battery>
-    <Model>
-        <Name>Glider</Name>
-        <Type>Plane</Type>
-        <Weight>114</Weight>
-        <Size>700</Size>
-        <Purchase>2025/03/14</Purchase>
-        <Flights>2</Flights>
-        <Notes></Notes>
-        <LastUpdate>Sun Nov 8 11:02:10 2026</LastUpdate>
-        <Battery>3S A</Battery>
-        <Battery>3S B</Battery>
-        <FlightLog>
-            <LogData Date="Sun Oct 25 15:40:28 2026" Location="Club field" Duration="00:08:30" Temperature="12" Notes=""/>
-            <LogData Date="Sun Nov 8 11:02:10 2026" Location="Meadow" Duration="00:07:05" Temperature="4" Notes="Calm"/>
-        </FlightLog>
-    </Model>
-</Voltbok>
-)";
+    const auto november = [](int day, QTime time) { return QDateTime(QDate(2026, 11, day), time); };
+    const QDate bought(2025, 3, 14);
+    const QDateTime first(QDate(2026, 10, 25), QTime(15, 40, 28));
+    const QDateTime second = november(8, {11, 2, 10});
+    const QList<Test::Discharge> history{{first, 1040, 2750}, {second, 990, 3100}};
+    const QList<Test::Flight> log{{first, u"Club field"_s, {0, 8, 30}, 12, u""_s},
+                                  {second, u"Meadow"_s, {0, 7, 5}, 4, u"Calm"_s}};
+    return Test::document(
+        {{{u"3S A"_s, true, history, 1300, 20, 30, 2, bought, november(10, {21, 9, 54})},
+          {u"3S B"_s, false, {}, 1300, 20, 30, 0, bought, november(9, {20, 0})},
+          {u"6S spare"_s, false, {}, 5000, 10, 40, 7, {2024, 5, 1}, {{2026, 6, 1}, {12, 0}}}},
+         {{u"Glider"_s, {u"3S A"_s, u"3S B"_s}, log, 114, 700, 2, u"Plane"_s, u""_s, bought, second}},
+         {u"Club field"_s, u"Meadow"_s}});
 }

@@ -34,6 +34,3 @@ struct Logbook
 /** A small logbook in the bytes that a save would give it: three batteries, one model that flies two of them.
  */
 QByteArray smallLogbook();
-
-/** All bytes of a file; none when it cannot be read. */
-QByteArray bytesOf(const QString &path);

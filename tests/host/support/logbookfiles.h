@@ -2,6 +2,9 @@
 #pragma once
 
 #include "host/safety/backups.h"
+#include "tests/support/datafile.h"
+#include "tests/support/files.h"
+#include "tests/support/zone.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,36 +13,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <ctime>
-
 inline mode_t modeOf(const QString &path)
 {
     struct stat status = {};
     stat(QFile::encodeName(path), &status);
     return status.st_mode & 07777;
 }
-
-/** While it lives, the clocks of this process show the time of another zone. */
-class Zone
-{
-    Q_DISABLE_COPY_MOVE(Zone)
-
-public:
-    explicit Zone(const QByteArray &name)
-        : m_before(qgetenv("TZ"))
-    {
-        set(name);
-    }
-    ~Zone() { set(m_before); }
-
-private:
-    static void set(const QByteArray &name)
-    {
-        qputenv("TZ", name);
-        tzset();
-    }
-    const QByteArray m_before;
-};
 
 /** While it lives, files that this process makes lack these rights. */
 class Umask
@@ -95,23 +74,16 @@ private:
 /** A whole logbook, a different one for each number. */
 inline QByteArray logbook(int number, qsizetype padding = 0)
 {
-    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE Voltbok>\n<Voltbok>\n<Locations><Location "
-           "Name=\"" +
-           QByteArray::number(number) + "\"/></Locations>" + QByteArray(padding, ' ') + "\n</Voltbok>\n";
+    QByteArray document = Test::document({{}, {}, {QString::number(number)}});
+    return document.insert(document.indexOf("</Voltbok>"), QByteArray(padding, ' '));
 }
 
-inline QByteArray contentsOf(const QString &path)
+/** The bytes of the newest whole copy; empty when there is none. */
+inline QByteArray newestCopy(const Host::StorageFolder &folder)
 {
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
-
-/** Written in place, as the window does. */
-inline void put(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY2(file.open(QFile::WriteOnly), qPrintable(path));
-    QCOMPARE(file.write(bytes), bytes.size());
+    QByteArray bytes;
+    Host::Backups::newestWhole(folder, &bytes);
+    return bytes;
 }
 
 /** Of everything in the folder of the copies, sorted. */

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+using namespace Qt::Literals::StringLiterals;
+
 /** Changes a document at random: mostly into something that no logbook should be, but well-formed. */
 class Mutations
 {
@@ -31,21 +33,17 @@ private:
 
     QString name()
     {
-        return pick({QStringLiteral("Battery"), QStringLiteral("Model"), QStringLiteral("Data"),
-                     QStringLiteral("Cycle"), QStringLiteral("Name"), QStringLiteral("Locations"),
-                     QStringLiteral("Location"), QStringLiteral("FlightLog"), QStringLiteral("LogData"),
-                     QStringLiteral("Notes"), QStringLiteral("Chemistry"), QStringLiteral("BatteryPack"),
-                     QStringLiteral("DataSet"), QStringLiteral("Voltbok")});
+        return pick({u"Battery"_s, u"Model"_s, u"Data"_s, u"Cycle"_s, u"Name"_s, u"Locations"_s,
+                     u"Location"_s, u"FlightLog"_s, u"LogData"_s, u"Notes"_s, u"Chemistry"_s,
+                     u"BatteryPack"_s, u"DataSet"_s, u"Voltbok"_s});
     }
 
     QString value()
     {
-        return pick({QString(), QStringLiteral(" "), QStringLiteral("0"), QStringLiteral("1"),
-                     QStringLiteral("007"), QStringLiteral("abc"), QStringLiteral("true"),
-                     QStringLiteral("-5"), QStringLiteral("4294967296"),
-                     QStringLiteral("Sun Nov 15 12:04:22 2026"), QStringLiteral("Sun Feb 30 12:00:00 2026"),
-                     QStringLiteral("2025/03/14"), QStringLiteral("2025/13/14"), QStringLiteral("00:05:12"),
-                     QStringLiteral("5:12"), QStringLiteral("25:61:00"), QStringLiteral("x & <y>")});
+        return pick({QString(), u" "_s, u"0"_s, u"1"_s, u"007"_s, u"abc"_s, u"true"_s, u"-5"_s,
+                     u"4294967296"_s, u"Sun Nov 15 12:04:22 2026"_s, u"Sun Feb 30 12:00:00 2026"_s,
+                     u"2025/03/14"_s, u"2025/13/14"_s, u"00:05:12"_s, u"5:12"_s, u"25:61:00"_s,
+                     u"x & <y>"_s});
     }
 
     static void collect(const QDomElement &element, QList<QDomElement> &all)
@@ -122,7 +120,7 @@ private:
             setText(dom, one);
             break;
         case 7:
-            parent.insertBefore(dom.createComment(QStringLiteral("why")), one);
+            parent.insertBefore(dom.createComment(u"why"_s), one);
             break;
         case 8:
             parent.insertBefore(dom.createElement(name()), one);

@@ -2,6 +2,7 @@
 #include "tests/host/support/oddfiles.h"
 
 #include "tests/host/support/logbook.h"
+#include "tests/support/files.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -21,12 +22,6 @@ namespace {
 
 constexpr uid_t Nobody = 65534;
 constexpr qint64 Large = qint64(10) * 1024 * 1024 * 1024;
-
-bool write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size();
-}
 
 bool makeSocket(const QString &path)
 {
@@ -55,16 +50,16 @@ bool OddFiles::make(Kind kind, const QString &path)
     const QByteArray document = smallLogbook();
     switch (kind) {
     case Html:
-        return write(path, "<html/>\n");
+        return Test::write(path, "<html/>\n");
     case Cut:
-        return write(path, document.left(document.size() / 2));
+        return Test::write(path, document.left(document.size() / 2));
     case ZeroByte:
-        return write(path, QByteArray(document).replace("Capacity", QByteArray("Capa\0ity", 8)));
+        return Test::write(path, QByteArray(document).replace("Capacity", QByteArray("Capa\0ity", 8)));
     case Declarations:
-        return write(path, QByteArray(document).replace("<!DOCTYPE Voltbok>",
-                                                        "<!DOCTYPE Voltbok [<!ENTITY a \"b\">]>"));
+        return Test::write(path, QByteArray(document).replace("<!DOCTYPE Voltbok>",
+                                                              "<!DOCTYPE Voltbok [<!ENTITY a \"b\">]>"));
     case Unreadable:
-        return write(path, document) && QFile::setPermissions(path, QFile::WriteOther);
+        return Test::write(path, document) && QFile::setPermissions(path, QFile::WriteOther);
     case Pipe:
         return ::mkfifo(QFile::encodeName(path).constData(), 0600) == 0;
     case Folder:
@@ -94,9 +89,9 @@ QStringList OddFiles::listing(const QString &folder)
         struct stat status = {};
         ::lstat(QFile::encodeName(path).constData(), &status);
         const bool isShort = S_ISREG(status.st_mode) && status.st_size < ShortFile;
-        lines.append(u"%1 %2 %3 %4 %5"_s.arg(path, QString::number(status.st_mode, 8),
-                                             QString::number(status.st_size), QFile::symLinkTarget(path),
-                                             isShort ? QString::fromLatin1(bytesOf(path)) : QString()));
+        lines.append(u"%1 %2 %3 %4 %5"_s.arg(
+            path, QString::number(status.st_mode, 8), QString::number(status.st_size),
+            QFile::symLinkTarget(path), isShort ? QString::fromLatin1(Test::contents(path)) : QString()));
     }
     lines.sort();
     return lines;
@@ -117,7 +112,7 @@ bool OddFiles::giveProgram(const QString &folder)
 {
     const QFileInfo library(QStringLiteral(LIBRARY));
     return QFile::setPermissions(folder, QFile::Permissions(0x7755)) &&
-           QFile::copy(QStringLiteral(PROGRAM), QDir(folder).filePath(QStringLiteral("voltbok"))) &&
+           QFile::copy(QStringLiteral(PROGRAM), QDir(folder).filePath(u"voltbok"_s)) &&
            QFile::copy(library.filePath(), QDir(folder).filePath(library.fileName()));
 }
 

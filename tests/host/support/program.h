@@ -4,6 +4,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+using namespace Qt::Literals::StringLiterals;
+
 /** Runs the program itself, with a home and run-time folder of its own. */
 class Program
 {
@@ -18,9 +20,9 @@ public:
     Program()
     {
         environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), m_home.filePath(QStringLiteral("data")));
-        environment.insert(QStringLiteral("XDG_CACHE_HOME"), m_home.filePath(QStringLiteral("cache")));
-        environment.remove(QStringLiteral("XDG_RUNTIME_DIR"));
+        environment.insert(u"XDG_DATA_HOME"_s, m_home.filePath(u"data"_s));
+        environment.insert(u"XDG_CACHE_HOME"_s, m_home.filePath(u"cache"_s));
+        environment.remove(u"XDG_RUNTIME_DIR"_s);
         for (const char *variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "XDG_SESSION_TYPE"})
             environment.remove(QLatin1StringView(variable));
     }
@@ -30,7 +32,7 @@ public:
     /** Runs a line of the shell, in which "$0" is the program. */
     Result shell(const QString &line) const
     {
-        return finish(QStringLiteral("bash"), {QStringLiteral("-c"), line, QStringLiteral(HOST)});
+        return finish(u"bash"_s, {u"-c"_s, line, QStringLiteral(HOST)});
     }
 
     QString home(const QString &name = QString()) const { return m_home.filePath(name); }

@@ -14,6 +14,8 @@
 
 #include <functional>
 
+using namespace Qt::Literals::StringLiterals;
+
 /** One run of the program in this process: what it answered, and what its window showed before it was closed.
  */
 struct Started
@@ -50,7 +52,7 @@ private:
         hasWindow = true;
         batteries = static_cast<int>(window.findChildren<BatteryWidget *>().size());
         messages.clear();
-        for (const QFrame *message : window.findChildren<QFrame *>(QStringLiteral("message")))
+        for (const QFrame *message : window.findChildren<QFrame *>(u"message"_s))
             messages.append(message->accessibleName());
     }
 };

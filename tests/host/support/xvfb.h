@@ -4,18 +4,19 @@
 #include <QByteArray>
 #include <QProcess>
 
+using namespace Qt::Literals::StringLiterals;
+
 /** A screen that nobody sees, for tests of what only a real platform does. Made before the application. */
 class Xvfb
 {
     Q_DISABLE_COPY_MOVE(Xvfb)
 
 public:
-    explicit Xvfb(const QString &screen = QStringLiteral("800x600x24"))
+    explicit Xvfb(const QString &screen = u"800x600x24"_s)
     {
         m_server.setStandardErrorFile(QProcess::nullDevice());
-        m_server.start(QStringLiteral("Xvfb"),
-                       {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"),
-                        QStringLiteral("0"), screen, QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+        m_server.start(u"Xvfb"_s,
+                       {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, screen, u"-nolisten"_s, u"tcp"_s});
         QByteArray number;
         while (!number.endsWith('\n') && m_server.waitForReadyRead(20000))
             number += m_server.readAllStandardOutput();

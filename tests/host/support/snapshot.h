@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "tests/support/files.h"
+
 #include <QByteArray>
 #include <QDir>
 #include <QFile>
@@ -8,21 +10,7 @@
 #include <QString>
 #include <QTest>
 
-/** Files as a test looks at them. */
-namespace Files {
-
-inline QByteArray read(const QString &path)
-{
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray("unreadable");
-}
-
-inline void write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    QVERIFY2(file.open(QFile::WriteOnly), qPrintable(path));
-    QCOMPARE(file.write(bytes), bytes.size());
-}
+namespace Test {
 
 /** Every name in a folder, hidden ones and broken links included, with what it holds. */
 inline QMap<QString, QByteArray> snapshot(const QString &folder)
@@ -36,7 +24,7 @@ inline QMap<QString, QByteArray> snapshot(const QString &folder)
             for (auto it = below.cbegin(); it != below.cend(); ++it)
                 content.insert(entry.fileName() + u'/' + it.key(), it.value());
         } else if (entry.isFile())
-            content.insert(entry.fileName(), read(entry.filePath()));
+            content.insert(entry.fileName(), contents(entry.filePath()));
         else
             content.insert(entry.fileName(), "no file");
     }
@@ -45,7 +33,7 @@ inline QMap<QString, QByteArray> snapshot(const QString &folder)
 
 inline QByteArray sample()
 {
-    return read(QStringLiteral(SAMPLE));
+    return contents(QStringLiteral(SAMPLE));
 }
 
-} // namespace Files
+} // namespace Test

@@ -1,0 +1,288 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What stands in the menus of the program's window, and what it does.
+#include "host/window/manualwindow.h"
+#include "host/window/sidepanel.h"
+#include "tests/host/support/hostwindow.h"
+
+#include <QAction>
+#include <QImage>
+#include <QMenuBar>
+#include <QTextBlock>
+
+using namespace Host;
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/** The folders that a window asks for. */
+struct Requests
+{
+    explicit Requests(HostWindow &window)
+    {
+        QObject::connect(&window.window(), &MainWindow::folderRequested, &context,
+                         [this](const StorageFolder &folder) { paths.append(folder.path()); });
+    }
+
+    QStringList paths;
+    QObject context;
+};
+
+} // namespace
+
+class MainMenusTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void everyActionHasAMnemonicAndNoShortcutTwice();
+    void keysUndoAndDoAgain();
+    void theMenuNamesTheSteps();
+    void withoutAStepThereIsNothingToUndo();
+    void nothingIsUndoneWhileAFlightIsEntered();
+    void theSidePanelIsShownAndHiddenByAKey();
+    void thePanelIsAsItWasAtTheNextStart();
+    void anotherFolderIsAskedFor();
+    void anotherFolderIsNotAskedForWhereInputWouldBeLost();
+    void foldersThatWereOpenAreOffered();
+    void theManualOpensOnce();
+    void theManualHasItsPictures();
+    void aboutNamesTheVersionAndTheFolder();
+    void quitClosesTheWindow();
+
+private:
+    static QAction *action(HostWindow &window, const QString &text);
+    static QMenu *menu(HostWindow &window, const QString &title);
+    static void press(HostWindow &window, const QKeySequence &key);
+};
+
+QMenu *MainMenusTest::menu(HostWindow &window, const QString &title)
+{
+    for (QMenu *menu : window.window().menuBar()->findChildren<QMenu *>()) {
+        if (menu->title().remove(u'&') == title)
+            return menu;
+    }
+    return nullptr;
+}
+
+QAction *MainMenusTest::action(HostWindow &window, const QString &text)
+{
+    for (QMenu *menu : window.window().menuBar()->findChildren<QMenu *>()) {
+        for (QAction *action : menu->actions()) {
+            if (action->text().remove(u'&').startsWith(text))
+                return action;
+        }
+    }
+    return nullptr;
+}
+
+void MainMenusTest::press(HostWindow &window, const QKeySequence &key)
+{
+    QTest::keySequence(&window.window(), key);
+}
+
+void MainMenusTest::everyActionHasAMnemonicAndNoShortcutTwice()
+{
+    HostWindow window;
+    QStringList shortcuts;
+    int count = 0;
+    for (const QAction *entry : window.window().menuBar()->actions()) {
+        const QMenu *menu = entry->menu();
+        QVERIFY2(menu->title().contains(u'&'), qPrintable(menu->title()));
+        for (const QAction *action : menu->actions()) {
+            if (action->isSeparator())
+                continue;
+            ++count;
+            QVERIFY2(action->text().contains(u'&'), qPrintable(action->text()));
+            if (!action->shortcut().isEmpty())
+                shortcuts.append(action->shortcut().toString());
+        }
+    }
+    QVERIFY(count >= 8);
+    QCOMPARE(shortcuts.removeDuplicates(), 0);
+}
+
+void MainMenusTest::keysUndoAndDoAgain()
+{
+    HostWindow window;
+    const QByteArray before = window.bytes();
+    window.clickCard(u"Pack B"_s);
+    window.settle();
+    const QByteArray after = window.bytes();
+    press(window, QKeySequence::Undo);
+    QCOMPARE(window.bytes(), before);
+    QVERIFY(!window.battery(u"Pack B"_s)->getBatteryCharged());
+    press(window, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+    QCOMPARE(window.bytes(), after);
+    QVERIFY(window.battery(u"Pack B"_s)->getBatteryCharged());
+    QVERIFY(window.questions.asked().isEmpty());
+}
+
+void MainMenusTest::theMenuNamesTheSteps()
+{
+    HostWindow window;
+    window.clickCard(u"Pack B"_s);
+    window.settle();
+    Q_EMIT menu(window, u"Edit"_s)->aboutToShow();
+    QCOMPARE(action(window, u"Undo"_s)->text(), u"&Undo: Charged Pack B"_s);
+    QCOMPARE(action(window, u"Redo"_s)->text(), u"&Redo"_s);
+    press(window, QKeySequence::Undo);
+    Q_EMIT menu(window, u"Edit"_s)->aboutToShow();
+    QCOMPARE(action(window, u"Undo"_s)->text(), u"&Undo"_s);
+    QCOMPARE(action(window, u"Redo"_s)->text(), u"&Redo: Charged Pack B"_s);
+}
+
+void MainMenusTest::withoutAStepThereIsNothingToUndo()
+{
+    HostWindow window;
+    QVERIFY(!action(window, u"Undo"_s)->isEnabled());
+    QVERIFY(!action(window, u"Redo"_s)->isEnabled());
+    window.clickCard(u"Pack B"_s);
+    window.settle();
+    QVERIFY(action(window, u"Undo"_s)->isEnabled());
+    press(window, QKeySequence::Undo);
+    QVERIFY(!action(window, u"Undo"_s)->isEnabled());
+    QVERIFY(action(window, u"Redo"_s)->isEnabled());
+}
+
+void MainMenusTest::nothingIsUndoneWhileAFlightIsEntered()
+{
+    HostWindow window;
+    window.clickCard(u"Pack B"_s);
+    window.settle();
+    const QByteArray bytes = window.bytes();
+    LogbookWindow::click(window.ui().pb_options);
+    LogbookWindow::click(window.ui().pb_mode);
+    LogbookWindow::click(window.ui().rb_modeAdvanced);
+    LogbookWindow::click(window.ui().pb_home);
+    window.clickCard(u"Pack A"_s);
+    QVERIFY(!action(window, u"Undo"_s)->isEnabled());
+    press(window, QKeySequence::Undo);
+    QCOMPARE(window.bytes(), bytes);
+    LogbookWindow::click(window.ui().pb_options);
+    QVERIFY(action(window, u"Undo"_s)->isEnabled());
+}
+
+void MainMenusTest::theSidePanelIsShownAndHiddenByAKey()
+{
+    HostWindow window;
+    auto *panel = window.window().findChild<SidePanel *>();
+    const bool before = panel->isVisible();
+    press(window, QKeySequence(Qt::Key_F9));
+    QCOMPARE(panel->isVisible(), !before);
+    QCOMPARE(action(window, u"Side Panel"_s)->isChecked(), !before);
+    press(window, QKeySequence(Qt::Key_F9));
+    QCOMPARE(panel->isVisible(), before);
+}
+
+void MainMenusTest::thePanelIsAsItWasAtTheNextStart()
+{
+    HostWindow window;
+    for (int times = 0; times < 2; ++times) {
+        press(window, QKeySequence(Qt::Key_F9));
+        const bool shown = window.window().findChild<SidePanel *>()->isVisible();
+        window.window().resize(700 + 50 * times, 600);
+        const QSize size = window.window().size();
+        QVERIFY(window.window().close());
+        window.restart();
+        QCOMPARE(window.window().findChild<SidePanel *>()->isVisible(), shown);
+        QCOMPARE(window.window().size(), size);
+    }
+}
+
+void MainMenusTest::anotherFolderIsAskedFor()
+{
+    HostWindow window;
+    const Requests requested(window);
+    window.questions.choose(window.place() + u"/other"_s);
+    press(window, QKeySequence::Open);
+    QCOMPARE(requested.paths.size(), 1);
+    QCOMPARE(requested.paths.constFirst(), window.place() + u"/other"_s);
+    window.questions.choose(window.path()); // it is open already
+    press(window, QKeySequence::Open);
+    window.questions.choose(QString());
+    press(window, QKeySequence::Open);
+    QCOMPARE(requested.paths.size(), 1);
+}
+
+void MainMenusTest::anotherFolderIsNotAskedForWhereInputWouldBeLost()
+{
+    HostWindow window;
+    const Requests requested(window);
+    window.goToEditPage();
+    LogbookWindow::click(window.ui().pb_choose_addlocation);
+    LogbookWindow::type(window.ui().ledt_location_new, u"Half"_s);
+    window.questions.choose(window.place() + u"/other"_s);
+    window.questions.answer(u"Go Back"_s);
+    press(window, QKeySequence::Open);
+    QCOMPARE(requested.paths.size(), 0);
+    QVERIFY(window.questions.isDone());
+}
+
+void MainMenusTest::foldersThatWereOpenAreOffered()
+{
+    HostWindow window;
+    QMenu *recent = menu(window, u"Open Recent"_s);
+    Q_EMIT recent->aboutToShow();
+    QCOMPARE(recent->actions().size(), 1);
+    QVERIFY(!recent->actions().constFirst()->isEnabled());
+    const QString other = window.place() + u"/Fish & Chips"_s;
+    Settings().addRecentFolder(other);
+    Q_EMIT recent->aboutToShow();
+    QCOMPARE(recent->actions().size(), 1);
+    QVERIFY(recent->actions().constFirst()->text().endsWith(u"Fish && Chips"_s));
+    const Requests requested(window);
+    recent->actions().constFirst()->trigger();
+    QCOMPARE(requested.paths.constFirst(), other);
+}
+
+void MainMenusTest::theManualOpensOnce()
+{
+    HostWindow window;
+    press(window, QKeySequence(Qt::Key_F1));
+    press(window, QKeySequence(Qt::Key_F1));
+    const auto manuals = window.window().findChildren<ManualWindow *>();
+    QCOMPARE(manuals.size(), 1);
+    QVERIFY(manuals.constFirst()->isVisible());
+    QVERIFY(manuals.constFirst()->toPlainText().contains(u"Voltbok"_s));
+    QTest::keyClick(manuals.constFirst(), Qt::Key_Escape);
+    QTRY_VERIFY(window.window().findChildren<ManualWindow *>().isEmpty());
+    QVERIFY(window.window().isVisible());
+}
+
+void MainMenusTest::theManualHasItsPictures()
+{
+    HostWindow window;
+    press(window, QKeySequence(Qt::Key_F1));
+    const auto *manual = window.window().findChild<ManualWindow *>();
+    int pictures = 0;
+    for (QTextBlock block = manual->document()->begin(); block.isValid(); block = block.next()) {
+        for (auto it = block.begin(); !it.atEnd(); ++it) {
+            const QTextImageFormat format = it.fragment().charFormat().toImageFormat();
+            if (!format.isValid())
+                continue;
+            ++pictures;
+            QVERIFY2(!QImage(u":/manual/"_s + format.name()).isNull(), qPrintable(format.name()));
+        }
+    }
+    QVERIFY(pictures > 5);
+}
+
+void MainMenusTest::aboutNamesTheVersionAndTheFolder()
+{
+    QCoreApplication::setApplicationVersion(u"7.8.9"_s);
+    HostWindow window;
+    action(window, u"About"_s)->trigger();
+    QCOMPARE(window.questions.told().size(), 1);
+    QVERIFY(window.questions.told().constFirst().contains(u"7.8.9"_s));
+    QVERIFY(window.questions.told().constFirst().contains(window.path()));
+}
+
+void MainMenusTest::quitClosesTheWindow()
+{
+    HostWindow window;
+    press(window, QKeySequence(Qt::CTRL | Qt::Key_Q));
+    QVERIFY(!window.window().isVisible());
+}
+
+QTEST_MAIN(MainMenusTest)
+#include "tst_mainmenus.moc"
