@@ -154,9 +154,9 @@ void BatteriesTabTest::selectionAndOrderSurviveAChange()
 
 void BatteriesTabTest::theSecondOfTwoNamesakesStaysChosen()
 {
-    auto batteries = Flown::batteries();
-    batteries[1].name = batteries[0].name;
-    HostWindow window(Catalogue::file(Flown::models(), batteries));
+    Test::Catalogue catalogue = Flown::catalogue();
+    catalogue.batteries[1].name = catalogue.batteries[0].name;
+    HostWindow window(Test::document(catalogue));
     const QWidget &tab = Panel::open(window, SidePanel::Batteries);
     QTest::keyClick(&table(tab), Qt::Key_Down);
     QCOMPARE(table(tab).currentIndex().row(), 1);

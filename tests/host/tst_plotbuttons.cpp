@@ -2,6 +2,7 @@
 // Saving, copying and printing a plot.
 #include "tests/host/support/shownplot.h"
 #include "tests/support/brokendisk.h"
+#include "tests/support/files.h"
 
 #include <QClipboard>
 #include <QSvgRenderer>
@@ -62,7 +63,7 @@ void PlotButtonsTest::itIsSavedAsAPicture()
     if (name.endsWith(u"svg"_s)) {
         QSvgRenderer drawing(m_shown->file(name));
         QVERIFY(drawing.isValid());
-        QVERIFY(HostWindow::read(m_shown->file(name)).contains("Capacity used of Pack A"));
+        QVERIFY(Test::contents(m_shown->file(name)).contains("Capacity used of Pack A"));
         picture = QImage(drawing.defaultSize(), QImage::Format_RGB32);
         picture.fill(Qt::white);
         QPainter painter(&picture);
@@ -129,7 +130,7 @@ void PlotButtonsTest::whatCannotBeSavedIsTold()
     QVERIFY2(m_shown->questions.told().constFirst().contains(reason),
              qPrintable(m_shown->questions.told().constFirst()));
     QCOMPARE(QDir(m_shown->folder.path()).entryList(QDir::Files), QStringList{u"plot.png"_s});
-    QCOMPARE(HostWindow::read(before.fileName()), QByteArray("before"));
+    QCOMPARE(Test::contents(before.fileName()), QByteArray("before"));
 }
 
 void PlotButtonsTest::whoDoesNotChooseAFileSavesNothing()
@@ -155,7 +156,7 @@ void PlotButtonsTest::itIsPrinted()
     m_shown->press(u"Print Plot…"_s);
     QCOMPARE(m_shown->questions.told(), QStringList());
     QCOMPARE(m_shown->questions.proposed(), QStringList{u"Capacity used of Pack A"_s});
-    const QByteArray pdf = HostWindow::read(m_shown->file(u"plot.pdf"_s));
+    const QByteArray pdf = Test::contents(m_shown->file(u"plot.pdf"_s));
     QVERIFY(pdf.startsWith("%PDF"));
     QVERIFY(pdf.contains("/Font"));
     QCOMPARE(m_shown->chart().size().toSize(), m_shown->view().size());

@@ -173,10 +173,10 @@ void StatisticsTabTest::aRangeThatEndsBeforeItBeginsIsTold()
 
 void StatisticsTabTest::whatTheTableLeavesOutIsTold()
 {
-    auto models = Flown::models();
-    models[0].flights[0].location.clear();
-    models[0].flights[1].date = QDateTime();
-    HostWindow window(Catalogue::file(models, Flown::batteries()));
+    Test::Catalogue catalogue = Flown::catalogue();
+    catalogue.models[0].flights[0].location.clear();
+    catalogue.models[0].flights[1].date = QDateTime();
+    HostWindow window(Test::document(catalogue));
     const QWidget &tab = Panel::open(window, SidePanel::Statistics);
     QVERIFY(Panel::said(tab).contains(u"1 flights without a time are not in the table."_s));
     choose(tab, u"Add up by"_s, u"Location"_s);
