@@ -4,7 +4,6 @@
 #include "host/window/plotview.h"
 
 #include <QBuffer>
-#include <QPageLayout>
 #include <QPainter>
 #include <QPrinter>
 #include <QSvgGenerator>
@@ -35,6 +34,7 @@ QByteArray PlotPictures::svg(PlotView &plot)
     QBuffer buffer;
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
+    generator.setResolution(plot.logicalDpiX()); // else its texts would have another size than its marks
     generator.setSize(plot.pictureSize());
     generator.setViewBox(QRect(QPoint(), plot.pictureSize()));
     generator.setTitle(plot.accessibleName());

@@ -17,7 +17,7 @@ QImage image(PlotView &plot);
 QByteArray png(PlotView &plot);
 QByteArray svg(PlotView &plot);
 
-/** Prints on one page across. @return whether the printer took it. */
+/** Prints on one page. @return whether the printer took it. */
 bool print(PlotView &plot, QPrinter &printer);
 
 } // namespace PlotPictures

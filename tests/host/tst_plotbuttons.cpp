@@ -63,8 +63,14 @@ void PlotButtonsTest::itIsSavedAsAPicture()
     if (name.endsWith(u"svg"_s)) {
         QSvgRenderer drawing(m_shown->file(name));
         QVERIFY(drawing.isValid());
-        QVERIFY(Test::contents(m_shown->file(name)).contains("Capacity used of Pack A"));
-        picture = QImage(drawing.defaultSize(), QImage::Format_RGB32);
+        const QString text = QString::fromUtf8(Test::contents(m_shown->file(name)));
+        QVERIFY(text.contains(u"Capacity used of Pack A"_s));
+        const double fontSize = QRegularExpression(u"<g [^>]*font-size=\"([\\d.]+)\"[^>]*>\\s*<text"_s)
+                                    .match(text)
+                                    .captured(1)
+                                    .toDouble();
+        QVERIFY(qAbs(fontSize - QFontInfo(m_shown->view().font()).pixelSize()) <= 1.0);
+        picture = QImage(drawing.viewBox().size(), QImage::Format_RGB32);
         picture.fill(Qt::white);
         QPainter painter(&picture);
         drawing.render(&painter);
