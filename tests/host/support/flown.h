@@ -56,7 +56,7 @@ inline Test::Catalogue catalogue()
     all.models = {
         model(u"Kestrel"_s, {flight(noon(2026, 3, 1), u"Meadow"_s, 5), flight(noon(2026, 5, 1), u"Hill"_s, 7),
                              flight(noon(2026, 5, 2), u"Meadow"_s, 8)}),
-        model(u"Wren"_s, {flight(noon(2026, 5, 3), u"Meadow"_s, 10)})};
+        model(u"Wren"_s, {flight(noon(2026, 5, 3), u"Meadow"_s, 9)})};
     return all;
 }
 
