@@ -158,6 +158,8 @@ void PlotButtonsTest::itIsCopied()
 
 void PlotButtonsTest::itIsPrinted()
 {
+    m_shown->plot.resize(350, 400); // smaller than what reads well on paper
+    QCoreApplication::processEvents();
     m_shown->questions.printTo(m_shown->file(u"plot.pdf"_s));
     m_shown->press(u"Print Plot…"_s);
     QCOMPARE(m_shown->questions.told(), QStringList());
