@@ -189,6 +189,14 @@ void BatteriesTabTest::anAdviceLeadsToItsBattery()
     QCOMPARE(chosen(*panel->currentWidget()), u"Pack C"_s);
     panel->showBattery(u"nobody knows it"_s);
     QCOMPARE(chosen(*panel->currentWidget()), u"Pack C"_s);
+    window.logbook().change(u"More"_s, [](Host::Catalogue &catalogue) {
+        Host::Battery battery;
+        battery.name = u"Pack D"_s;
+        catalogue.batteries.append(battery);
+        return QString();
+    });
+    panel->showBattery(u"Pack D"_s); // at once, before the panel shows what is new
+    QCOMPARE(chosen(*panel->currentWidget()), u"Pack D"_s);
 }
 
 void BatteriesTabTest::anEmptyLogbookSaysWhatToDoFirst()
