@@ -37,5 +37,7 @@ void startup(Report &report, const Plan &plan);
 void care(Report &report, const Plan &plan);
 /** Opening, sorting and filtering the table of all flights, against the window's own reload. */
 void flights(Report &report, const Plan &plan);
+/** Figures and plots of a large logbook, against the window's own reload. */
+void figures(Report &report, const Plan &plan);
 
 } // namespace Benchmarks

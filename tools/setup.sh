@@ -3,7 +3,7 @@
 # Shared by ./run and ./test: installs what is missing, configures and builds. Read with "source" from the top of the
 # source tree. Everything is said on standard error, so that standard output belongs to the program.
 
-build_packages=(g++ cmake ninja-build qt6-base-dev libqt6opengl6-dev qt6-charts-dev)
+build_packages=(g++ cmake ninja-build qt6-base-dev libqt6opengl6-dev qt6-charts-dev qt6-svg-dev)
 test_packages=(qt6-tools-dev qt6-l10n-tools xvfb adwaita-qt6 qt6ct python3)
 check_packages=(clang clang-tidy clazy libbenchmark-dev libclang-rt-dev shellcheck) # what CI adds
 test_preset=${VOLTBOK_PRESET-dev} # CI asks for "check", in which warnings are errors
@@ -38,10 +38,10 @@ install_packages() {
 }
 
 name_packages() {
-    say "Voltbok needs a C++17 compiler, CMake 3.21, Ninja and Qt 6.4 with Charts (for the tests, Linguist too). Try:"
-    say "  Fedora:        dnf install gcc-c++ cmake ninja-build qt6-qtbase-devel qt6-qtcharts-devel qt6-qttools-devel"
-    say "  Arch:          pacman -S --needed base-devel cmake ninja qt6-base qt6-charts qt6-tools"
-    say "  openSUSE:      zypper install gcc-c++ cmake ninja qt6-base-devel qt6-charts-devel qt6-tools-devel"
+    say "Voltbok needs a C++17 compiler, CMake 3.21, Ninja and Qt 6.4 with Charts and SVG (for the tests, Linguist too). Try:"
+    say "  Fedora:        dnf install gcc-c++ cmake ninja-build qt6-qtbase-devel qt6-qtcharts-devel qt6-qtsvg-devel qt6-qttools-devel"
+    say "  Arch:          pacman -S --needed base-devel cmake ninja qt6-base qt6-charts qt6-svg qt6-tools"
+    say "  openSUSE:      zypper install gcc-c++ cmake ninja qt6-base-devel qt6-charts-devel qt6-svg-devel qt6-tools-devel"
     say "  macOS (brew):  brew install cmake ninja qt"
 }
 

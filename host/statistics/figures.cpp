@@ -15,10 +15,12 @@ namespace Host {
 namespace {
 
 constexpr double SecondsOfAMinute = 60.0;
+constexpr QStringView MonthFormat = u"yyyy-MM";
 
-QString monthOf(const QDateTime &time)
+/** The first day of the month: far cheaper than its name, which is wanted once for many entries. */
+QDate monthOf(const QDateTime &time)
 {
-    return time.date().toString(u"yyyy-MM");
+    return time.date().addDays(1 - time.date().day());
 }
 
 double minutesOf(const Flight &flight)
@@ -70,7 +72,13 @@ public:
         addTo(discharge.time, [&](MonthFigures &figures) { figures.discharged += discharge.discharged; });
     }
 
-    QList<MonthFigures> months() const { return m_months.values(); }
+    QList<MonthFigures> months() const
+    {
+        QMap<QDate, MonthFigures> named = m_months;
+        for (auto month = named.begin(); month != named.end(); ++month)
+            month->month = month.key().toString(MonthFormat);
+        return named.values();
+    }
     const MonthFigures &total() const { return m_total; }
 
 private:
@@ -80,30 +88,48 @@ private:
         add(m_total);
         if (!time.isValid())
             return;
-        const QString month = monthOf(time);
-        MonthFigures &figures = m_months[month];
-        figures.month = month;
-        add(figures);
+        add(m_months[monthOf(time)]);
     }
 
-    QMap<QString, MonthFigures> m_months;
+    QMap<QDate, MonthFigures> m_months;
     MonthFigures m_total;
 };
 
-void addFlights(BatteryFigures &figures, const FlightIndex &index, const Discharge &discharge,
-                QSet<qint64> &seen)
+/** The flights at the times of a battery's discharges, each time once. */
+class FlownTimes
 {
-    const qint64 moment = discharge.time.isValid() ? discharge.time.toMSecsSinceEpoch() : 0;
-    if (!discharge.time.isValid() || seen.contains(moment))
-        return;
-    seen.insert(moment);
-    const QList<FlightIndex::Entry> flights = index.flightsAt(discharge.time);
-    for (const FlightIndex::Entry &entry : flights) {
-        ++figures.flights;
-        figures.minutes += minutesOf(*entry.flight);
-        ++figures.flightsPerMonth[monthOf(discharge.time)];
+public:
+    explicit FlownTimes(const FlightIndex &index)
+        : m_index(index)
+    {
     }
-}
+
+    void add(const QDateTime &time, BatteryFigures &figures)
+    {
+        if (!time.isValid() || m_seen.contains(momentOf(time)))
+            return;
+        m_seen.insert(momentOf(time));
+        const QList<FlightIndex::Entry> flights = m_index.flightsAt(time);
+        for (const FlightIndex::Entry &entry : flights) {
+            ++figures.flights;
+            figures.minutes += minutesOf(*entry.flight);
+            ++m_months[monthOf(time)];
+        }
+    }
+
+    QMap<QString, int> months() const
+    {
+        QMap<QString, int> named;
+        for (auto month = m_months.cbegin(); month != m_months.cend(); ++month)
+            named.insert(month.key().toString(MonthFormat), month.value());
+        return named;
+    }
+
+private:
+    const FlightIndex &m_index;
+    QSet<qint64> m_seen;
+    QMap<QDate, int> m_months;
+};
 
 BatteryFigures figuresOfBattery(const Battery &battery, const FlightIndex &index, const DateRange &range,
                                 QDate today)
@@ -114,13 +140,13 @@ BatteryFigures figuresOfBattery(const Battery &battery, const FlightIndex &index
     double countedCharge = 0.0; // mAh of the flights with a duration, and their minutes
     double countedMinutes = 0.0;
     unsigned int highest = 0;
-    QSet<qint64> seen;
+    FlownTimes flown(index);
     for (const Discharge &discharge : battery.discharges) {
         if (!range.contains(discharge.time))
             continue;
         ++figures.discharges;
         figures.dischargedTotal += discharge.discharged;
-        addFlights(figures, index, discharge, seen);
+        flown.add(discharge.time, figures);
         const Source source = sourceOf(battery, discharge);
         if (source == Source::Guessed)
             figures.dischargedGuessed += discharge.discharged;
@@ -146,6 +172,7 @@ BatteryFigures figuresOfBattery(const Battery &battery, const FlightIndex &index
         figures.maxLoad = quotient(highest * 10.0, capacity); // hundredths of A by mAh
     figures.ageDays = ageInDays(battery, today);
     figures.daysSinceUse = daysSinceUse(battery, today);
+    figures.flightsPerMonth = flown.months();
     figures.chargePerMinute = quotient(countedCharge, countedMinutes);
     return figures;
 }

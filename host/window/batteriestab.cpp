@@ -1,22 +1,131 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/batteriestab.h"
 
+#include "host/window/batteriesmodel.h"
+#include "host/window/batteryplot.h"
 #include "host/window/openlogbook.h"
 
+#include <QHeaderView>
+#include <QLabel>
+#include <QSortFilterProxyModel>
+#include <QSplitter>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
 namespace Host {
+namespace {
+
+/** How many batteries before @p row have the name of that one. */
+int namesakesBefore(const Catalogue &catalogue, int row)
+{
+    const QList<Battery> &all = catalogue.batteries;
+    return static_cast<int>(std::count_if(all.cbegin(), all.cbegin() + row, [&](const Battery &battery) {
+        return battery.name == all.at(row).name;
+    }));
+}
+
+} // namespace
 
 BatteriesTab::BatteriesTab(OpenLogbook &logbook, Questions &questions, QWidget *parent)
     : PanelTab(parent)
     , m_logbook(logbook)
-    , m_questions(questions)
+    , m_heading(
+          new QLabel(tr("There is no battery yet. Add your first one: press the menu button, then Edit.")))
+    , m_splitter(new QSplitter(Qt::Vertical))
+    , m_table(new QTableView)
+    , m_model(new BatteriesModel(this))
+    , m_sorted(new QSortFilterProxyModel(this))
+    , m_plot(new BatteryPlot(questions))
 {
+    buildTable();
+    m_splitter->addWidget(m_table);
+    m_splitter->addWidget(m_plot);
+    m_splitter->setChildrenCollapsible(false);
+    m_heading->setWordWrap(true);
+    m_heading->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    auto *layout = new QVBoxLayout(this);
+    layout->addWidget(m_heading);
+    layout->addWidget(m_splitter, 1);
 }
 
-void BatteriesTab::refresh() {}
+void BatteriesTab::buildTable()
+{
+    m_sorted->setSourceModel(m_model);
+    m_sorted->setSortRole(BatteriesModel::SortRole);
+    m_sorted->setSortLocaleAware(true);
+    m_table->setModel(m_sorted);
+    m_table->setAccessibleName(tr("Batteries and their figures"));
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setTabKeyNavigation(false);
+    m_table->setAlternatingRowColors(true);
+    m_table->setWordWrap(false);
+    m_table->verticalHeader()->hide();
+    m_table->setSortingEnabled(true);
+    m_table->sortByColumn(-1, Qt::AscendingOrder); // as in the file, until the user wishes otherwise
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &BatteriesTab::showChosen);
+}
+
+void BatteriesTab::refresh()
+{
+    const std::shared_ptr<const Catalogue> catalogue = m_logbook.catalogue();
+    if (!catalogue)
+        return;
+    const int row = chosenRow();
+    const QString name = row < 0 ? QString() : m_catalogue->batteries.at(row).name;
+    const int nth = row < 0 ? 0 : namesakesBefore(*m_catalogue, row);
+    m_catalogue = catalogue;
+    m_model->setFigures(figuresOf(*catalogue, {}, QDate::currentDate()).batteries, catalogue->batteries);
+    m_heading->setVisible(catalogue->batteries.isEmpty());
+    m_splitter->setVisible(!catalogue->batteries.isEmpty());
+    if (catalogue->batteries.isEmpty())
+        showChosen();
+    else
+        choose(std::max(rowOf(name, nth), 0));
+}
+
+/** The row of the catalogue; -1 without any. */
+int BatteriesTab::chosenRow() const
+{
+    return m_sorted->mapToSource(m_table->currentIndex()).row();
+}
+
+void BatteriesTab::choose(int row)
+{
+    const QModelIndex index = m_sorted->mapFromSource(m_model->index(row, BatteriesModel::Name));
+    m_table->setCurrentIndex(index);
+    m_table->scrollTo(index);
+}
+
+/** The nth battery of this name, or the last one before it; -1 when there is none. */
+int BatteriesTab::rowOf(const QString &name, int nth) const
+{
+    int row = -1;
+    for (int i = 0; i < m_catalogue->batteries.size() && nth >= 0; ++i) {
+        if (m_catalogue->batteries.at(i).name != name)
+            continue;
+        row = i;
+        --nth;
+    }
+    return row;
+}
+
+void BatteriesTab::showChosen()
+{
+    const int row = chosenRow();
+    m_plot->setBattery(row < 0 ? std::nullopt : std::optional(m_catalogue->batteries.at(row)));
+}
 
 void BatteriesTab::select(const QString &name)
 {
-    Q_UNUSED(name)
+    refresh(); // what is asked for may be newer than what is on show
+    if (const int row = m_catalogue ? rowOf(name, 0) : -1; row >= 0)
+        choose(row);
 }
 
 } // namespace Host

@@ -1,10 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "host/data/catalogue.h"
 #include "host/window/paneltab.h"
+
+#include <memory>
+
+class QLabel;
+class QSortFilterProxyModel;
+class QSplitter;
+class QTableView;
 
 namespace Host {
 
+class BatteriesModel;
+class BatteryPlot;
 class OpenLogbook;
 class Questions;
 
@@ -23,8 +33,20 @@ public:
     void select(const QString &name);
 
 private:
+    void buildTable();
+    int chosenRow() const;
+    void choose(int row);
+    int rowOf(const QString &name, int nth) const;
+    void showChosen();
+
     OpenLogbook &m_logbook;
-    Questions &m_questions;
+    std::shared_ptr<const Catalogue> m_catalogue; ///< on show
+    QLabel *m_heading;
+    QSplitter *m_splitter;
+    QTableView *m_table;
+    BatteriesModel *m_model;
+    QSortFilterProxyModel *m_sorted;
+    BatteryPlot *m_plot;
 };
 
 } // namespace Host

@@ -6,12 +6,18 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QStyle>
 #include <QTableView>
 
@@ -148,6 +154,20 @@ Answer QuestionBox::ask()
     return {m_button, m_choices ? m_choices->currentIndex().row() : -1};
 }
 
+/** "png" for "PNG picture (*.png)". */
+QString endingOf(const QString &filter)
+{
+    static const QRegularExpression pattern(u"\\*\\.(\\w+)"_s);
+    return pattern.match(filter).captured(1);
+}
+
+/** Where a user would look for what he saves. */
+QString folderOfDocuments()
+{
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileInfo::exists(documents) ? documents : QDir::homePath();
+}
+
 } // namespace
 
 Answer BoxQuestions::ask(const Question &question)
@@ -166,6 +186,27 @@ void BoxQuestions::tell(const QString &text)
 QString BoxQuestions::chooseFolder(const QString &caption)
 {
     return QFileDialog::getExistingDirectory(QApplication::activeWindow(), caption);
+}
+
+QString BoxQuestions::chooseSaveFile(const QString &caption, const QString &name, const QStringList &filters)
+{
+    QFileDialog dialog(QApplication::activeWindow(), caption, folderOfDocuments());
+    dialog.setAcceptMode(QFileDialog::AcceptSave); // asks before a file is replaced
+    dialog.setNameFilters(filters);
+    dialog.setDefaultSuffix(endingOf(filters.value(0)));
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&dialog](const QString &filter) { dialog.setDefaultSuffix(endingOf(filter)); });
+    dialog.selectFile(name);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+void BoxQuestions::print(const QString &name, const std::function<void(QPrinter &)> &paint)
+{
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(name);
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    if (dialog.exec() == QDialog::Accepted)
+        paint(printer);
 }
 
 } // namespace Host

@@ -4,7 +4,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class QAbstractItemModel;
+class QPrinter;
 
 namespace Host {
 
@@ -42,6 +45,16 @@ public:
     virtual void tell(const QString &text) = 0;
     /** Lets the user choose an existing folder; empty when he does not. */
     virtual QString chooseFolder(const QString &caption) = 0;
+    /**
+     * Lets the user choose a file to write, and asks before it is one that exists; empty when he does not.
+     *
+     * @param name that is proposed, without a folder.
+     * @param filters such as "PNG picture (*.png)"; the chosen one ends a name that has no ending.
+     */
+    virtual QString chooseSaveFile(const QString &caption, const QString &name,
+                                   const QStringList &filters) = 0;
+    /** Lets the user choose a printer, and paints on it when he does. @param name of what is printed. */
+    virtual void print(const QString &name, const std::function<void(QPrinter &)> &paint) = 0;
 };
 
 /** Shows boxes. */
@@ -51,6 +64,8 @@ public:
     Answer ask(const Question &question) override;
     void tell(const QString &text) override;
     QString chooseFolder(const QString &caption) override;
+    QString chooseSaveFile(const QString &caption, const QString &name, const QStringList &filters) override;
+    void print(const QString &name, const std::function<void(QPrinter &)> &paint) override;
 };
 
 /** For a program that nobody can see: every question is refused. */
@@ -60,6 +75,11 @@ public:
     Answer ask(const Question &question) override { return {question.refusal, -1}; }
     void tell(const QString &) override {}
     QString chooseFolder(const QString &) override { return QString(); }
+    QString chooseSaveFile(const QString &, const QString &, const QStringList &) override
+    {
+        return QString();
+    }
+    void print(const QString &, const std::function<void(QPrinter &)> &) override {}
 };
 
 } // namespace Host

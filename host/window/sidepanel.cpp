@@ -16,7 +16,7 @@ SidePanel::SidePanel(OpenLogbook &logbook, Questions &questions, QWidget *parent
     , m_today(new TodayTab(logbook))
     , m_batteries(new BatteriesTab(logbook, questions))
     , m_flights(new FlightsTab(logbook, questions))
-    , m_statistics(new StatisticsTab(logbook))
+    , m_statistics(new StatisticsTab(logbook, questions))
 {
     insertTab(Today, m_today, tr("Today"));
     insertTab(Batteries, m_batteries, tr("Batteries"));

@@ -7,7 +7,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QDialog>
-#include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -42,7 +41,6 @@ private Q_SLOTS:
     void itFitsOnASmallScreen();
     void everythingIsInsideOfTheBox_data();
     void everythingIsInsideOfTheBox();
-    void aFolderIsChosenOrNot();
 
 private:
     /** Asks, and lets somebody act on the box as soon as it is there. */
@@ -326,18 +324,6 @@ void QuestionsTest::everythingIsInsideOfTheBox()
         }
         pressKey(box, Qt::Key_Escape);
     });
-}
-
-void QuestionsTest::aFolderIsChosenOrNot()
-{
-    QTimer::singleShot(200, this, [] {
-        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        QCOMPARE(dialog->windowTitle(), u"Keep it"_s);
-        QCOMPARE(dialog->fileMode(), QFileDialog::Directory);
-        dialog->reject();
-    });
-    QCOMPARE(Host::BoxQuestions().chooseFolder(u"Keep it"_s), QString());
 }
 
 int main(int argc, char *argv[])

@@ -50,6 +50,11 @@ public:
 
     void tell(const QString &text) override { told.append(text); }
     QString chooseFolder(const QString &) override { return QString(); }
+    QString chooseSaveFile(const QString &, const QString &, const QStringList &) override
+    {
+        return QString();
+    }
+    void print(const QString &, const std::function<void(QPrinter &)> &) override {}
 
     QList<Asked> asked;
     QStringList told;

@@ -5,6 +5,7 @@
 
 #include <QAbstractItemModel>
 #include <QList>
+#include <QPrinter>
 #include <QTest>
 
 /**
@@ -19,13 +20,23 @@ public:
     /** The next time a folder is asked for, it is this one; empty: the user does not choose any. */
     void choose(const QString &folder) { m_folders.append(folder); }
 
+    /** The next time a file to write is asked for, it is this one; empty: the user does not choose any. */
+    void chooseFile(const QString &path) { m_files.append(path); }
+    /** The next time something is printed, it becomes this PDF; empty: the user does not print. */
+    void printTo(const QString &path) { m_prints.append(path); }
+
+    /** The names that were proposed for files, and those of what was to be printed. */
+    const QStringList &proposed() const { return m_proposed; }
     /** The questions that were asked. Their tables are gone: @see tables(). */
     const QList<Host::Question> &asked() const { return m_asked; }
     /** For each question the first column of its table. */
     const QList<QStringList> &tables() const { return m_tables; }
     const QStringList &told() const { return m_told; }
     /** Whether every answer was asked for. */
-    bool isDone() const { return m_answers.isEmpty() && m_folders.isEmpty(); }
+    bool isDone() const
+    {
+        return m_answers.isEmpty() && m_folders.isEmpty() && m_files.isEmpty() && m_prints.isEmpty();
+    }
 
     Host::Answer ask(const Host::Question &question) override
     {
@@ -49,6 +60,30 @@ public:
             return m_folders.takeFirst();
         fail("a folder that nobody expected to be asked for: " + caption);
         return QString();
+    }
+
+    QString chooseSaveFile(const QString &caption, const QString &name, const QStringList &) override
+    {
+        m_proposed.append(name);
+        if (!m_files.isEmpty())
+            return m_files.takeFirst();
+        fail("a file that nobody expected to be asked for: " + caption);
+        return QString();
+    }
+
+    void print(const QString &name, const std::function<void(QPrinter &)> &paint) override
+    {
+        m_proposed.append(name);
+        if (m_prints.isEmpty())
+            return fail("something that nobody expected to be printed: " + name);
+        const QString path = m_prints.takeFirst();
+        if (path.isEmpty())
+            return;
+        QPrinter printer(QPrinter::HighResolution);
+        printer.setDocName(name);
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(path);
+        paint(printer);
     }
 
 private:
@@ -79,6 +114,9 @@ private:
 
     QList<Scripted> m_answers;
     QStringList m_folders;
+    QStringList m_files;
+    QStringList m_prints;
+    QStringList m_proposed;
     QList<Host::Question> m_asked;
     QList<QStringList> m_tables;
     QStringList m_told;
