@@ -93,8 +93,10 @@ void FlightsTab::refreshWith(const QList<FlightPlace> &chosen)
     const std::shared_ptr<const Catalogue> catalogue = m_logbook.catalogue();
     if (catalogue && catalogue != m_flights.catalogue()) {
         m_bar->offer(*catalogue);
-        m_table->showVersion(catalogue, chosen);
+        m_table->showVersion(catalogue);
     }
+    if (!chosen.isEmpty())
+        m_table->choose(chosen);
     updateCount();
     updateCommands();
 }
