@@ -28,10 +28,10 @@ public:
 
     double open()
     {
-        table.showVersion(nullptr, {});
+        table.showVersion(nullptr);
         settle();
         return Measure::threadSeconds([this] {
-            table.showVersion(catalogue, {});
+            table.showVersion(catalogue);
             settle();
         });
     }

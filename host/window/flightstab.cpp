@@ -17,6 +17,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace Host {
@@ -43,8 +44,7 @@ FlightsTab::FlightsTab(OpenLogbook &logbook, Questions &questions, QWidget *pare
     connect(&m_logbook, &OpenLogbook::possibilitiesChanged, this, &FlightsTab::updateCommands);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &FlightsTab::updateCommands);
-    // Queued: the editor is gone when the table is shown anew.
-    connect(&m_flights, &FlightsModel::editRequested, this, &FlightsTab::edit, Qt::QueuedConnection);
+    connect(&m_flights, &FlightsModel::editRequested, this, &FlightsTab::editLater);
     connect(m_bar, &FilterBar::changed, this, [this] {
         m_filter.setFilter(m_bar->filter());
         updateCount();
@@ -93,8 +93,10 @@ void FlightsTab::refreshWith(const QList<FlightPlace> &chosen)
     const std::shared_ptr<const Catalogue> catalogue = m_logbook.catalogue();
     if (catalogue && catalogue != m_flights.catalogue()) {
         m_bar->offer(*catalogue);
-        m_table->showVersion(catalogue, chosen);
+        m_table->showVersion(catalogue);
     }
+    if (!chosen.isEmpty())
+        m_table->choose(chosen);
     updateCount();
     updateCommands();
 }
@@ -139,9 +141,16 @@ void FlightsTab::finish(const QString &problem, const QList<FlightPlace> &chosen
     refreshWith(problem.isEmpty() ? chosen : QList<FlightPlace>());
 }
 
-void FlightsTab::edit(const FlightPlace &place, int column, const QVariant &value)
+/** When the editor is gone: the table is then shown anew. */
+void FlightsTab::editLater(const FlightPlace &place, int column, const QVariant &value)
 {
     const std::shared_ptr<const Catalogue> shown = m_flights.catalogue();
+    QTimer::singleShot(0, this, [this, shown, place, column, value] { edit(shown, place, column, value); });
+}
+
+void FlightsTab::edit(const std::shared_ptr<const Catalogue> &shown, const FlightPlace &place, int column,
+                      const QVariant &value)
+{
     FlightPlace edited = place;
     const QString problem = m_logbook.change(tr("Flight edited"), [&](Catalogue &catalogue) {
         if (!FlightEdits::areThere({place}, *shown, catalogue))

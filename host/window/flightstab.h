@@ -35,7 +35,9 @@ private:
     void refreshWith(const QList<FlightPlace> &chosen);
     void updateCommands();
     void updateCount();
-    void edit(const FlightPlace &place, int column, const QVariant &value);
+    void editLater(const FlightPlace &place, int column, const QVariant &value);
+    void edit(const std::shared_ptr<const Catalogue> &shown, const FlightPlace &place, int column,
+              const QVariant &value);
     void addFlight();
     void deleteFlights();
     void moveFlights();

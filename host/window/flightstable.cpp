@@ -74,32 +74,35 @@ QList<FlightPlace> FlightsTable::chosen() const
     return places;
 }
 
-void FlightsTable::showVersion(std::shared_ptr<const Catalogue> catalogue, const QList<FlightPlace> &chosen)
+void FlightsTable::choose(const QList<FlightPlace> &places)
+{
+    QList<int> rows;
+    for (const FlightPlace &place : places)
+        rows.append(m_flights.rowOf(place));
+    chooseRows(rows, qMax(0, currentIndex().column()));
+    if (isAnyChosen())
+        scrollTo(currentIndex());
+}
+
+void FlightsTable::showVersion(std::shared_ptr<const Catalogue> catalogue)
 {
     const std::shared_ptr<const Catalogue> before = m_flights.catalogue();
-    const QList<FlightPlace> old = this->chosen();
+    const QList<FlightPlace> old = chosen();
     const QModelIndex current = currentIndex();
-    const int currentColumn = current.isValid() ? current.column() : 0;
+    const int currentRow = current.row();
+    const int currentColumn = qMax(0, current.column());
     const int across = horizontalScrollBar()->value();
     const int down = verticalScrollBar()->value();
     m_flights.setCatalogue(std::move(catalogue));
-    QList<int> rows;
-    for (const FlightPlace &place : chosen)
-        rows.append(m_flights.rowOf(place));
-    if (chosen.isEmpty() && before)
-        rows = rowsAfter(old, *before);
     updateGeometries(); // else the scroll bars still know the rows before
-    choose(rows);
-    const QModelIndexList first = selectionModel()->selectedRows(currentColumn);
-    const QModelIndex next = first.isEmpty()
-                                 ? m_filter.index(qMin(current.row(), m_filter.rowCount() - 1), currentColumn)
-                                 : first.constFirst();
-    if (next.isValid())
-        selectionModel()->setCurrentIndex(next, QItemSelectionModel::NoUpdate);
+    if (before)
+        chooseRows(rowsAfter(old, *before), currentColumn);
+    if (!isAnyChosen() && currentRow >= 0) // the next one to work on
+        selectionModel()->setCurrentIndex(
+            m_filter.index(qMin(currentRow, m_filter.rowCount() - 1), currentColumn),
+            QItemSelectionModel::NoUpdate);
     horizontalScrollBar()->setValue(across);
     verticalScrollBar()->setValue(down);
-    if (!chosen.isEmpty() && next.isValid())
-        scrollTo(next);
 }
 
 /** Where flights of the version before are now: at the same place, else the first of that model and time. */
@@ -128,8 +131,8 @@ QList<int> FlightsTable::rowsAfter(const QList<FlightPlace> &places, const Catal
     return rows;
 }
 
-/** Chooses rows of the flights, as far as they are on show. */
-void FlightsTable::choose(const QList<int> &rows)
+/** Chooses rows of the flights, as far as they are on show; the first is the current one. */
+void FlightsTable::chooseRows(const QList<int> &rows, int column)
 {
     QList<int> shown;
     for (const int row : rows) {
@@ -148,6 +151,9 @@ void FlightsTable::choose(const QList<int> &rows)
         ++i;
     }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!shown.isEmpty())
+        selectionModel()->setCurrentIndex(m_filter.index(shown.constFirst(), column),
+                                          QItemSelectionModel::NoUpdate);
 }
 
 /** Tab leads to the next cell without editing it: an edit shows the table anew. */

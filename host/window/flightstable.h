@@ -26,19 +26,18 @@ public:
     QList<FlightPlace> chosen() const;
     bool isAnyChosen() const;
 
-    /**
-     * Shows another version of the logbook.
-     *
-     * @param chosen flights that are chosen then; without any those that were.
-     */
-    void showVersion(std::shared_ptr<const Catalogue> catalogue, const QList<FlightPlace> &chosen);
+    /** Chooses flights, as far as they are on show, and scrolls to them. */
+    void choose(const QList<FlightPlace> &places);
+
+    /** Shows another version of the logbook. */
+    void showVersion(std::shared_ptr<const Catalogue> catalogue);
 
 protected:
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:
     QList<int> rowsAfter(const QList<FlightPlace> &places, const Catalogue &before) const;
-    void choose(const QList<int> &rows);
+    void chooseRows(const QList<int> &rows, int column);
     void setColumnWidths();
 
     FlightsModel &m_flights;

@@ -99,6 +99,7 @@ void FlightCommandsTest::aFlightIsAdded()
         dialog.m_location->setCurrentText(u"New field"_s);
         dialog.m_notes->setPlainText(u"first\nsecond"_s);
         FlightsWindow::confirm(dialog);
+        QCoreApplication::processEvents(); // the panel is refreshed before the dialog is gone
     });
     Catalogue meant = logbook();
     meant.models[1].log.append({at(13, 0), QTime(0, 5, 45), u"New field"_s, 0, u"first\nsecond"_s});

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void whatCannotBeIsToldAndChangesNothing();
     void whatCannotBeWrittenIsToldAndChangesNothing();
     void aFlightThatSomebodyElseHasMovedIsNotMistaken();
+    void anEditOfAnEarlierVersionIsTold();
 
 private:
     static void isOneStep(FlightsWindow &window, const Catalogue &meant, const QByteArray &before);
@@ -318,6 +319,24 @@ void FlightEditingTest::aFlightThatSomebodyElseHasMovedIsNotMistaken()
     now.models.removeFirst();
     QVERIFY(!FlightEdits::areThere({{0, 0}}, shown, now));
     QVERIFY(!FlightEdits::areThere({{1, 0}}, shown, now));
+}
+
+void FlightEditingTest::anEditOfAnEarlierVersionIsTold()
+{
+    FlightsWindow window;
+    auto &flights = window.tab().m_flights;
+    flights.setData(flights.index(0, FlightsModel::Notes), u"windy"_s, Qt::EditRole);
+    QCOMPARE(
+        window.logbook().change(u"Meanwhile"_s,
+                                [](Catalogue &catalogue) {
+                                    return Edits::deleteFlights(catalogue, {{0, 0}}, Edits::Discharges::Keep);
+                                }),
+        QString());
+    window.tab().refresh();
+    const QByteArray before = window.bytes();
+    QTRY_COMPARE(window.questions.told().size(), 1);
+    QVERIFY(window.questions.told().constFirst().contains(u"changed meanwhile"_s));
+    QCOMPARE(window.bytes(), before);
 }
 
 QTEST_MAIN(FlightEditingTest)

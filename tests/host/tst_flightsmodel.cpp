@@ -25,8 +25,8 @@ private Q_SLOTS:
     void whatIsNotKnownIsEmpty();
     void valuesAreSortedAsWhatTheyAre();
     void namesAreSortedAsPeopleDo();
-    void guessedFiguresAreSlantedAndSayso();
-    void measuredFiguresAreBoldAndSayso();
+    void guessedFiguresAreSlantedAndSaySo();
+    void measuredFiguresAreBoldAndSaySo();
     void placesAndRowsBelongTogether();
     void onlyWhatCanBeEditedCan();
     void anEditIsAskedForAndChangesNothing();
@@ -131,7 +131,7 @@ void FlightsModelTest::namesAreSortedAsPeopleDo()
     QLocale::setDefault(QLocale::c());
 }
 
-void FlightsModelTest::guessedFiguresAreSlantedAndSayso()
+void FlightsModelTest::guessedFiguresAreSlantedAndSaySo()
 {
     FlightsModel model;
     model.setCatalogue(shared(logbook()));
@@ -146,7 +146,7 @@ void FlightsModelTest::guessedFiguresAreSlantedAndSayso()
     QVERIFY(!model.index(guessed, FlightsModel::Notes).data(Qt::FontRole).isValid());
 }
 
-void FlightsModelTest::measuredFiguresAreBoldAndSayso()
+void FlightsModelTest::measuredFiguresAreBoldAndSaySo()
 {
     Catalogue catalogue = logbook();
     catalogue.batteries[0].discharges[0].isMeasured = true;
