@@ -106,9 +106,9 @@ public:
 
     void add(const QDateTime &time, BatteryFigures &figures)
     {
-        if (!time.isValid() || m_seen.contains(momentOf(time)))
+        if (!time.isValid() || m_seen.contains(clockMoment(time)))
             return;
-        m_seen.insert(momentOf(time));
+        m_seen.insert(clockMoment(time));
         const QList<FlightIndex::Entry> flights = m_index.flightsAt(time);
         for (const FlightIndex::Entry &entry : flights) {
             ++figures.flights;

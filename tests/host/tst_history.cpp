@@ -129,6 +129,7 @@ void HistoryTest::ofManyPointsTheHighestInEachPlaceIsKept()
         return one.value < other.value;
     });
     QCOMPARE(highest->value, 5000.0);
+    QCOMPARE(Host::thinned(points, 1, 1).constFirst().value, 5000.0);
     QVERIFY(kept.constFirst().time < points.at(30'000 / 80).time);
     QVERIFY(kept.constLast().time > points.at(30'000 - 30'000 / 80).time);
 
