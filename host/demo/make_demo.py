@@ -107,7 +107,7 @@ def main():
         last = history[-1][0] + timedelta(hours=3, seconds=17) if history else bought + timedelta(hours=11)
         out.append("    <Battery>\n")
         for key, value in (("Name", name), ("Capacity", capacity), ("Chrgrate", charge_rate), ("Dischrgrate", rating),
-                           ("Purchase", f"{bought:%Y/%m/%d}"), ("Cycles", len(history) + (190 if "retired" in name else 0)),
+                           ("Purchase", f"{bought:%Y/%m/%d}"), ("Cycles", count + (190 if "retired" in name else 0)),
                            ("Charged", int(charged)), ("LastUse", moment(last))):
             out.append(element(8, key, value))
         if history:

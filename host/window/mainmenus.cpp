@@ -7,9 +7,11 @@
 #include "host/window/pendinginput.h"
 #include "host/window/preferencesdialog.h"
 #include "host/window/questions.h"
+#include "host/window/renamedialog.h"
 #include "host/window/sidepanel.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDir>
 #include <QMenuBar>
@@ -53,6 +55,8 @@ void MainWindow::buildEditMenu()
     m_redo->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
     connect(menu, &QMenu::aboutToShow, this, &MainWindow::nameSteps);
     menu->addSeparator();
+    m_rename = menu->addAction(tr("Re&name…"), this, &MainWindow::rename);
+    menu->addSeparator();
     QAction *preferences = menu->addAction(tr("&Preferences…"), this, &MainWindow::showPreferences);
     preferences->setShortcut(QKeySequence::Preferences);
     preferences->setMenuRole(QAction::PreferencesRole);
@@ -81,6 +85,7 @@ void MainWindow::updateActions()
 {
     m_undo->setEnabled(m_logbook && m_logbook->canUndo());
     m_redo->setEnabled(m_logbook && m_logbook->canRedo());
+    m_rename->setEnabled(m_logbook && m_logbook->mayChange());
 }
 
 /** What would be undone and done again; both versions are read for that, so only where somebody looks. */
@@ -129,6 +134,19 @@ void MainWindow::redo()
 {
     if (const QString problem = m_logbook->redo(); !problem.isEmpty())
         m_questions.tell(problem);
+}
+
+/** Where it is the chosen model that gets another name, it stays the chosen one. */
+void MainWindow::rename()
+{
+    const int chosen = m_models->currentIndex();
+    const QString name = m_models->currentText();
+    renameRecord(*m_logbook, m_questions, this);
+    const std::shared_ptr<const Catalogue> catalogue = m_logbook->catalogue();
+    if (!catalogue || chosen < 0 || chosen >= catalogue->models.size() || m_models->findText(name) >= 0)
+        return;
+    keepChosenModel(catalogue->models.at(chosen).name);
+    reload();
 }
 
 void MainWindow::showPanel(bool visible)

@@ -48,6 +48,7 @@ MainWindow::MainWindow(Questions &questions, QWidget *parent)
     , m_questions(questions)
     , m_gui(new VoltbokGui)
     , m_pages(m_gui->findChild<QStackedWidget *>(u"stackedWidget"_s))
+    , m_models(m_gui->findChild<QComboBox *>(u"cb_select_model"_s))
     , m_pending(new PendingInput(*m_pages, this))
     , m_messages(new MessageBar)
     , m_splitter(new QSplitter)
@@ -80,8 +81,7 @@ void MainWindow::connectLogbook()
 {
     connect(m_gui, &VoltbokGui::closeVoltbokGui, this, &MainWindow::leadHome);
     connect(m_pages, &QStackedWidget::currentChanged, this, &MainWindow::pageShown);
-    connect(m_gui->findChild<QComboBox *>(u"cb_select_model"_s), &QComboBox::textActivated, this,
-            &MainWindow::keepChosenModel);
+    connect(m_models, &QComboBox::textActivated, this, &MainWindow::keepChosenModel);
     // The one page that changes a setting; after the logbook, whose slots are connected already.
     connect(m_gui->findChild<QButtonGroup *>(u"btnGrp_mode"_s), &QButtonGroup::buttonClicked, this,
             &MainWindow::tellAboutSettings);

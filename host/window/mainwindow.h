@@ -9,6 +9,7 @@
 #include <memory>
 
 class QAction;
+class QComboBox;
 class QMenu;
 class QSplitter;
 class QStackedWidget;
@@ -84,6 +85,7 @@ private:
     void requestFolder(const QString &path);
     void undo();
     void redo();
+    void rename();
     void showPanel(bool visible);
     void showPreferences();
     void showManual();
@@ -105,12 +107,14 @@ private:
     Settings m_settings;
     VoltbokGui *m_gui;
     QStackedWidget *m_pages; ///< of the logbook
+    QComboBox *m_models;     ///< of its overview
     PendingInput *m_pending;
     MessageBar *m_messages;
     QSplitter *m_splitter;
     QMenu *m_recent = nullptr;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
+    QAction *m_rename = nullptr;
     QAction *m_panelShown = nullptr;
     StorageFolder m_folder;
     std::shared_ptr<FolderLock> m_lock;

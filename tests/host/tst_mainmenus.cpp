@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What stands in the menus of the program's window, and what it does.
 #include "host/window/manualwindow.h"
+#include "host/window/renamedialog.h"
 #include "host/window/sidepanel.h"
 #include "tests/host/support/hostwindow.h"
 
@@ -8,6 +9,7 @@
 #include <QImage>
 #include <QMenuBar>
 #include <QTextBlock>
+#include <QTimer>
 
 using namespace Host;
 using namespace Qt::Literals::StringLiterals;
@@ -47,6 +49,7 @@ private Q_SLOTS:
     void theManualOpensOnce();
     void theManualHasItsPictures();
     void aboutNamesTheVersionAndTheFolder();
+    void aRenamedModelStaysTheChosenOne();
     void quitClosesTheWindow();
 
 private:
@@ -180,7 +183,7 @@ void MainMenusTest::thePanelIsAsItWasAtTheNextStart()
     for (int times = 0; times < 2; ++times) {
         press(window, QKeySequence(Qt::Key_F9));
         const bool shown = window.window().findChild<SidePanel *>()->isVisible();
-        window.window().resize(700 + 50 * times, 600);
+        window.window().resize(900 + 50 * times, 600);
         const QSize size = window.window().size();
         QVERIFY(window.window().close());
         window.restart();
@@ -275,6 +278,26 @@ void MainMenusTest::aboutNamesTheVersionAndTheFolder()
     QCOMPARE(window.questions.told().size(), 1);
     QVERIFY(window.questions.told().constFirst().contains(u"7.8.9"_s));
     QVERIFY(window.questions.told().constFirst().contains(window.path()));
+}
+
+void MainMenusTest::aRenamedModelStaysTheChosenOne()
+{
+    HostWindow window;
+    window.chooseModel(u"Skylark"_s);
+    QTimer::singleShot(0, &window.window(), [&] {
+        auto *dialog = window.window().findChild<RenameDialog *>();
+        const auto boxes = dialog->findChildren<QComboBox *>();
+        boxes.at(0)->setCurrentIndex(1); // a model
+        boxes.at(1)->setCurrentText(u"Skylark"_s);
+        dialog->findChild<QLineEdit *>()->setText(u"Lark"_s);
+        dialog->accept();
+    });
+    action(window, u"Rename"_s)->trigger();
+    QCOMPARE(window.ui().cb_select_model->currentText(), u"Lark"_s);
+    window.clickCard(u"Pack A"_s);
+    window.settle();
+    QCOMPARE(window.bytes().count("<LogData"), 1); // the cards were placed once
+    QVERIFY(window.questions.told().isEmpty());
 }
 
 void MainMenusTest::quitClosesTheWindow()

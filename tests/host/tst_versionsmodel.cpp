@@ -77,7 +77,7 @@ void VersionsModelTest::aVersionShowsWhatItHolds()
     const Contents contents = WholeFile::inspect(sample);
     QCOMPARE(
         row(model, 0).mid(1),
-        (QStringList{u"102.6 kB"_s, QString::number(contents.batteries), QString::number(contents.models),
+        (QStringList{u"101.8 kB"_s, QString::number(contents.batteries), QString::number(contents.models),
                      QString::number(contents.flights), QString::number(contents.discharges)}));
     QVERIFY(isChoosable(model, 0));
 }
