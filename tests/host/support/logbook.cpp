@@ -1,90 +1,46 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/host/support/logbook.h"
 #include "tests/support/datafile.h"
+#include "tests/support/filerecords.h"
 #include "tests/support/files.h"
-
-#include <QXmlStreamReader>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString isoTime(const QXmlStreamReader &reader)
+/** The time of a discharge or flight, and one more of its values. */
+QString entryText(const QXmlStreamAttributes &entry, const QString &name)
 {
-    const QString text = reader.attributes().value(u"Date"_s).toString();
-    return QDateTime::fromString(text, Qt::TextDate).toString(Qt::ISODate);
+    const QDateTime time = QDateTime::fromString(Test::FileRecords::value(entry, u"Date"_s), Qt::TextDate);
+    return time.toString(Qt::ISODate) + u' ' + Test::FileRecords::value(entry, name);
 }
 
-QString attribute(const QXmlStreamReader &reader, const QString &name)
+QStringList entryTexts(const Test::FileRecords::Record &record, const QString &name)
 {
-    return reader.attributes().value(name).toString();
-}
-
-void readBattery(QXmlStreamReader &reader, Logbook &logbook)
-{
-    Logbook::Battery battery;
-    while (reader.readNextStartElement()) {
-        const QString name = reader.name().toString();
-        if (name != u"Data") {
-            battery.figures.insert(name, reader.readElementText());
-            continue;
-        }
-        while (reader.readNextStartElement()) {
-            battery.discharges.append(isoTime(reader) + u' ' + attribute(reader, u"Discharged"_s));
-            reader.skipCurrentElement();
-        }
-    }
-    battery.figures.remove(u"LastUse"_s);
-    logbook.batteries.insert(battery.figures.value(u"Name"_s), battery);
-}
-
-void readModel(QXmlStreamReader &reader, Logbook &logbook)
-{
-    Logbook::Model model;
-    while (reader.readNextStartElement()) {
-        const QString name = reader.name().toString();
-        if (name == u"Battery") {
-            model.batteries.append(reader.readElementText());
-            continue;
-        }
-        if (name != u"FlightLog") {
-            model.figures.insert(name, reader.readElementText());
-            continue;
-        }
-        while (reader.readNextStartElement()) {
-            model.flights.append(isoTime(reader) + u' ' + attribute(reader, u"Location"_s));
-            reader.skipCurrentElement();
-        }
-    }
-    model.figures.remove(u"LastUpdate"_s);
-    logbook.models.insert(model.figures.value(u"Name"_s), model);
+    QStringList texts;
+    for (const QXmlStreamAttributes &entry : record.entries)
+        texts.append(entryText(entry, name));
+    return texts;
 }
 
 } // namespace
 
 Logbook Logbook::read(const QByteArray &document)
 {
+    const Test::FileRecords file(document);
     Logbook logbook;
-    QXmlStreamReader reader(document);
-    if (!reader.readNextStartElement() || reader.name() != u"Voltbok")
-        return logbook;
-    while (reader.readNextStartElement()) {
-        if (reader.name() == u"Battery")
-            readBattery(reader, logbook);
-        else if (reader.name() == u"Model")
-            readModel(reader, logbook);
-        else if (reader.name() == u"Location") // without their container
-            reader.skipCurrentElement();
-        else {
-            while (reader.readNextStartElement()) {
-                logbook.locations.append(attribute(reader, u"Name"_s));
-                reader.skipCurrentElement();
-            }
-        }
+    logbook.whole = file.isWhole;
+    logbook.locations = file.locations;
+    for (const Test::FileRecords::Record &record : file.batteries) {
+        Battery battery{record.fields, entryTexts(record, u"Discharged"_s)};
+        battery.figures.remove(u"LastUse"_s);
+        logbook.batteries.insert(record.field(u"Name"_s), battery);
     }
-    while (!reader.atEnd())
-        reader.readNext();
-    logbook.whole = !reader.hasError();
+    for (const Test::FileRecords::Record &record : file.models) {
+        Model model{record.fields, record.batteries, entryTexts(record, u"Location"_s)};
+        model.figures.remove(u"LastUpdate"_s);
+        logbook.models.insert(record.field(u"Name"_s), model);
+    }
     return logbook;
 }
 
