@@ -6,7 +6,7 @@
 namespace Host {
 namespace {
 
-constexpr qint64 SecondsOfADay = 24 * 60 * 60;
+constexpr qint64 SecondsOfADay = 86'400;
 constexpr int MillisecondsOfASecond = 1000;
 
 } // namespace

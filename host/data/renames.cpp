@@ -93,9 +93,9 @@ QString Edits::renameLocation(Catalogue &catalogue, qsizetype location, const QS
     if (others.contains(old))
         return QString();
     for (Model &model : catalogue.models) {
-        for (qsizetype i = 0; i < model.log.size(); ++i) {
-            if (model.log.at(i).location == old)
-                model.log[i].location = name;
+        for (Flight &flight : model.log) {
+            if (flight.location == old)
+                flight.location = name;
         }
     }
     return QString();

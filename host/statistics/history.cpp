@@ -77,13 +77,13 @@ QList<HistoryPoint> thinned(const QList<HistoryPoint> &points, int columns, int 
     if (points.size() <= qsizetype(columns) * rows)
         return points;
     const auto [lowest, highest] = std::minmax_element(points.cbegin(), points.cend(), isLower);
-    const auto start = static_cast<double>(points.constFirst().time.toMSecsSinceEpoch());
-    const auto end = static_cast<double>(points.constLast().time.toMSecsSinceEpoch());
+    const auto first = static_cast<double>(points.constFirst().time.toMSecsSinceEpoch());
+    const auto last = static_cast<double>(points.constLast().time.toMSecsSinceEpoch());
     QList<HistoryPoint> kept;
     QHash<int, qsizetype> places; // of what is kept, by source and place in the plot
     for (const HistoryPoint &point : points) {
         const auto moment = static_cast<double>(point.time.toMSecsSinceEpoch());
-        const int column = partOf(moment, start, end, columns);
+        const int column = partOf(moment, first, last, columns);
         const int row = partOf(point.value, lowest->value, highest->value, rows);
         const int place = (static_cast<int>(point.source) * columns + column) * rows + row;
         const auto found = places.constFind(place);

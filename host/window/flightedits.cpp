@@ -8,6 +8,7 @@
 #include <QLocale>
 
 #include <algorithm>
+#include <cmath>
 
 namespace Host {
 namespace {
@@ -54,7 +55,7 @@ QString applyFigures(Catalogue &catalogue, const FlightPlace &place, int column,
         const Discharge &old = catalogue.batteries.at(there.battery).discharges.at(there.discharge);
         const double scaled = figures.at(i) * (column == FlightsModel::Current ? HundredthsOfAnAmpere : 1.0);
         // Far beyond what is taken is as good as beyond, and fits.
-        const auto figure = static_cast<unsigned int>(std::min(scaled, 1e9) + 0.5);
+        const auto figure = static_cast<unsigned int>(std::lround(std::min(scaled, 1e9)));
         const QString problem = column == FlightsModel::Current
                                     ? Edits::editDischarge(changed, there, old.discharged, figure)
                                     : Edits::editDischarge(changed, there, figure, old.current);

@@ -24,10 +24,10 @@ QString noSpace()
 OpenLogbook::OpenLogbook(const StorageFolder &folder, SaveCare *care)
     : m_folder(folder)
     , m_care(care)
+    , m_mayChange(care && care->isInOrder())
 {
     const QByteArray document = WholeFile::read(m_folder.dataFile()).bytes;
     m_history.restart(document.isEmpty() ? CatalogueFile::emptyDocument() : document);
-    m_mayChange = m_care && m_care->isInOrder();
     if (!m_care)
         return;
     connect(m_care, &SaveCare::written, this, &OpenLogbook::versionWritten);

@@ -79,7 +79,7 @@ private:
     QString m_stepName;                           ///< of the version that is being written
     void (UndoHistory::*m_move)() = nullptr;      ///< that the version that is being written is known by
     bool m_capturing = false;
-    bool m_mayChange = true;
+    bool m_mayChange;
 };
 
 } // namespace Host
