@@ -82,7 +82,8 @@ qint64 freeMoment(const Moments &moments, qint64 moment, const QSet<qsizetype> &
 QList<Flight> takeFlights(Catalogue &catalogue, QList<FlightPlace> places)
 {
     std::sort(places.begin(), places.end());
-    places.erase(std::unique(places.begin(), places.end()), places.end());
+    const auto end = std::unique(places.begin(), places.end());
+    places.erase(QList<FlightPlace>::const_iterator(end), places.cend());
     QList<Flight> taken;
     auto place = places.cbegin();
     while (place != places.cend()) {

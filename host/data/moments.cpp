@@ -91,7 +91,7 @@ QList<DischargePlace> Moments::firstDischargesAt(qint64 moment) const
                                  [](const DischargePlace &left, const DischargePlace &right) {
                                      return left.battery == right.battery;
                                  });
-    places.erase(end, places.end());
+    places.erase(QList<DischargePlace>::const_iterator(end), places.cend());
     return places;
 }
 

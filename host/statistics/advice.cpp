@@ -6,7 +6,7 @@
 #include "host/statistics/flightindex.h"
 #include "host/statistics/sources.h"
 
-#include <QMap>
+#include <QHash>
 
 #include <algorithm>
 #include <cmath>
@@ -194,7 +194,7 @@ void Adviser::timers(const Battery &battery)
         QDateTime time;
         double perMinute; // mAh
     };
-    QMap<const Model *, QList<Draw>> draws;
+    QHash<const Model *, QList<Draw>> draws;
     for (const Discharge &discharge : battery.discharges) {
         const FlightIndex::Entry entry = m_index.timedFlightAt(discharge.time);
         if (!entry.flight || discharge.discharged == 0 || !isCounted(battery, discharge))

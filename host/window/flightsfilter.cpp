@@ -14,9 +14,9 @@ FlightsFilter::FlightsFilter(FlightsModel &flights, QObject *parent)
     , m_flights(flights)
 {
     // Before the base takes part: it asks for every row of the new version.
-    connect(&flights, &QAbstractItemModel::modelReset, this, &FlightsFilter::match);
+    connect(&flights, &QAbstractItemModel::modelReset, this, &FlightsFilter::findMatches);
     setSourceModel(&flights);
-    match();
+    findMatches();
 }
 
 void FlightsFilter::setFilter(const FlightFilter &filter)
@@ -24,13 +24,13 @@ void FlightsFilter::setFilter(const FlightFilter &filter)
     if (filter == m_filter)
         return;
     m_filter = filter;
-    match();
+    findMatches();
     // Not invalidateFilter(), which takes out and puts in row by row where they are scattered.
     invalidate();
 }
 
 /** Looks at all texts of the flights. */
-void FlightsFilter::match()
+void FlightsFilter::findMatches()
 {
     m_words.clear();
     const QStringList words = m_filter.text.split(u' ', Qt::SkipEmptyParts);

@@ -51,7 +51,7 @@ private:
     static constexpr std::array Searched{FlightsModel::ModelName, FlightsModel::Batteries,
                                          FlightsModel::Location, FlightsModel::Notes};
 
-    void match();
+    void findMatches();
     template <typename Accepts>
     Matches matches(FlightsModel::Column column, Accepts accepts) const;
     bool accepts(const Matches &matches, int row, FlightsModel::Column column) const;

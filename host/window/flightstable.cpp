@@ -70,7 +70,8 @@ QList<FlightPlace> FlightsTable::chosen() const
             places.append(m_flights.placeOf(m_filter.mapToSource(m_filter.index(row, 0)).row()));
     }
     std::sort(places.begin(), places.end());
-    places.erase(std::unique(places.begin(), places.end()), places.end());
+    const auto end = std::unique(places.begin(), places.end());
+    places.erase(QList<FlightPlace>::const_iterator(end), places.cend());
     return places;
 }
 

@@ -13,8 +13,12 @@ namespace {
 
 const QString DischargePage = u"dischargeView"_s;
 /** The pages that are filled in and sent off; on all others every choice counts at once. */
-const QStringList Forms{u"addView"_s, u"addModelView"_s, u"addLocationView"_s, u"modBatteryView"_s,
-                        u"modModelView"_s};
+bool isFormPage(const QString &name)
+{
+    const QStringList forms{u"addView"_s, u"addModelView"_s, u"addLocationView"_s, u"modBatteryView"_s,
+                            u"modModelView"_s};
+    return forms.contains(name);
+}
 
 } // namespace
 
@@ -33,7 +37,7 @@ bool PendingInput::isFlight() const
 
 bool PendingInput::isForm() const
 {
-    return Forms.contains(m_pages.currentWidget()->objectName()) && inputs() != m_shown;
+    return isFormPage(m_pages.currentWidget()->objectName()) && inputs() != m_shown;
 }
 
 void PendingInput::pageShown()
