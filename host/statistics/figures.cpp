@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/statistics/figures.h"
 
+#include "host/data/moments.h"
 #include "host/statistics/flightindex.h"
 #include "host/statistics/sources.h"
 
@@ -106,9 +107,9 @@ public:
 
     void add(const QDateTime &time, BatteryFigures &figures)
     {
-        if (!time.isValid() || m_seen.contains(clockMoment(time)))
+        if (!time.isValid() || m_seen.contains(momentOf(time)))
             return;
-        m_seen.insert(clockMoment(time));
+        m_seen.insert(momentOf(time));
         const QList<FlightIndex::Entry> flights = m_index.flightsAt(time);
         for (const FlightIndex::Entry &entry : flights) {
             ++figures.flights;

@@ -1,31 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/statistics/flightindex.h"
 
+#include "host/data/moments.h"
+
 #include <algorithm>
 
 namespace Host {
-
-/** As the clock shows it, which is all that a data file knows: the way to UTC and back asks for the time
- * zone. */
-qint64 clockMoment(const QDateTime &time)
-{
-    constexpr qint64 Day = qint64(24) * 60 * 60 * 1000;
-    return time.date().toJulianDay() * Day + time.time().msecsSinceStartOfDay();
-}
 
 FlightIndex::FlightIndex(const Catalogue &catalogue)
 {
     for (const Model &model : catalogue.models) {
         for (const Flight &flight : model.log) {
             if (flight.time.isValid())
-                m_flights[clockMoment(flight.time)].append({&model, &flight});
+                m_flights[momentOf(flight.time)].append({&model, &flight});
         }
     }
     for (const Battery &battery : catalogue.batteries) {
         for (const Discharge &discharge : battery.discharges) {
             if (!discharge.time.isValid())
                 continue;
-            QList<const Battery *> &there = m_batteries[clockMoment(discharge.time)];
+            QList<const Battery *> &there = m_batteries[momentOf(discharge.time)];
             if (there.isEmpty() || there.constLast() != &battery)
                 there.append(&battery);
         }
@@ -34,7 +28,7 @@ FlightIndex::FlightIndex(const Catalogue &catalogue)
 
 QList<FlightIndex::Entry> FlightIndex::flightsAt(const QDateTime &time) const
 {
-    return time.isValid() ? m_flights.value(clockMoment(time)) : QList<Entry>();
+    return time.isValid() ? m_flights.value(momentOf(time)) : QList<Entry>();
 }
 
 FlightIndex::Entry FlightIndex::timedFlightAt(const QDateTime &time) const
@@ -47,7 +41,7 @@ FlightIndex::Entry FlightIndex::timedFlightAt(const QDateTime &time) const
 
 QList<const Battery *> FlightIndex::batteriesAt(const QDateTime &time) const
 {
-    return time.isValid() ? m_batteries.value(clockMoment(time)) : QList<const Battery *>();
+    return time.isValid() ? m_batteries.value(momentOf(time)) : QList<const Battery *>();
 }
 
 } // namespace Host

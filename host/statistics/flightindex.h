@@ -8,9 +8,6 @@
 
 namespace Host {
 
-/** A number for a valid time: equal times have the same one. */
-qint64 clockMoment(const QDateTime &time);
-
 /**
  * Which flights and which batteries' discharges belong together: those at the identical valid time.
  *
@@ -35,7 +32,7 @@ public:
     QList<const Battery *> batteriesAt(const QDateTime &time) const;
 
 private:
-    QHash<qint64, QList<Entry>> m_flights; // by clockMoment()
+    QHash<qint64, QList<Entry>> m_flights; // by momentOf()
     QHash<qint64, QList<const Battery *>> m_batteries;
 };
 
