@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/statistics/advice.h"
 
+#include "host/data/flightindex.h"
+#include "host/data/sources.h"
 #include "host/statistics/advicetexts.h"
 #include "host/statistics/figures.h"
-#include "host/statistics/flightindex.h"
-#include "host/statistics/sources.h"
 
 #include <QHash>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/statistics/figures.h"
 
+#include "host/data/flightindex.h"
 #include "host/data/moments.h"
-#include "host/statistics/flightindex.h"
-#include "host/statistics/sources.h"
+#include "host/data/sources.h"
 
 #include <QHash>
 #include <QSet>
@@ -234,13 +234,6 @@ QList<LocationFigures> figuresOfLocations(const Catalogue &catalogue, const Date
 }
 
 } // namespace
-
-bool DateRange::contains(const QDateTime &time) const
-{
-    if (!isLimited())
-        return true;
-    return time.isValid() && (!from || time.date() >= *from) && (!to || time.date() <= *to);
-}
 
 std::optional<double> median(QList<double> values)
 {

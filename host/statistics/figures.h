@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/data/catalogue.h"
+#include "host/data/daterange.h"
 
 #include <QDate>
 #include <QList>
@@ -12,16 +13,6 @@
 #include <utility>
 
 namespace Host {
-
-/** Days that figures are limited to, both included. What has no time lies in no limited range. */
-struct DateRange
-{
-    std::optional<QDate> from;
-    std::optional<QDate> to;
-
-    bool isLimited() const { return from || to; }
-    bool contains(const QDateTime &time) const;
-};
 
 /** How often something was there, by name, in the order of the file. */
 using Counts = QList<std::pair<QString, int>>;

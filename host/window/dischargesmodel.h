@@ -2,7 +2,7 @@
 #pragma once
 
 #include "host/data/catalogue.h"
-#include "host/statistics/sources.h"
+#include "host/data/sources.h"
 
 #include <QAbstractTableModel>
 

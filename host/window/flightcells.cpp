@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The part of the model of flights that a table asks for: what cells show, and how.
-#include "host/statistics/sources.h"
+#include "host/data/sources.h"
 #include "host/window/flightsmodel.h"
 
 #include <QFont>

@@ -2,7 +2,7 @@
 #include "host/window/flightdialog.h"
 
 #include "host/data/edits.h"
-#include "host/statistics/sources.h"
+#include "host/data/sources.h"
 #include "host/window/flightedits.h"
 #include "host/window/flightfields.h"
 #include "host/window/openlogbook.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/flightedits.h"
 
-#include "host/statistics/sources.h"
+#include "host/data/sources.h"
 #include "host/window/flightsmodel.h"
 
 #include <QCoreApplication>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Each rule of the advice at its borders.
 #include "host/statistics/advice.h"
-#include "host/statistics/sources.h"
+#include "host/data/sources.h"
 
 #include <QTest>
 

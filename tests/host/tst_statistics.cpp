@@ -3,7 +3,7 @@
 #include "host/data/cataloguefile.h"
 #include "host/statistics/figuresjson.h"
 #include "host/statistics/figures.h"
-#include "host/statistics/sources.h"
+#include "host/data/sources.h"
 
 #include <QFile>
 #include <QJsonDocument>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "host/statistics/sources.h"
+#include "host/data/sources.h"
 
 #include <algorithm>
 

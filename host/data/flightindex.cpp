@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "host/statistics/flightindex.h"
+#include "host/data/flightindex.h"
 
 #include "host/data/moments.h"
 
