@@ -92,6 +92,11 @@ QString rangeProblem(const Invocation &invocation)
                : QString();
 }
 
+QString wordWithDashes(const CommandOption &option)
+{
+    return u"--"_s + option.name + (option.value.isEmpty() ? QString() : u' ' + option.value);
+}
+
 using Rows = QList<std::pair<QString, QString>>;
 
 /** Two columns, as in the help of the program. */
@@ -143,11 +148,13 @@ QString Usage::help(const Command &command)
         arguments.append({wordFor(argument), argument.description});
     Rows options;
     for (const CommandOption &option : command.options)
-        options.append({u"--"_s + option.name + (option.value.isEmpty() ? QString() : u' ' + option.value),
-                        option.description});
-    const Rows common{{u"--data DIR"_s, Text::tr("The logbook in DIR.")},
-                      {u"--demo"_s, Text::tr("The sample logbook.")},
-                      {u"--help"_s, Text::tr("Show this help.")}};
+        options.append({wordWithDashes(option), option.description});
+    Rows common;
+    const QList<ProgramOption> all = programOptions();
+    for (const ProgramOption &option : all) {
+        if (option.isForCommands)
+            common.append({wordWithDashes(option), option.description});
+    }
     return Text::tr("Usage: voltbok [--data DIR | --demo] %1").arg(syntax(command)) + u'\n' +
            command.summary + u'\n' +
            (command.description.isEmpty() ? QString() : u'\n' + command.description + u'\n') +
