@@ -59,6 +59,8 @@ private Q_SLOTS:
     void helpManualPageAndCompletionHaveTheSameOptions();
     void helpAndManualPageDescribeEverything_data() { eachCommand(); }
     void helpAndManualPageDescribeEverything();
+    void helpFitsIntoATerminal_data() { eachCommand(); }
+    void helpFitsIntoATerminal();
     void optionsOfTheProgramAreInAllThree();
     void theManualPageHasEachCommandOnceAndNoOther();
     void theManualPageIsInOrder();
@@ -116,7 +118,7 @@ void CommandDocumentsTest::helpAndManualPageDescribeEverything()
 {
     QFETCH(QString, name);
     const Command command = *commandNamed(name);
-    const QString help = m_program.run({name, u"--help"_s}).output;
+    const QString help = m_program.run({name, u"--help"_s}).output.simplified();
     const QString page = shown(sectionOf(name));
     QStringList told{command.summary, command.description};
     for (const CommandOption &option : command.options)
@@ -128,6 +130,14 @@ void CommandDocumentsTest::helpAndManualPageDescribeEverything()
         QVERIFY2(help.contains(text), qPrintable(text));
         QVERIFY2(page.contains(text), qPrintable(text));
     }
+}
+
+void CommandDocumentsTest::helpFitsIntoATerminal()
+{
+    QFETCH(QString, name);
+    const QStringList lines = m_program.run({name, u"--help"_s}).output.split(u'\n');
+    for (const QString &line : lines)
+        QVERIFY2(line.size() < 80, qPrintable(line));
 }
 
 void CommandDocumentsTest::optionsOfTheProgramAreInAllThree()
