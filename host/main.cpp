@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/app/commandline.h"
+#include "host/app/commands/command.h"
 #include "host/app/console.h"
 #include "host/app/display.h"
 #include "host/app/endsignals.h"
@@ -23,6 +24,28 @@ CommandLine readCommandLine(int &argc, char **argv)
     // An application without windows, so that help and mistakes need no display.
     const QCoreApplication application(argc, argv);
     return Host::readCommandLine(QCoreApplication::arguments());
+}
+
+/** What Qt finds odd about a desktop is nothing that the caller of a command wants to read. */
+void dropMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type != QtFatalMsg)
+        return;
+    Console::complain(text);
+    std::_Exit(EXIT_FAILURE);
+}
+
+/** Runs a command, which never needs a display: the library's records are widgets, but nobody looks at them.
+ */
+int runCommand(char **argv, const Invocation &invocation)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    for (const char *variable : {"QT_QPA_PLATFORMTHEME", "QT_STYLE_OVERRIDE", "SESSION_MANAGER"})
+        qunsetenv(variable); // a theme of the desktop may want a display
+    qInstallMessageHandler(dropMessage);
+    int argc = 1; // Qt's own options are about windows
+    const QApplication application(argc, argv);
+    return commandNamed(invocation.command)->run(invocation);
 }
 
 /** Boxes, where somebody can see them. */
@@ -49,6 +72,8 @@ int main(int argc, char *argv[])
     }
     if (!commandLine.answer.isEmpty())
         return Console::print(commandLine.answer) ? EXIT_SUCCESS : EXIT_FAILURE;
+    if (commandLine.invocation)
+        return runCommand(argv, *commandLine.invocation);
 
     if (!commandLine.screenshot.isEmpty())
         qputenv("QT_QPA_PLATFORM", "offscreen");
