@@ -18,6 +18,7 @@
 #include <QComboBox>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QPixmap>
 #include <QScreen>
 #include <QSettings>
@@ -67,6 +68,8 @@ MainWindow::MainWindow(Questions &questions, QWidget *parent)
     m_splitter->setStretchFactor(1, 1);
     setCentralWidget(content);
     resize(size);
+    // The desktop's, where it has one; dialogs take that of the application.
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(u"voltbok"_s, QIcon(u":/icons/voltbok.svg"_s)));
     buildMenus();
     connectLogbook();
     connect(m_messages, &MessageBar::told, this, &MainWindow::told);

@@ -30,7 +30,7 @@ namespace {
 class QuestionBox final : public QDialog
 {
 public:
-    QuestionBox(const Question &question, QStyle::StandardPixmap icon);
+    QuestionBox(const Question &question, QStyle::StandardPixmap otherwise);
 
     Answer ask();
 
@@ -45,7 +45,7 @@ private:
     int m_button;
 };
 
-QuestionBox::QuestionBox(const Question &question, QStyle::StandardPixmap icon)
+QuestionBox::QuestionBox(const Question &question, QStyle::StandardPixmap otherwise)
     : QDialog(QApplication::activeWindow())
     , m_layout(new QGridLayout(this))
     , m_button(question.refusal)
@@ -55,7 +55,9 @@ QuestionBox::QuestionBox(const Question &question, QStyle::StandardPixmap icon)
     setAccessibleDescription(question.details);
     auto *picture = new QLabel(this);
     const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
-    picture->setPixmap(style()->standardIcon(icon, nullptr, this).pixmap(size));
+    const QIcon icon =
+        question.picture.isNull() ? style()->standardIcon(otherwise, nullptr, this) : question.picture;
+    picture->setPixmap(icon.pixmap(QSize(size, size), devicePixelRatio()));
     m_layout->addWidget(picture, 0, 0, Qt::AlignTop);
     m_layout->setColumnStretch(1, 1);
     QFont strong = font();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QIcon>
 #include <QString>
 #include <QStringList>
 
@@ -23,6 +24,7 @@ struct Question
      * Rows that cannot be chosen are disabled. Not owned. */
     QAbstractItemModel *choices = nullptr;
     int chosen = 0; ///< the row that is chosen at first
+    QIcon picture;  ///< beside the text; without one it is that of a warning
 };
 
 struct Answer

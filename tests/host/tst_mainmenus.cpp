@@ -49,6 +49,7 @@ private Q_SLOTS:
     void theManualOpensOnce();
     void theManualHasItsPictures();
     void aboutNamesTheVersionAndTheFolder();
+    void windowAndAboutHaveTheIcon();
     void aRenamedModelStaysTheChosenOne();
     void quitClosesTheWindow();
 
@@ -274,10 +275,24 @@ void MainMenusTest::aboutNamesTheVersionAndTheFolder()
 {
     QCoreApplication::setApplicationVersion(u"7.8.9"_s);
     HostWindow window;
+    window.questions.answer(u"Close"_s);
     action(window, u"About"_s)->trigger();
-    QCOMPARE(window.questions.told().size(), 1);
-    QVERIFY(window.questions.told().constFirst().contains(u"7.8.9"_s));
-    QVERIFY(window.questions.told().constFirst().contains(window.path()));
+    QVERIFY(window.questions.isDone());
+    const Question &about = window.questions.asked().constFirst();
+    QVERIFY(about.text.contains(u"7.8.9"_s));
+    QVERIFY(about.details.contains(window.path()));
+}
+
+void MainMenusTest::windowAndAboutHaveTheIcon()
+{
+    HostWindow window;
+    window.questions.answer(u"Close"_s);
+    action(window, u"About"_s)->trigger();
+    for (const QIcon &icon : {window.window().windowIcon(), QApplication::windowIcon(),
+                              window.questions.asked().constFirst().picture}) {
+        const QImage picture = icon.pixmap(128, 128).toImage();
+        QCOMPARE(picture.pixelColor(40, 100), QColor(0x39, 0xb5, 0x4a)); // the charge of the battery
+    }
 }
 
 void MainMenusTest::aRenamedModelStaysTheChosenOne()
