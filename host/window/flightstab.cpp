@@ -10,7 +10,6 @@
 #include "host/window/movedialog.h"
 #include "host/window/openlogbook.h"
 #include "host/window/questions.h"
-#include "host/window/renamedialog.h"
 #include "host/window/tidydialog.h"
 
 #include <QAction>
@@ -36,7 +35,7 @@ FlightsTab::FlightsTab(OpenLogbook &logbook, Questions &questions, QWidget *pare
     , m_delete(addCommand(tr("&Delete"), &FlightsTab::deleteFlights))
     , m_move(addCommand(tr("&Move…"), &FlightsTab::moveFlights))
     , m_tidy(addCommand(tr("&Tidy Up…"), &FlightsTab::tidyUp))
-    , m_rename(addCommand(tr("&Rename…"), &FlightsTab::rename))
+    , m_rename(addCommand(tr("&Rename…"), &FlightsTab::renameRequested))
 {
     buildLayout();
     m_delete->setShortcut(QKeySequence::Delete);
@@ -233,12 +232,6 @@ void FlightsTab::tidyUp()
             return FlightEdits::changedMeanwhile();
         return Edits::deleteFlights(catalogue, places, Edits::Discharges::Delete);
     }));
-}
-
-void FlightsTab::rename()
-{
-    renameRecord(m_logbook, m_questions, this);
-    refresh();
 }
 
 } // namespace Host

@@ -130,6 +130,7 @@ void MainWindow::buildPanel()
     m_logbook = std::make_unique<OpenLogbook>(m_folder, m_care.get());
     connect(m_logbook.get(), &OpenLogbook::possibilitiesChanged, this, &MainWindow::updateActions);
     m_panel = new SidePanel(*m_logbook, m_questions);
+    connect(m_panel, &SidePanel::renameRequested, this, &MainWindow::rename);
     m_splitter->addWidget(m_panel);
 }
 

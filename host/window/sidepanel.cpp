@@ -29,6 +29,7 @@ SidePanel::SidePanel(OpenLogbook &logbook, Questions &questions, QWidget *parent
     connect(this, &QTabWidget::currentChanged, this, &SidePanel::refreshIfSeen);
     connect(&logbook, &OpenLogbook::changed, this, &SidePanel::refreshAll);
     connect(m_today, &TodayTab::batteryRequested, this, &SidePanel::showBattery);
+    connect(m_flights, &FlightsTab::renameRequested, this, &SidePanel::renameRequested);
     refreshAll();
 }
 

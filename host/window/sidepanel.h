@@ -41,6 +41,10 @@ public:
 
     QSize sizeHint() const override;
 
+Q_SIGNALS:
+    /** The user wants to give something another name. */
+    void renameRequested();
+
 protected:
     void showEvent(QShowEvent *event) override;
 

@@ -3,7 +3,7 @@
 #include "host/window/manualwindow.h"
 #include "host/window/renamedialog.h"
 #include "host/window/sidepanel.h"
-#include "tests/host/support/hostwindow.h"
+#include "tests/host/support/panel.h"
 
 #include <QAction>
 #include <QImage>
@@ -50,6 +50,7 @@ private Q_SLOTS:
     void theManualHasItsPictures();
     void aboutNamesTheVersionAndTheFolder();
     void windowAndAboutHaveTheIcon();
+    void aRenamedModelStaysTheChosenOne_data();
     void aRenamedModelStaysTheChosenOne();
     void quitClosesTheWindow();
 
@@ -295,9 +296,18 @@ void MainMenusTest::windowAndAboutHaveTheIcon()
     }
 }
 
+void MainMenusTest::aRenamedModelStaysTheChosenOne_data()
+{
+    QTest::addColumn<bool>("inTab");
+    QTest::newRow("from the menu") << false;
+    QTest::newRow("from the tab of the flights") << true;
+}
+
 void MainMenusTest::aRenamedModelStaysTheChosenOne()
 {
+    QFETCH(bool, inTab);
     HostWindow window;
+    const QWidget &flights = Panel::open(window, SidePanel::Flights);
     window.chooseModel(u"Skylark"_s);
     QTimer::singleShot(0, &window.window(), [&] {
         auto *dialog = window.window().findChild<RenameDialog *>();
@@ -307,7 +317,10 @@ void MainMenusTest::aRenamedModelStaysTheChosenOne()
         dialog->findChild<QLineEdit *>()->setText(u"Lark"_s);
         dialog->accept();
     });
-    action(window, u"Rename"_s)->trigger();
+    if (inTab)
+        LogbookWindow::click(Panel::button(flights, u"Rename…"_s));
+    else
+        action(window, u"Rename"_s)->trigger();
     QCOMPARE(window.ui().cb_select_model->currentText(), u"Lark"_s);
     window.clickCard(u"Pack A"_s);
     window.settle();
