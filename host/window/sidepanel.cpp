@@ -7,7 +7,12 @@
 #include "host/window/statisticstab.h"
 #include "host/window/todaytab.h"
 
+#include <QDate>
+
+#include <chrono>
+
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace Host {
 
@@ -30,6 +35,8 @@ SidePanel::SidePanel(OpenLogbook &logbook, Questions &questions, QWidget *parent
     connect(&logbook, &OpenLogbook::changed, this, &SidePanel::refreshAll);
     connect(m_today, &TodayTab::batteryRequested, this, &SidePanel::showBattery);
     connect(m_flights, &FlightsTab::renameRequested, this, &SidePanel::renameRequested);
+    connect(&m_clock, &QTimer::timeout, this, &SidePanel::lookAtTheDay);
+    m_clock.start(1min);
     refreshAll();
 }
 
@@ -40,8 +47,16 @@ QStringList SidePanel::tabNames()
     return {u"today"_s, u"batteries"_s, u"flights"_s, u"statistics"_s};
 }
 
+/** Ages, days since use and advice are those of a day. */
+void SidePanel::lookAtTheDay()
+{
+    if (m_day != QDate::currentDate())
+        refreshAll();
+}
+
 void SidePanel::refreshAll()
 {
+    m_day = QDate::currentDate();
     m_stale = {Today, Batteries, Flights, Statistics};
     m_whenIdle.start();
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QDate>
 #include <QSet>
 #include <QTabWidget>
 #include <QTimer>
@@ -50,6 +51,7 @@ protected:
 
 private:
     void refreshIfSeen();
+    void lookAtTheDay();
 
     TodayTab *m_today;
     BatteriesTab *m_batteries;
@@ -57,6 +59,8 @@ private:
     StatisticsTab *m_statistics;
     QSet<int> m_stale; ///< the tabs that show an earlier version
     QTimer m_whenIdle; ///< a click on a card does not wait for the tab beside it
+    QTimer m_clock;    ///< looks whether another day has begun, however the computer slept meanwhile
+    QDate m_day;       ///< that the figures were worked out for
 };
 
 } // namespace Host
