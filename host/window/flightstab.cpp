@@ -79,7 +79,6 @@ void FlightsTab::buildLayout()
     layout->addWidget(m_count);
     layout->addLayout(m_buttons);
     m_hint->setWordWrap(true);
-    m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
 }
 
 void FlightsTab::refresh()
