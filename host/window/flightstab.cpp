@@ -10,6 +10,7 @@
 #include "host/window/movedialog.h"
 #include "host/window/openlogbook.h"
 #include "host/window/questions.h"
+#include "host/window/tablecolumns.h"
 #include "host/window/tidydialog.h"
 
 #include <QAction>
@@ -18,6 +19,8 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
 
@@ -79,6 +82,7 @@ void FlightsTab::buildLayout()
     layout->addWidget(m_count);
     layout->addLayout(m_buttons);
     m_hint->setWordWrap(true);
+    (new TableColumns(*m_table, u"flights"_s))->restore();
 }
 
 void FlightsTab::refresh()

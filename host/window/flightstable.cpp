@@ -3,7 +3,6 @@
 
 #include "host/window/flightdelegate.h"
 #include "host/window/flightsfilter.h"
-#include "host/window/tablecolumns.h"
 
 #include <QHash>
 #include <QHeaderView>
@@ -34,10 +33,10 @@ FlightsTable::FlightsTable(FlightsModel &flights, FlightsFilter &filter, QWidget
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
     horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setSectionsMovable(true);
     setSortingEnabled(true);
     sortByColumn(FlightsModel::Time, Qt::DescendingOrder);
     setColumnWidths();
-    (new TableColumns(*this, u"flights"_s))->restore();
 }
 
 /** By what such a column usually holds: the contents of all rows would take too long to look at. */

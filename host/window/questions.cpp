@@ -2,6 +2,7 @@
 #include "host/window/questions.h"
 
 #include "host/window/breakable.h"
+#include "host/window/progress.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -209,6 +210,11 @@ void BoxQuestions::print(const QString &name, const std::function<void(QPrinter 
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     if (dialog.exec() == QDialog::Accepted)
         paint(printer);
+}
+
+std::unique_ptr<Progress> BoxQuestions::progress(const QString &text, int steps)
+{
+    return std::make_unique<ProgressBox>(text, steps);
 }
 
 } // namespace Host

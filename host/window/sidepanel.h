@@ -6,6 +6,8 @@
 #include <QTabWidget>
 #include <QTimer>
 
+class QPushButton;
+
 namespace Host {
 
 class BatteriesTab;
@@ -52,15 +54,21 @@ protected:
 private:
     void refreshIfSeen();
     void lookAtTheDay();
+    void refreshLater();
+    void putOffOrRead();
 
+    OpenLogbook &m_logbook;
     TodayTab *m_today;
     BatteriesTab *m_batteries;
     FlightsTab *m_flights;
     StatisticsTab *m_statistics;
-    QSet<int> m_stale; ///< the tabs that show an earlier version
-    QTimer m_whenIdle; ///< a click on a card does not wait for the tab beside it
-    QTimer m_clock;    ///< looks whether another day has begun, however the computer slept meanwhile
-    QDate m_day;       ///< that the figures were worked out for
+    QSet<int> m_stale;      ///< the tabs that show an earlier version
+    QPushButton *m_reading; ///< puts off a reading that takes long, or does it
+    bool m_isPutOff = false;
+    int m_readingTime = 0; ///< of the last reading, in ms
+    QTimer m_whenIdle;     ///< a click on a card does not wait for the tab beside it
+    QTimer m_clock;        ///< looks whether another day has begun, however the computer slept meanwhile
+    QDate m_day;           ///< that the figures were worked out for
 };
 
 } // namespace Host
