@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/exchange/tables.h"
+
+#include <QString>
+
+class QIODevice;
+
+/** The workbook of spreadsheets, a sheet for each table. */
+namespace Host::Xlsx {
+
+/** Whether this build has the format: it takes a library that may be missing. */
+bool isAvailable();
+
+/** The longest text that a cell takes, in units of UTF-16. */
+inline constexpr qsizetype LongestText = 32'767;
+
+struct Written
+{
+    QString problem;        ///< why there is no workbook, a clause; empty when there is one
+    qsizetype cutTexts = 0; ///< how many were longer than a cell takes
+    bool isStopped = false; ///< as @p proceed said
+};
+
+/** Writes all tables. The memory that it takes does not depend on their length; much of the work is done in
+ * temporary files. */
+Written write(const Catalogue &catalogue, const FlightIndex &whole, QIODevice &out,
+              const Proceed &proceed = {});
+
+} // namespace Host::Xlsx
