@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/app/commandline.h"
+#include "host/app/commands/command.h"
 #include "host/app/console.h"
 #include "host/app/display.h"
 #include "host/app/endsignals.h"
@@ -23,6 +24,20 @@ CommandLine readCommandLine(int &argc, char **argv)
     // An application without windows, so that help and mistakes need no display.
     const QCoreApplication application(argc, argv);
     return Host::readCommandLine(QCoreApplication::arguments());
+}
+
+/** Runs a command, which never needs a display: the library's records are widgets, but nobody looks at them.
+ */
+int runCommand(char **argv, const Invocation &invocation)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    for (const char *variable : {"QT_QPA_PLATFORMTHEME", "QT_STYLE_OVERRIDE", "SESSION_MANAGER"})
+        qunsetenv(variable); // a theme of the desktop may want a display
+    int argc = 1;            // Qt's own options are about windows
+    std::optional<DisplayGuard> guard(std::in_place);
+    const QApplication application(argc, argv);
+    guard.reset();
+    return commandNamed(invocation.command)->run(invocation);
 }
 
 /** Boxes, where somebody can see them. */
@@ -49,6 +64,8 @@ int main(int argc, char *argv[])
     }
     if (!commandLine.answer.isEmpty())
         return Console::print(commandLine.answer) ? EXIT_SUCCESS : EXIT_FAILURE;
+    if (commandLine.invocation)
+        return runCommand(argv, *commandLine.invocation);
 
     if (!commandLine.screenshot.isEmpty())
         qputenv("QT_QPA_PLATFORM", "offscreen");

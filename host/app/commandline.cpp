@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/app/commandline.h"
 
+#include "host/app/commands/command.h"
+#include "host/app/commands/usage.h"
+#include "host/app/qtoptions.h"
 #include "host/safety/storagefolder.h"
 #include "host/window/mainwindow.h"
 
@@ -9,7 +12,6 @@
 #include <QDir>
 
 #include <algorithm>
-#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -17,16 +19,6 @@ namespace Host {
 namespace {
 
 constexpr int UsageError = 2;
-
-/** Options that QApplication takes out of the arguments itself, for one dash or two. */
-constexpr std::array QtOptionsWithValue = {"display"_L1,       "geometry"_L1,     "icon"_L1,
-                                           "name"_L1,          "platform"_L1,     "platformpluginpath"_L1,
-                                           "platformtheme"_L1, "plugin"_L1,       "qwindowgeometry"_L1,
-                                           "qwindowicon"_L1,   "qwindowtitle"_L1, "session"_L1,
-                                           "style"_L1,         "stylesheet"_L1,   "title"_L1};
-constexpr std::array QtOptionsWithoutValue = {"dograb"_L1, "nograb"_L1,  "qdebug"_L1,
-                                              "qdevel"_L1, "reverse"_L1, "widgetcount"_L1};
-constexpr std::array QtOptionsBeforeEquals = {"qmljsdebugger="_L1, "style="_L1, "stylesheet="_L1};
 
 struct Text
 {
@@ -48,7 +40,34 @@ struct Options
     QCommandLineOption help{{u"h"_s, u"help"_s}, Text::tr("Show this help.")};
     QCommandLineOption helpAll{u"help-all"_s}; // of earlier versions
     QCommandLineOption version{{u"v"_s, u"version"_s}, Text::tr("Show the version.")};
+
+    Options() { helpAll.setFlags(QCommandLineOption::HiddenFromHelp); }
+
+    QList<QCommandLineOption> all() const
+    {
+        return {data, demo, resetDemo, screenshot, page, help, helpAll, version};
+    }
 };
+
+bool hasName(const QList<QCommandLineOption> &options, const QString &name)
+{
+    return std::any_of(options.cbegin(), options.cend(),
+                       [&](const QCommandLineOption &option) { return option.names().contains(name); });
+}
+
+/** The options of all commands: each name has a value in all of them, or in none. */
+QList<QCommandLineOption> optionsOfCommands()
+{
+    QList<QCommandLineOption> all;
+    const QList<Command> known = commands();
+    for (const Command &command : known) {
+        for (const CommandOption &option : command.options) {
+            if (!hasName(all, option.name))
+                all.append(QCommandLineOption(option.name, option.description, option.value));
+        }
+    }
+    return all;
+}
 
 QString nameOf(const QString &argument)
 {
@@ -58,30 +77,27 @@ QString nameOf(const QString &argument)
     return dashes == 0 ? QString() : argument.mid(dashes);
 }
 
-template <typename List>
-bool contains(const List &list, const QString &name)
+bool needsValueNext(const QList<QCommandLineOption> &options, const QString &name)
 {
-    return std::find(list.begin(), list.end(), name) != list.end();
-}
-
-bool isQtOption(const QString &name)
-{
-    return contains(QtOptionsWithoutValue, name) ||
-           std::any_of(QtOptionsBeforeEquals.begin(), QtOptionsBeforeEquals.end(),
-                       [&](QLatin1StringView start) { return name.startsWith(start); });
+    return std::any_of(options.cbegin(), options.cend(), [&](const QCommandLineOption &option) {
+        return !option.valueName().isEmpty() && option.names().contains(name);
+    });
 }
 
 /** The arguments that are meant for this program, not for Qt. */
 QStringList ownArguments(const QStringList &arguments)
 {
+    const QList<QCommandLineOption> commandOptions = optionsOfCommands();
     QStringList own;
     for (qsizetype i = 0; i < arguments.size(); ++i) {
         if (arguments.at(i) == "--"_L1)
             return own + arguments.mid(i);
         const QString name = nameOf(arguments.at(i));
-        if (contains(QtOptionsWithValue, name) && i + 1 < arguments.size())
+        if (needsValueNext(commandOptions, name)) // a battery may be called "-style"
+            own += arguments.mid(i++, 2);
+        else if (QtOptions::hasValue(name) && i + 1 < arguments.size())
             ++i;
-        else if (!isQtOption(name))
+        else if (!QtOptions::standsAlone(name))
             own.append(arguments.at(i));
     }
     return own;
@@ -109,12 +125,12 @@ QString needsValue(const QString &option)
 QString misunderstanding(const QCommandLineParser &parser, const QStringList &arguments)
 {
     const QStringList unknown = parser.unknownOptionNames();
-    if (!unknown.isEmpty() && contains(QtOptionsWithValue, unknown.first()))
+    if (!unknown.isEmpty() && QtOptions::hasValue(unknown.first()))
         return needsValue(spelled(arguments, unknown.first()));
     if (!unknown.isEmpty())
         return Text::tr("“%1” is not an option of this program.").arg(spelled(arguments, unknown.first()));
     const QString &last = arguments.last();
-    if (nameOf(last) == "data"_L1 || nameOf(last) == "screenshot"_L1 || nameOf(last) == "page"_L1)
+    if (needsValueNext(Options().all() + optionsOfCommands(), nameOf(last)))
         return needsValue(last);
     for (const QString &argument : arguments) {
         if (!nameOf(argument).isEmpty() && argument.contains(u'='))
@@ -123,12 +139,20 @@ QString misunderstanding(const QCommandLineParser &parser, const QStringList &ar
     return Text::tr("The arguments cannot be understood.");
 }
 
+/** An option that belongs to another command than the one that is asked for; empty when there is none. */
+QString foreignOption(const QCommandLineParser &parser, const Options &options,
+                      const std::optional<Command> &command)
+{
+    const QStringList given = parser.optionNames();
+    const auto found = std::find_if(given.cbegin(), given.cend(), [&](const QString &name) {
+        return !hasName(options.all(), name) && !(command && optionNamed(*command, name));
+    });
+    return found == given.cend() ? QString() : *found;
+}
+
 /** What is wrong with options that were each understood; empty when nothing is. */
 QString contradiction(const QCommandLineParser &parser, const Options &options, const CommandLine &read)
 {
-    const QStringList extra = parser.positionalArguments();
-    if (!extra.isEmpty())
-        return Text::tr("The argument “%1” is not expected.").arg(extra.first());
     if (read.demo && read.dataGiven)
         return Text::tr("“--data” cannot be used with the sample logbook, which has a folder of its own.");
     if (read.dataGiven && parser.value(options.data).isEmpty())
@@ -143,6 +167,16 @@ QString contradiction(const QCommandLineParser &parser, const Options &options, 
     for (const QString &name : {read.storagePath, read.screenshot}) {
         if (name.contains(QChar::ReplacementCharacter)) // another folder than the one that was meant
             return Text::tr("The name “%1” holds characters that are not valid UTF-8.").arg(name);
+    }
+    return QString();
+}
+
+/** What the window alone can do. */
+QString windowOption(const QCommandLineParser &parser, const Options &options)
+{
+    for (const QCommandLineOption &option : {options.resetDemo, options.screenshot, options.page}) {
+        if (parser.isSet(option))
+            return option.names().first();
     }
     return QString();
 }
@@ -162,18 +196,37 @@ QString chosenPath(const QCommandLineParser &parser, const Options &options, boo
     return StorageFolder::ofUser().path();
 }
 
-QString helpText(const QCommandLineParser &parser)
+Invocation invocationOf(const QCommandLineParser &parser, const Command &command, const CommandLine &read)
 {
+    Invocation invocation{command.name,   StorageFolder(read.storagePath),     read.demo,
+                          read.dataGiven, parser.positionalArguments().mid(1), {}};
+    for (const CommandOption &option : command.options) {
+        if (!parser.isSet(option.name))
+            continue;
+        QStringList values = parser.values(option.name);
+        if (option.kind == ValueKind::Path)
+            std::transform(values.begin(), values.end(), values.begin(), withHome);
+        invocation.options.insert(option.name, values);
+    }
+    return invocation;
+}
+
+QString helpText()
+{
+    const Options options;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        Text::tr("A battery and flight logbook for people who fly radio-controlled models."));
+    parser.addOptions(options.all());
     QString text = parser.helpText();
-    text.replace(0, text.indexOf(u'\n'), Text::tr("Usage: voltbok [options]")); // Qt names the whole path
-    text += u'\n' + Text::tr("Without --data the logbook is kept in\n  %1\nand the sample logbook in\n  %2\n")
-                        .arg(StorageFolder::ofUser().path(), StorageFolder::ofDemo().path());
-    QStringList names;
-    for (const QLatin1StringView name : QtOptionsWithValue)
-        names.append(u'-' + name);
-    for (const QLatin1StringView name : QtOptionsWithoutValue)
-        names.append(u'-' + name);
-    return text + u'\n' + Text::tr("Qt's own options are passed on to Qt: %1.").arg(names.join(", "_L1)) +
+    const QString usage = Text::tr("Usage: voltbok [options]\n"
+                                   "       voltbok [--data DIR | --demo] COMMAND [options]");
+    text.replace(0, text.indexOf(u'\n'), usage); // Qt names the whole path
+    text += u'\n' + Usage::commandList() + u'\n' +
+            Text::tr("Without --data the logbook is kept in\n  %1\nand the sample logbook in\n  %2\n")
+                .arg(StorageFolder::ofUser().path(), StorageFolder::ofDemo().path());
+    return text + u'\n' +
+           Text::tr("Qt's own options are passed on to Qt: %1.").arg(QtOptions::names().join(", "_L1)) +
            u'\n';
 }
 
@@ -185,40 +238,57 @@ CommandLine usageError(const QString &problem)
     return result;
 }
 
+CommandLine answer(const QString &text)
+{
+    CommandLine result;
+    result.answer = text;
+    return result;
+}
+
 } // namespace
 
 CommandLine readCommandLine(const QStringList &allArguments)
 {
     const QStringList arguments = ownArguments(allArguments);
-    Options options;
-    options.helpAll.setFlags(QCommandLineOption::HiddenFromHelp);
+    const Options options;
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.setApplicationDescription(
-        Text::tr("A battery and flight logbook for people who fly radio-controlled models."));
-    parser.addOptions({options.data, options.demo, options.resetDemo, options.screenshot, options.page,
-                       options.help, options.helpAll, options.version});
+    parser.addOptions(options.all() + optionsOfCommands());
     if (!parser.parse(arguments))
         return usageError(misunderstanding(parser, arguments));
+    const QStringList words = parser.positionalArguments();
+    const std::optional<Command> command = words.isEmpty() ? std::nullopt : commandNamed(words.first());
+    const QString foreign = foreignOption(parser, options, command);
+    if (!foreign.isEmpty() && command)
+        return usageError(
+            Text::tr("“%1” is not an option of “%2”.").arg(spelled(arguments, foreign), command->name));
+    if (!foreign.isEmpty())
+        return usageError(
+            Text::tr("“%1” is not an option of this program.").arg(spelled(arguments, foreign)));
+    if (!words.isEmpty() && !command)
+        return usageError(Text::tr("The argument “%1” is not expected.").arg(words.first()));
+    if (parser.isSet(options.help) || parser.isSet(options.helpAll))
+        return answer(command ? Usage::help(*command) : helpText());
+    if (parser.isSet(options.version))
+        return answer(QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion() +
+                      u'\n');
 
     CommandLine result;
-    if (parser.isSet(options.help) || parser.isSet(options.helpAll)) {
-        result.answer = helpText(parser);
-        return result;
-    }
-    if (parser.isSet(options.version)) {
-        result.answer =
-            QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion() + u'\n';
-        return result;
-    }
-
     result.dataGiven = parser.isSet(options.data);
     result.resetDemo = parser.isSet(options.resetDemo);
     result.demo = result.resetDemo || parser.isSet(options.demo);
     result.storagePath = chosenPath(parser, options, result.demo);
     result.page = parser.value(options.page);
     result.screenshot = withHome(parser.value(options.screenshot));
-    const QString wrong = contradiction(parser, options, result);
+    QString wrong = contradiction(parser, options, result);
+    if (!command)
+        return wrong.isEmpty() ? result : usageError(wrong);
+    const QString ofWindow = windowOption(parser, options);
+    if (!ofWindow.isEmpty())
+        return usageError(Text::tr("“--%1” is for the window, not for “%2”.").arg(ofWindow, command->name));
+    result.invocation = invocationOf(parser, *command, result);
+    if (wrong.isEmpty())
+        wrong = Usage::problem(*command, *result.invocation);
     return wrong.isEmpty() ? result : usageError(wrong);
 }
 

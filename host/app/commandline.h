@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "host/app/commands/invocation.h"
+
 #include <QString>
 #include <QStringList>
+
+#include <optional>
 
 namespace Host {
 
@@ -18,6 +22,7 @@ struct CommandLine
     bool dataGiven = false; ///< the folder was named on the command line
     bool demo = false;
     bool resetDemo = false;
+    std::optional<Invocation> invocation; ///< the command to run instead of opening the window
 };
 
 /** Reads the arguments, the program's name first; Qt's own options are left to Qt. Needs an application

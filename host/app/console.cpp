@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
 
 #ifdef Q_OS_UNIX
 #include <csignal>
@@ -34,17 +35,30 @@ void Console::complain(const QString &problem)
 
 bool Console::print(const QString &text)
 {
-    const QByteArray bytes = text.toUtf8();
+    Output output;
+    output.write(text.toUtf8());
+    return output.finish() == EXIT_SUCCESS;
+}
+
+bool Console::Output::write(const QByteArray &bytes)
+{
+    const auto size = static_cast<size_t>(bytes.size());
     errno = 0;
-    const bool isWritten = std::fwrite(bytes.constData(), 1, static_cast<size_t>(bytes.size()), stdout) ==
-                               static_cast<size_t>(bytes.size()) &&
-                           std::fflush(stdout) == 0;
-    const int reason = errno;
-    if (isWritten || reason == EPIPE)
-        return true;
+    if (m_reason == 0 && std::fwrite(bytes.constData(), 1, size, stdout) != size)
+        m_reason = errno;
+    return m_reason == 0;
+}
+
+int Console::Output::finish()
+{
+    errno = 0;
+    if (m_reason == 0 && std::fflush(stdout) != 0)
+        m_reason = errno;
+    if (m_reason == 0 || m_reason == EPIPE)
+        return EXIT_SUCCESS;
     complain(QCoreApplication::translate("Console", "Nothing more can be written to standard output: %1.")
-                 .arg(qt_error_string(reason)));
-    return false;
+                 .arg(qt_error_string(m_reason)));
+    return EXIT_FAILURE;
 }
 
 } // namespace Host

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 namespace Host::Console {
@@ -20,5 +21,22 @@ void complain(const QString &problem);
 /** Prints a text on standard output. @return false when it could not be written, which was then said; a
  * reader that has read enough and gone away is no failure. */
 bool print(const QString &text);
+
+/** Standard output, written piece by piece. */
+class Output final
+{
+    Q_DISABLE_COPY_MOVE(Output)
+
+public:
+    Output() = default;
+
+    /** @return false when nothing more is taken, for whatever reason. */
+    bool write(const QByteArray &bytes);
+    /** Says what went wrong. @return the program's exit status; a reader that went away is no failure. */
+    int finish();
+
+private:
+    int m_reason = 0; ///< of the system, why nothing more is taken
+};
 
 } // namespace Host::Console

@@ -13,12 +13,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 
-QByteArray sampleLogbook()
-{
-    QFile sample(u":/demo/voltbok.xml"_s);
-    return sample.open(QFile::ReadOnly) ? sample.readAll() : QByteArray();
-}
-
 /** Puts the sample in the place of what is there, which is kept. @return why it was not put there, a clause.
  */
 QString put(const StorageFolder &folder, const FileState &state)
@@ -35,6 +29,12 @@ QString put(const StorageFolder &folder, const FileState &state)
 }
 
 } // namespace
+
+QByteArray sampleLogbook()
+{
+    QFile sample(u":/demo/voltbok.xml"_s);
+    return sample.open(QFile::ReadOnly) ? sample.readAll() : QByteArray();
+}
 
 QString prepareDemo(const StorageFolder &folder, bool reset)
 {

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 namespace Host {
 
 class StorageFolder;
+
+/** The document that comes with the program. */
+QByteArray sampleLogbook();
 
 /**
  * Puts the sample logbook into a folder. Without @p reset only where there is neither a logbook nor a copy of

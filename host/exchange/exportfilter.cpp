@@ -29,14 +29,14 @@ void limit(QList<Entry> &entries, const DateRange &range)
 }
 
 template <typename Record>
-void addUnknown(QStringList &unknown, const QList<Record> &records, const std::optional<QStringList> &names)
+std::optional<QString> unknown(const QList<Record> &records, const std::optional<QStringList> &names)
 {
     for (const QString &name : names.value_or(QStringList())) {
-        const bool isKnown = std::any_of(records.cbegin(), records.cend(),
-                                         [&name](const Record &record) { return record.name == name; });
-        if (!isKnown && !unknown.contains(name))
-            unknown.append(name);
+        if (std::none_of(records.cbegin(), records.cend(),
+                         [&name](const Record &record) { return record.name == name; }))
+            return name;
     }
+    return std::nullopt;
 }
 
 } // namespace
@@ -52,12 +52,14 @@ Catalogue filtered(const Catalogue &whole, const ExportFilter &filter)
     return part;
 }
 
-QStringList unknownNames(const Catalogue &whole, const ExportFilter &filter)
+std::optional<QString> unknownBattery(const Catalogue &whole, const ExportFilter &filter)
 {
-    QStringList unknown;
-    addUnknown(unknown, whole.batteries, filter.batteries);
-    addUnknown(unknown, whole.models, filter.models);
-    return unknown;
+    return unknown(whole.batteries, filter.batteries);
+}
+
+std::optional<QString> unknownModel(const Catalogue &whole, const ExportFilter &filter)
+{
+    return unknown(whole.models, filter.models);
 }
 
 } // namespace Host

@@ -21,7 +21,8 @@ struct ExportFilter
 /** The part that passes. Which batteries a flight had is still told from the whole logbook. */
 Catalogue filtered(const Catalogue &whole, const ExportFilter &filter);
 
-/** The names in a filter that no record has, each once; the batteries first. */
-QStringList unknownNames(const Catalogue &whole, const ExportFilter &filter);
+/** The first battery or model that a filter names and nobody has. */
+std::optional<QString> unknownBattery(const Catalogue &whole, const ExportFilter &filter);
+std::optional<QString> unknownModel(const Catalogue &whole, const ExportFilter &filter);
 
 } // namespace Host

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/exchange/tables.h"
 
-#include "host/data/flightindex.h"
+#include "host/data/moments.h"
 #include "host/data/sources.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -16,8 +16,9 @@ const QString BetweenNames = u"; "_s;
 class Rows
 {
 public:
-    Rows(const FlightIndex &whole, TableWriter &writer, const Proceed &proceed)
+    Rows(const Catalogue &whole, TableWriter &writer, const Proceed &proceed)
         : m_whole(whole)
+        , m_moments(whole)
         , m_writer(writer)
         , m_proceed(proceed)
     {
@@ -114,16 +115,17 @@ private:
 
     QString batteriesOf(const Flight &flight) const
     {
-        const QList<const Battery *> batteries = m_whole.batteriesAt(flight.time);
-        if (batteries.size() == 1) // nearly always; saves a list of names
-            return batteries.first()->name;
+        const QList<DischargePlace> places = m_moments.firstDischargesAt(momentOf(flight.time));
+        if (places.size() == 1) // nearly always; saves a list of names
+            return m_whole.batteries.at(places.first().battery).name;
         QStringList names;
-        for (const Battery *battery : batteries)
-            names.append(battery->name);
+        for (const DischargePlace &place : places)
+            names.append(m_whole.batteries.at(place.battery).name);
         return names.join(BetweenNames);
     }
 
-    const FlightIndex &m_whole;
+    const Catalogue &m_whole;
+    const Moments m_moments;
     TableWriter &m_writer;
     const Proceed &m_proceed;
     qsizetype m_count = 0;
@@ -201,7 +203,7 @@ qsizetype countRows(const Catalogue &catalogue)
     return rows;
 }
 
-bool writeTables(const Catalogue &catalogue, const FlightIndex &whole, TableWriter &writer,
+bool writeTables(const Catalogue &catalogue, const Catalogue &whole, TableWriter &writer,
                  const Proceed &proceed)
 {
     Rows rows(whole, writer, proceed);

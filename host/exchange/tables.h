@@ -12,8 +12,6 @@
 
 namespace Host {
 
-class FlightIndex;
-
 /** A column of an exported table. */
 struct Column
 {
@@ -71,7 +69,7 @@ qsizetype countRows(const Catalogue &catalogue);
  * @param whole the logbook that @p catalogue is a part of, to tell which batteries a flight had.
  * @return whether everything was written.
  */
-bool writeTables(const Catalogue &catalogue, const FlightIndex &whole, TableWriter &writer,
+bool writeTables(const Catalogue &catalogue, const Catalogue &whole, TableWriter &writer,
                  const Proceed &proceed = {});
 
 } // namespace Host

@@ -271,7 +271,7 @@ bool Xlsx::isAvailable()
     return true;
 }
 
-Xlsx::Written Xlsx::write(const Catalogue &catalogue, const FlightIndex &whole, QIODevice &out,
+Xlsx::Written Xlsx::write(const Catalogue &catalogue, const Catalogue &whole, QIODevice &out,
                           const Proceed &proceed)
 {
     const QTemporaryDir folder;

@@ -23,9 +23,9 @@ struct Written
     bool isStopped = false; ///< as @p proceed said
 };
 
-/** Writes all tables. The memory that it takes does not depend on their length; much of the work is done in
- * temporary files. */
-Written write(const Catalogue &catalogue, const FlightIndex &whole, QIODevice &out,
+/** Writes all tables of @p catalogue, which is a part of @p whole. The memory that it takes does not depend
+ * on their length; much of the work is done in temporary files. */
+Written write(const Catalogue &catalogue, const Catalogue &whole, QIODevice &out,
               const Proceed &proceed = {});
 
 } // namespace Host::Xlsx

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/exchange/csv.h"
 
-#include "host/data/flightindex.h"
 #include "host/exchange/exportfilter.h"
 #include "tests/host/support/plainlogbook.h"
 
@@ -26,7 +25,7 @@ Files written(const Catalogue &catalogue, const CsvStyle &style = CsvStyle::plai
             return true;
         };
     });
-    if (!writeTables(filtered(catalogue, filter), FlightIndex(catalogue), writer))
+    if (!writeTables(filtered(catalogue, filter), catalogue, writer))
         qFatal("the tables were not written");
     return files;
 }
@@ -282,7 +281,7 @@ void CsvTest::aSinkThatFailsEndsTheTables()
         return [](const QByteArray &) { return false; };
     });
     const Catalogue catalogue = oneOfEach();
-    QVERIFY(!writeTables(catalogue, FlightIndex(catalogue), writer));
+    QVERIFY(!writeTables(catalogue, catalogue, writer));
     QCOMPARE(asked, 1);
 }
 

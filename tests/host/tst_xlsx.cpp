@@ -2,7 +2,6 @@
 // Workbooks, read back by a spreadsheet that is not ours.
 #include "host/exchange/xlsx.h"
 
-#include "host/data/flightindex.h"
 #include "tests/host/support/nastylogbook.h"
 #include "tests/host/support/spreadsheet.h"
 
@@ -27,7 +26,7 @@ Workbook workbook(const Catalogue &catalogue, const Proceed &proceed = {})
     Workbook workbook;
     QBuffer buffer(&workbook.bytes);
     buffer.open(QBuffer::WriteOnly);
-    workbook.written = Xlsx::write(catalogue, FlightIndex(catalogue), buffer, proceed);
+    workbook.written = Xlsx::write(catalogue, catalogue, buffer, proceed);
     return workbook;
 }
 
@@ -183,7 +182,7 @@ void XlsxTest::everyCellIsReadAsItWasMeant()
     QCOMPARE(names,
              QStringList({u"batteries"_s, u"discharges"_s, u"models"_s, u"flights"_s, u"locations"_s}));
     Comparison comparison(sheets);
-    QVERIFY(writeTables(catalogue, FlightIndex(catalogue), comparison));
+    QVERIFY(writeTables(catalogue, catalogue, comparison));
     QCOMPARE(comparison.differences, QStringList());
     QVERIFY(comparison.cells >= 30); // the headers
 }
@@ -267,7 +266,7 @@ void XlsxTest::aDeviceThatFailsIsSaid()
     QFile full(u"/dev/full"_s);
     QVERIFY(full.open(QFile::WriteOnly | QFile::Unbuffered));
     const Catalogue catalogue;
-    const Xlsx::Written written = Xlsx::write(catalogue, FlightIndex(catalogue), full);
+    const Xlsx::Written written = Xlsx::write(catalogue, catalogue, full);
     QCOMPARE(written.problem, u"no space left on device"_s);
 }
 

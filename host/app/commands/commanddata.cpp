@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/app/commands/commanddata.h"
+
+#include "host/app/commands/invocation.h"
+#include "host/app/console.h"
+#include "host/data/cataloguefile.h"
+#include "host/demo/demo.h"
+#include "host/safety/recovery.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QThread>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace Host {
+namespace {
+
+constexpr int LongestSave = 2000; // ms that a file is waited for
+constexpr unsigned long Pause = 100;
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("CommandData", text);
+}
+
+/** Why there is no folder to read from, a sentence; empty when there is one, or when there need not be. */
+QString folderProblem(const Invocation &invocation)
+{
+    const QFileInfo folder(invocation.folder.path());
+    if (folder.exists() && !folder.isDir())
+        return tr(QT_TRANSLATE_NOOP("CommandData", "“%1” is not a folder.")).arg(folder.filePath());
+    if (!folder.exists() && (invocation.isDataGiven || folder.isSymLink()))
+        return tr(QT_TRANSLATE_NOOP("CommandData", "There is no folder “%1”.")).arg(folder.filePath());
+    return QString();
+}
+
+bool mayBecomeWhole(const FileState &state)
+{
+    return state.kind == FileState::Damaged || state.kind == FileState::Missing;
+}
+
+FileState settledState(const StorageFolder &folder)
+{
+    QElapsedTimer clock;
+    clock.start();
+    FileState state = Recovery::examine(folder);
+    while (mayBecomeWhole(state) && clock.elapsed() < LongestSave) {
+        QThread::msleep(Pause);
+        state = Recovery::examine(folder);
+    }
+    return state;
+}
+
+std::optional<Catalogue> complain(const Invocation &invocation, const QString &problem)
+{
+    Console::complain(tr(QT_TRANSLATE_NOOP("CommandData", "The logbook file “%1” cannot be read: %2."))
+                          .arg(invocation.folder.dataFile(), problem));
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<Catalogue> CommandData::read(const Invocation &invocation)
+{
+    const QString problem = folderProblem(invocation);
+    if (!problem.isEmpty()) {
+        Console::complain(problem);
+        return std::nullopt;
+    }
+    FileState state = settledState(invocation.folder);
+    if (state.kind == FileState::New && !invocation.isDemo)
+        return Catalogue();
+    if (state.kind == FileState::New)
+        state = {FileState::Whole, {}, sampleLogbook()};
+    if (state.kind != FileState::Whole)
+        return complain(invocation, state.problem);
+    const CatalogueFile::Loaded loaded = CatalogueFile::load(state.bytes);
+    return loaded.problem.isEmpty() ? std::optional(loaded.catalogue) : complain(invocation, loaded.problem);
+}
+
+} // namespace Host

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "host/data/catalogue.h"
+
+#include <optional>
+
+namespace Host {
+
+struct Invocation;
+
+/** The logbook that a command is about. */
+namespace CommandData {
+
+/**
+ * Reads it, without a lock, and makes and writes nothing where it lies. A file that is not whole may be in
+ * the middle of a save: it is read again for up to two seconds. A folder without a logbook, and the user's
+ * own before it is there, is an empty logbook; a sample that was never opened is the one that comes with the
+ * program.
+ *
+ * @return nothing when it could not be read, which was then said.
+ */
+std::optional<Catalogue> read(const Invocation &invocation);
+
+} // namespace CommandData
+} // namespace Host
