@@ -41,7 +41,7 @@ CsvStyle CsvStyle::forLocale(const QLocale &locale)
     return style;
 }
 
-CsvWriter::CsvWriter(CsvStyle style, std::function<Sink(const Table &)> sinkFor)
+CsvWriter::CsvWriter(CsvStyle style, std::function<ByteSink(const Table &)> sinkFor)
     : m_style(std::move(style))
     , m_sinkFor(std::move(sinkFor))
 {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "host/exchange/cataloguejson.h"
 #include "host/exchange/tables.h"
 
 #include <QByteArray>
@@ -29,11 +30,8 @@ struct CsvStyle
 class CsvWriter final : public TableWriter
 {
 public:
-    /** Takes the bytes of one table in their order. @return whether it could. */
-    using Sink = std::function<bool(const QByteArray &)>;
-
     /** @param sinkFor is asked for a sink when a table begins. */
-    CsvWriter(CsvStyle style, std::function<Sink(const Table &)> sinkFor);
+    CsvWriter(CsvStyle style, std::function<ByteSink(const Table &)> sinkFor);
 
     void beginTable(const Table &table) override;
     void addText(const QString &text) override;
@@ -52,8 +50,8 @@ private:
     void flush();
 
     const CsvStyle m_style;
-    const std::function<Sink(const Table &)> m_sinkFor;
-    Sink m_sink;
+    const std::function<ByteSink(const Table &)> m_sinkFor;
+    ByteSink m_sink;
     QByteArray m_bytes; ///< those that the sink has not got yet
     qsizetype m_columns = 0;
     qsizetype m_column = 0;

@@ -81,18 +81,24 @@ public:
         return nullptr;
     }
 
+    /** A disk that takes only a part says why when it is given the rest. */
     bool write(QSaveFile &file, const QByteArray &bytes)
     {
-        if (file.write(bytes) == bytes.size())
-            return true;
-        fail(file);
-        return false;
+        for (qint64 done = 0; done < bytes.size();) {
+            const qint64 taken = file.write(bytes.constData() + done, bytes.size() - done);
+            if (taken <= 0) {
+                fail(file);
+                return false;
+            }
+            done += taken;
+        }
+        return true;
     }
 
     void commit()
     {
         for (const auto &file : m_files) {
-            if (problem.isEmpty() && !file->flush())
+            if (problem.isEmpty() && !file->flush() && !file->flush())
                 fail(*file);
         }
         for (const auto &file : m_files) {
@@ -144,10 +150,10 @@ public:
 private:
     void writeCsv()
     {
-        const QDir folder(m_order.path);
-        CsvWriter writer(
-            m_order.format == ExportFormat::Csv ? CsvStyle::plain() : m_order.localStyle,
-            [&](const Table &table) { return sinkFor(folder.filePath(table.name + ".csv"_L1)); });
+        const QStringList names = exportFiles(m_order.format, m_order.path);
+        auto name = names.cbegin();
+        CsvWriter writer(m_order.format == ExportFormat::Csv ? CsvStyle::plain() : m_order.localStyle,
+                         [&](const Table &) { return sinkFor(*name++); });
         const Proceed goOn = [this](qsizetype rows) { return goesOn(rows); };
         writeTables(m_shown, m_whole, writer, goOn);
     }
@@ -162,10 +168,10 @@ private:
 
     void writeXlsx()
     {
-        QSaveFile *file = m_files.open(m_order.path);
-        if (!file)
+        const ByteSink sink = sinkFor(m_order.path);
+        if (!sink)
             return;
-        const Xlsx::Written written = Xlsx::write(m_shown, m_whole, *file, m_proceed);
+        const Xlsx::Written written = Xlsx::write(m_shown, m_whole, sink, m_proceed);
         m_result.isStopped = written.isStopped;
         m_result.cutTexts = written.cutTexts;
         if (!written.problem.isEmpty())
@@ -224,7 +230,7 @@ QStringList exportFiles(ExportFormat format, const QString &path)
         return QStringList{path};
     QStringList files;
     for (const Table &table : exportTables())
-        files.append(QDir(path).filePath(table.name + u".csv"_s));
+        files.append(QDir::cleanPath(QDir(path).filePath(table.name + u".csv"_s)));
     return files;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/exchange/xlsx.h"
 
+#include "host/exchange/pointsinnumbers.h"
 #include "host/safety/wholefile.h"
 
 #include <QCoreApplication>
@@ -12,10 +13,10 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <clocale>
 #include <cmath>
 #include <cstdio>
 #include <utility>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -31,32 +32,6 @@ QString translated(const char *text)
 {
     return QCoreApplication::translate("Xlsx", text);
 }
-
-/** The library prints numbers as the C locale of its thread says, but a workbook has points in any case. */
-class PointsInNumbers
-{
-    Q_DISABLE_COPY_MOVE(PointsInNumbers)
-
-public:
-#ifdef Q_OS_UNIX
-    PointsInNumbers()
-        : m_points(newlocale(LC_NUMERIC_MASK, "C", duplocale(LC_GLOBAL_LOCALE)))
-        , m_before(uselocale(m_points))
-    {
-    }
-    ~PointsInNumbers()
-    {
-        uselocale(m_before);
-        freelocale(m_points);
-    }
-
-private:
-    const locale_t m_points;
-    const locale_t m_before;
-#else
-    PointsInNumbers() = default;
-#endif
-};
 
 /** The number of a day in a spreadsheet, which takes 1900 for a leap year. */
 double serialOf(QDate date)
@@ -103,6 +78,7 @@ private:
     lxw_format *m_date = nullptr;
     lxw_format *m_time = nullptr;
     lxw_worksheet *m_sheet = nullptr;
+    std::vector<lxw_worksheet *> m_sheets;
     lxw_row_t m_row = 0;
     lxw_col_t m_column = 0;
     lxw_col_t m_columns = 0;
@@ -134,6 +110,10 @@ XlsxWriter::XlsxWriter(const QTemporaryDir &folder)
 
 XlsxWriter::~XlsxWriter()
 {
+    if (!m_workbook)
+        return;
+    for (lxw_worksheet *sheet : m_sheets) // given up; the library would leave their files open
+        std::fclose(std::exchange(sheet->optimize_tmpfile, nullptr));
     lxw_workbook_free(m_workbook);
 }
 
@@ -154,6 +134,7 @@ void XlsxWriter::beginTable(const Table &table)
             m_problem = WholeFile::clause(qt_error_string(errno));
         return;
     }
+    m_sheets.push_back(m_sheet);
     static constexpr double Widths[] = {24, 14, 12, 20}; // characters, by Column::Kind
     for (lxw_col_t column = 0; column < m_columns; ++column) {
         const Column &description = table.columns.at(column);
@@ -249,7 +230,8 @@ QString XlsxWriter::finish()
     return m_problem;
 }
 
-QString copy(const QString &path, QIODevice &out)
+/** Passes a file on. @return why it cannot be read, a clause. */
+QString passOn(const QString &path, const ByteSink &sink)
 {
     QFile file(path);
     if (!file.open(QFile::ReadOnly))
@@ -258,8 +240,8 @@ QString copy(const QString &path, QIODevice &out)
         const QByteArray bytes = file.read(ChunkSize);
         if (bytes.isEmpty())
             return WholeFile::clause(file.errorString());
-        if (out.write(bytes) != bytes.size())
-            return WholeFile::clause(out.errorString());
+        if (!sink(bytes))
+            break;
     }
     return QString();
 }
@@ -271,7 +253,7 @@ bool Xlsx::isAvailable()
     return true;
 }
 
-Xlsx::Written Xlsx::write(const Catalogue &catalogue, const Catalogue &whole, QIODevice &out,
+Xlsx::Written Xlsx::write(const Catalogue &catalogue, const Catalogue &whole, const ByteSink &sink,
                           const Proceed &proceed)
 {
     const QTemporaryDir folder;
@@ -287,7 +269,7 @@ Xlsx::Written Xlsx::write(const Catalogue &catalogue, const Catalogue &whole, QI
         return {writer.problem(), 0, isStopped};
     QString problem = writer.finish();
     if (problem.isEmpty())
-        problem = copy(folder.filePath(u"workbook.xlsx"_s), out);
+        problem = passOn(folder.filePath(u"workbook.xlsx"_s), sink);
     return {problem, writer.cutTexts()};
 }
 

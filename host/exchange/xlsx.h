@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "host/exchange/cataloguejson.h"
 #include "host/exchange/tables.h"
 
 #include <QString>
-
-class QIODevice;
 
 /** The workbook of spreadsheets, a sheet for each table. */
 namespace Host::Xlsx {
@@ -24,8 +23,9 @@ struct Written
 };
 
 /** Writes all tables of @p catalogue, which is a part of @p whole. The memory that it takes does not depend
- * on their length; much of the work is done in temporary files. */
-Written write(const Catalogue &catalogue, const Catalogue &whole, QIODevice &out,
+ * on their length; much of the work is done in temporary files. A sink that refuses has its own reasons,
+ * which are no problem of the workbook's. */
+Written write(const Catalogue &catalogue, const Catalogue &whole, const ByteSink &sink,
               const Proceed &proceed = {});
 
 } // namespace Host::Xlsx

@@ -11,7 +11,7 @@ bool Xlsx::isAvailable()
     return false;
 }
 
-Xlsx::Written Xlsx::write(const Catalogue &, const Catalogue &, QIODevice &, const Proceed &)
+Xlsx::Written Xlsx::write(const Catalogue &, const Catalogue &, const ByteSink &, const Proceed &)
 {
     return {QCoreApplication::translate("Xlsx", "this build of the program cannot write workbooks")};
 }
