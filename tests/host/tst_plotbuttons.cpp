@@ -127,8 +127,7 @@ void PlotButtonsTest::whatCannotBeSavedIsTold()
         QVERIFY(disk.works());
         m_shown->press(u"Save Plot…"_s);
     } else {
-        const Permissions readOnly(m_shown->folder.path(),
-                                   QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+        const Refusal readOnly(m_shown->folder.path(), 0555);
         QVERIFY(readOnly.works());
         m_shown->press(u"Save Plot…"_s);
     }
