@@ -121,6 +121,7 @@ void PlotButtonsTest::whatCannotBeSavedIsTold()
     QVERIFY(before.open(QFile::WriteOnly));
     before.write("before");
     before.close();
+    before.setPermissions(QFile::Permissions(0x6666)); // the folder alone is in the way
     m_shown->questions.chooseFile(m_shown->file(name));
     if (isFull) {
         const FullDisk disk(600);
