@@ -140,7 +140,7 @@ void FlightBookPages::drawSignature(QPainter &painter) const
     line(middle + gap, place.right(), Text::tr("Signature"));
 }
 
-bool FlightBookPages::print(QPagedPaintDevice &device, const Progress &progress) const
+bool FlightBookPages::print(QPagedPaintDevice &device, const Watch &watch) const
 {
     QPainter painter;
     if (!painter.begin(&device))
@@ -151,17 +151,17 @@ bool FlightBookPages::print(QPagedPaintDevice &device, const Progress &progress)
         if (page > 0 && !device.newPage())
             return false;
         draw(page, painter);
-        if (progress && !progress(static_cast<double>(page + 1) / count()))
+        if (watch && !watch(static_cast<double>(page + 1) / count()))
             return false;
     }
     return painter.end();
 }
 
 QByteArray flightBookPdf(const FlightBook &book, QPageSize::PageSizeId paper, const QLocale &locale,
-                         const Progress &progress)
+                         const Watch &watch)
 {
-    const auto half = [&progress](double begin) {
-        return [&progress, begin](double share) { return !progress || progress(begin + share / 2); };
+    const auto half = [&watch](double begin) {
+        return [&watch, begin](double share) { return !watch || watch(begin + share / 2); };
     };
     const QPageSize size(paper);
     FlightBookPages pages(book, size.size(QPageSize::Point), locale);

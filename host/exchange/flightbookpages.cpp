@@ -237,12 +237,12 @@ void FlightBookPages::layOutNext()
     m_pages.push_back(page);
 }
 
-bool FlightBookPages::layOut(const Progress &progress)
+bool FlightBookPages::layOut(const Watch &watch)
 {
     while (!m_isComplete) {
         layOutNext();
         const size_t done = m_pages.back().firstRow + m_pages.back().rowCount;
-        if (progress && !progress(static_cast<double>(done) / static_cast<double>(m_rows.size())))
+        if (watch && !watch(static_cast<double>(done) / static_cast<double>(m_rows.size())))
             return false;
     }
     return true;

@@ -6,7 +6,6 @@
 #include "host/window/flightfields.h"
 #include "host/window/openlogbook.h"
 #include "host/window/questions.h"
-#include "host/window/shownprogress.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -25,6 +24,24 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
+namespace {
+
+constexpr int Steps = 100; // of a progress
+
+/** Watches a work that a progress shows in steps. */
+Watch stepsOf(Progress &progress)
+{
+    return [&progress, done = 0](double share) mutable {
+        for (; done < static_cast<int>(Steps * share); ++done) {
+            if (!progress.step())
+                return false;
+        }
+        return true;
+    };
+}
+
+} // namespace
+
 void showFlightBook(OpenLogbook &logbook, Questions &questions, QWidget *parent)
 {
     if (const std::shared_ptr<const Catalogue> catalogue = logbook.catalogue())
@@ -235,14 +252,24 @@ void FlightBookDialog::print()
 /** @return false when it was not the user who ended it. */
 bool FlightBookDialog::printOn(QPrinter &printer)
 {
-    ShownProgress progress(tr("Printing the flight book"), tr("Cancel"), this);
+    const std::unique_ptr<Progress> progress =
+        m_questions.progress(tr("The flight book is printed…"), 2 * Steps);
     printer.setFullPage(true); // the pages bring their margins
     FlightBookPages pages(book(), printer.pageLayout().fullRectPoints().size(), QLocale());
-    const bool isDone = pages.layOut(progress.of(0.0, 0.5)) && pages.print(printer, progress.of(0.5, 0.5)) &&
-                        printer.printerState() != QPrinter::Error;
+    bool isCancelled = !pages.layOut(stepsOf(*progress));
+    const bool isDone = !isCancelled && pages.print(printer, [&, watch = stepsOf(*progress)](double share) {
+        isCancelled = !watch(share);
+        return !isCancelled;
+    });
     if (!isDone)
         printer.abort();
-    return isDone || progress.isCancelled();
+    return isCancelled || (isDone && printer.printerState() != QPrinter::Error);
+}
+
+QByteArray FlightBookDialog::pdf()
+{
+    const std::unique_ptr<Progress> progress = m_questions.progress(tr("The flight book is saved…"), Steps);
+    return flightBookPdf(book(), paper(), QLocale(), stepsOf(*progress));
 }
 
 void FlightBookDialog::save()
@@ -250,13 +277,10 @@ void FlightBookDialog::save()
     m_message->hide();
     const QString path = m_questions.chooseSaveFile(
         tr("Save the Flight Book"), FlightBookTexts::title() + u".pdf"_s, {tr("PDF document (*.pdf)")});
-    if (path.isEmpty())
+    const QByteArray document = path.isEmpty() ? QByteArray() : pdf();
+    if (document.isEmpty())
         return;
-    ShownProgress progress(tr("Saving the flight book"), tr("Cancel"), this);
-    const QByteArray pdf = flightBookPdf(book(), paper(), QLocale(), progress.of(0.0, 1.0));
-    if (pdf.isEmpty())
-        return;
-    const QString problem = WholeFile::write(path, pdf);
+    const QString problem = WholeFile::write(path, document);
     const QString place = QDir::toNativeSeparators(path);
     if (problem.isEmpty())
         say(tr("The flight book is saved in “%1”.").arg(place));

@@ -57,6 +57,7 @@ private:
     void say(const QString &text);
     void print();
     bool printOn(QPrinter &printer);
+    QByteArray pdf();
     void save();
 
     const std::shared_ptr<const Catalogue> m_catalogue;
