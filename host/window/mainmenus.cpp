@@ -2,6 +2,7 @@
 // The menus of the main window, and what their actions do.
 #include "host/window/mainwindow.h"
 
+#include "host/window/flightbookdialog.h"
 #include "host/window/manualwindow.h"
 #include "host/window/openlogbook.h"
 #include "host/window/pendinginput.h"
@@ -40,6 +41,9 @@ void MainWindow::buildLogbookMenu()
     open->setShortcut(QKeySequence::Open);
     m_recent = menu->addMenu(tr("Open &Recent"));
     connect(m_recent, &QMenu::aboutToShow, this, &MainWindow::listRecentFolders);
+    menu->addSeparator();
+    menu->addAction(tr("&Flight Book (print, PDF)…"), this,
+                    [this] { showFlightBook(*m_logbook, m_questions, this); });
     menu->addSeparator();
     QAction *quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q)); // QKeySequence::Quit is empty on some desktops
