@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/exportdialog.h"
 
-#include "host/exchange/xlsx.h"
 #include "host/window/breakable.h"
+#include "host/window/exportformats.h"
 #include "host/window/exportnames.h"
 #include "host/window/exportpreview.h"
 #include "host/window/flightfields.h"
@@ -56,7 +56,8 @@ ExportDialog::ExportDialog(std::shared_ptr<const Catalogue> catalogue, Questions
     , m_progress(new QProgressBar)
 {
     setWindowTitle(tr("Export"));
-    offerFormats();
+    for (const ExportFormat format : ExportFormats::all())
+        m_format->addItem(ExportFormats::name(format), static_cast<int>(format));
     m_fields = buildFields();
     auto *area = new QScrollArea; // at 200 % it is higher than some screens
     area->setWidgetResizable(true);
@@ -82,7 +83,7 @@ ExportDialog::ExportDialog(std::shared_ptr<const Catalogue> catalogue, Questions
     refresh();
     const QSize most = screen()->availableSize() * 9 / 10;
     const int character = fontMetrics().averageCharWidth();
-    resize(QSize(character * 130, fontMetrics().lineSpacing() * 32).boundedTo(most));
+    resize(QSize(character * 160, fontMetrics().lineSpacing() * 32).boundedTo(most));
 }
 
 ExportDialog::~ExportDialog()
@@ -92,29 +93,19 @@ ExportDialog::~ExportDialog()
         m_thread->wait();
 }
 
-void ExportDialog::offerFormats()
-{
-    const auto offer = [this](const QString &name, ExportFormat format) {
-        m_format->addItem(name, static_cast<int>(format));
-    };
-    if (Xlsx::isAvailable())
-        offer(tr("Workbook for spreadsheets (XLSX)"), ExportFormat::Xlsx);
-    offer(tr("Tables for your spreadsheet (CSV)"), ExportFormat::CsvLocal);
-    offer(tr("Tables for other programs (CSV)"), ExportFormat::Csv);
-    offer(tr("Everything for scripts (JSON)"), ExportFormat::Json);
-}
-
 QWidget *ExportDialog::buildFields()
 {
     auto *fields = new QWidget;
     auto *columns = new QHBoxLayout(fields);
     columns->setContentsMargins(0, 0, 0, 0);
     auto *choices = new QVBoxLayout;
-    columns->addLayout(choices, 2);
+    columns->addLayout(choices, 1);
     auto *form = new QFormLayout;
     choices->addLayout(form);
+    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     form->addRow(tr("&Format"), m_format);
     m_format->setAccessibleName(tr("Format"));
+    m_format->setMinimumContentsLength(26);
     m_explanation->setWordWrap(true);
     m_explanation->setTextFormat(Qt::PlainText);
     form->addRow(m_explanation);
@@ -123,7 +114,7 @@ QWidget *ExportDialog::buildFields()
     choices->addWidget(m_batteries, 1);
     choices->addWidget(m_models, 1);
     auto *preview = new QVBoxLayout;
-    columns->addLayout(preview, 3);
+    columns->addLayout(preview, 2);
     auto *caption = new QLabel(tr("&Preview: the first %1 rows of each table").arg(ExportPreview::MostRows));
     caption->setBuddy(m_preview);
     preview->addWidget(caption);
@@ -161,27 +152,7 @@ ExportFilter ExportDialog::filter() const
 /** Shows what the choices come to. */
 void ExportDialog::refresh()
 {
-    switch (format()) {
-    case ExportFormat::Xlsx:
-        m_explanation->setText(
-            tr("One file with five sheets, with real numbers and dates. The best choice for "
-               "LibreOffice, Excel and other spreadsheets."));
-        break;
-    case ExportFormat::CsvLocal:
-        m_explanation->setText(
-            tr("Five files in a folder, with the decimal sign of your country. A text that "
-               "looks like a formula gets an apostrophe."));
-        break;
-    case ExportFormat::Csv:
-        m_explanation->setText(
-            tr("Five files in a folder, the same on every computer, for databases and other "
-               "programs."));
-        break;
-    case ExportFormat::Json:
-        m_explanation->setText(
-            tr("One file that holds everything with its relations, for programs of your own."));
-        break;
-    }
+    m_explanation->setText(ExportFormats::explanation(format()));
     const ExportFilter chosen = filter();
     const bool isBackwards = chosen.range.from && chosen.range.to && *chosen.range.from > *chosen.range.to;
     m_export->setEnabled(!isBackwards);

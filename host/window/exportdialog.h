@@ -50,7 +50,6 @@ public:
 private:
     QWidget *buildFields();
     void addDate(QFormLayout &form, const QString &caption, QCheckBox *&box, QDateEdit *&edit);
-    void offerFormats();
     ExportFormat format() const;
     ExportFilter filter() const;
     void refresh();

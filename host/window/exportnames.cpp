@@ -19,6 +19,7 @@ ExportNames::ExportNames(const QString &title, QStringList names, QWidget *paren
     m_list->setCurrentRow(0);
     m_list->setAccessibleName(QString(title).remove(u'&'));
     m_list->setMinimumHeight(fontMetrics().lineSpacing() * 4);
+    m_list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // it scrolls; the dialog need not
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_list);
     setCheckable(true);

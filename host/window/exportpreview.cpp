@@ -126,10 +126,12 @@ ExportPreview::ExportPreview(std::shared_ptr<const Catalogue> whole, QWidget *pa
         view->verticalHeader()->hide();
         view->horizontalHeader()->setHighlightSections(false);
         view->horizontalHeader()->setMaximumSectionSize(fontMetrics().averageCharWidth() * 40);
-        view->setMinimumHeight(fontMetrics().lineSpacing() * 7);
+        view->verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() * 3 / 2);
         m_tables.append(view);
         addTab(view, table.name);
     }
+    setMinimumHeight(fontMetrics().lineSpacing() * 12);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored); // the tables scroll; the dialog need not
 }
 
 void ExportPreview::showRows(const ExportFilter &filter)
