@@ -26,6 +26,7 @@ private Q_SLOTS:
     void itIsCopied();
     void itIsPrinted();
     void whatCannotBePrintedIsTold();
+    void withoutAPlotTheTableCanBePrinted();
 
 private:
     std::unique_ptr<ShownPlot> m_shown;
@@ -180,6 +181,19 @@ void PlotButtonsTest::whatCannotBePrintedIsTold()
     m_shown->questions.printTo(QString()); // the user does not print
     m_shown->press(u"Print Plot…"_s);
     QCOMPARE(m_shown->questions.told().size(), 1);
+}
+
+void PlotButtonsTest::withoutAPlotTheTableCanBePrinted()
+{
+    const auto button = [this](const QString &caption) { return Panel::button(m_shown->plot, caption); };
+    QVERIFY(button(u"Print Plot…"_s) && button(u"Print Table…"_s));
+    Battery battery = m_shown->flown();
+    battery.discharges.clear();
+    m_shown->show(battery);
+    QVERIFY(!button(u"Save Plot…"_s) && !button(u"Copy Plot"_s) && !button(u"Print Plot…"_s));
+    QVERIFY(button(u"Print Table…"_s));
+    m_shown->show(m_shown->flown());
+    QVERIFY(button(u"Print Plot…"_s));
 }
 
 QTEST_MAIN(PlotButtonsTest)

@@ -83,6 +83,38 @@ private:
     bool m_works;
 };
 
+/** While it lives, a file or folder has these permissions, and they hold even when the tests run as root. */
+class Permissions
+{
+    Q_DISABLE_COPY_MOVE(Permissions)
+
+public:
+    Permissions(const QString &path, QFileDevice::Permissions permissions)
+        : m_path(path)
+        , m_before(QFile::permissions(path))
+        , m_works(QFile::setPermissions(path, permissions))
+    {
+        constexpr uid_t Nobody = 65534;
+        if (m_user == 0)
+            m_works = seteuid(Nobody) == 0 && m_works;
+    }
+
+    ~Permissions()
+    {
+        if (m_user == 0 && seteuid(m_user) != 0)
+            qFatal("the tests cannot become root again");
+        QFile::setPermissions(m_path, m_before);
+    }
+
+    bool works() const { return m_works; }
+
+private:
+    const uid_t m_user = geteuid();
+    QString m_path;
+    QFileDevice::Permissions m_before;
+    bool m_works;
+};
+
 /**
  * While it lives, an empty file system of its own lies over a folder; only this process sees it. A machine
  * may allow this to nobody but root, or not at all.
