@@ -41,5 +41,7 @@ void flights(Report &report, const Plan &plan);
 void figures(Report &report, const Plan &plan);
 /** CSV, JSON and workbooks against the least that writes the same; built where libxlsxwriter is. */
 void exports(Report &report, const Plan &plan);
+/** Reading the logs of a radio, against reading their lines. */
+void radioLogs(Report &report, const Plan &plan);
 
 } // namespace Benchmarks

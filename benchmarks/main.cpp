@@ -28,6 +28,7 @@ const QList<std::pair<QString, Benchmark>> All = {
     {u"charts"_s, Benchmarks::charts},   {u"memory"_s, Benchmarks::memory},
     {u"startup"_s, Benchmarks::startup}, {u"care"_s, Benchmarks::care},
     {u"flights"_s, Benchmarks::flights}, {u"figures"_s, Benchmarks::figures},
+    {u"radiologs"_s, Benchmarks::radioLogs},
 #ifdef WITH_EXPORTS
     {u"exports"_s, Benchmarks::exports},
 #endif
