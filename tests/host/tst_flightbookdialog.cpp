@@ -34,13 +34,19 @@ Catalogue many(int count)
     return catalogue;
 }
 
-/** What another program reads in a PDF file, with single blanks. */
-QString textOf(const QString &path)
+/** What another program reads in a PDF file. */
+QString read(const QStringList &arguments)
 {
     QProcess reader;
-    reader.start(u"pdftotext"_s, {u"-layout"_s, path, u"-"_s});
+    reader.start(u"pdftotext"_s, arguments);
     reader.waitForFinished();
-    return QString::fromUtf8(reader.readAllStandardOutput()).simplified();
+    return QString::fromUtf8(reader.readAllStandardOutput());
+}
+
+/** The text with single blanks. */
+QString textOf(const QString &path)
+{
+    return read({u"-layout"_s, path, u"-"_s}).simplified();
 }
 
 /** The dialog on show, with a folder of its own. */
@@ -269,6 +275,11 @@ void FlightBookDialogTest::itIsPrinted()
     QVERIFY2(text.contains(u"10:00:00 00:06:30 Skylark A; B Hill calm"_s), qPrintable(text));
     QVERIFY2(text.contains(u"Flights: 103"_s) && text.contains(u"Page 3 of 3"_s), qPrintable(text));
     QVERIFY(!text.contains(u"Firebrand"_s));
+    // Where its own margins leave it, in points: not within those of the printer.
+    static const QRegularExpression first(u"<word xMin=\"([\\d.]+)\""_s);
+    const double left =
+        first.match(read({u"-bbox"_s, shown.file(u"print.pdf"_s), u"-"_s})).captured(1).toDouble();
+    QVERIFY2(left > 41 && left < 45, qPrintable(QString::number(left)));
 }
 
 void FlightBookDialogTest::whatCannotBePrintedIsSaid()
