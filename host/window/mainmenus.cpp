@@ -3,6 +3,7 @@
 #include "host/window/mainwindow.h"
 
 #include "host/window/exportdialog.h"
+#include "host/window/flightbookdialog.h"
 #include "host/window/manualwindow.h"
 #include "host/window/messagebar.h"
 #include "host/window/openlogbook.h"
@@ -42,7 +43,10 @@ void MainWindow::buildLogbookMenu()
     open->setShortcut(QKeySequence::Open);
     m_recent = menu->addMenu(tr("Open &Recent"));
     connect(m_recent, &QMenu::aboutToShow, this, &MainWindow::listRecentFolders);
+    menu->addSeparator();
     menu->addAction(tr("&Export…"), this, &MainWindow::exportLogbook);
+    menu->addAction(tr("&Flight Book (print, PDF)…"), this,
+                    [this] { showFlightBook(*m_logbook, m_questions, this); });
     menu->addSeparator();
     QAction *quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q)); // QKeySequence::Quit is empty on some desktops
@@ -182,12 +186,17 @@ void MainWindow::showManual()
 
 void MainWindow::showAbout()
 {
-    m_questions.tell(
-        tr("Voltbok %1, a battery and flight logbook for radio-controlled models.\n\nVoltbok is "
-           "free software under the GNU General Public License, version 3 or later. Linked with "
-           "Qt Charts, which is under version 3, the whole is under version 3.\n\nThis logbook is "
-           "kept in “%2”.")
-            .arg(QCoreApplication::applicationVersion(), QDir::toNativeSeparators(m_folder.path())));
+    Question about;
+    about.text = tr("Voltbok %1, a battery and flight logbook for radio-controlled models.")
+                     .arg(QCoreApplication::applicationVersion());
+    about.details =
+        tr("Voltbok is free software under the GNU General Public License, version 3 or later. Linked with "
+           "Qt Charts, which is under version 3, the whole is under version 3.\n\nThis logbook is kept in "
+           "“%1”.")
+            .arg(QDir::toNativeSeparators(m_folder.path()));
+    about.answers = QStringList(tr("Close"));
+    about.picture = windowIcon();
+    m_questions.ask(about);
 }
 
 /** Asks where a flight or a form would be lost. @return whether to go on. */

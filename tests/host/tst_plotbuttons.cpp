@@ -121,14 +121,14 @@ void PlotButtonsTest::whatCannotBeSavedIsTold()
     QVERIFY(before.open(QFile::WriteOnly));
     before.write("before");
     before.close();
+    before.setPermissions(QFile::Permissions(0x6666)); // the folder alone is in the way
     m_shown->questions.chooseFile(m_shown->file(name));
     if (isFull) {
         const FullDisk disk(600);
         QVERIFY(disk.works());
         m_shown->press(u"Save Plot…"_s);
     } else {
-        const Permissions readOnly(m_shown->folder.path(),
-                                   QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+        const Refusal readOnly(m_shown->folder.path(), 0555);
         QVERIFY(readOnly.works());
         m_shown->press(u"Save Plot…"_s);
     }
