@@ -4,6 +4,8 @@
 #include "host/data/moments.h"
 #include "host/data/sources.h"
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
@@ -26,7 +28,7 @@ public:
 
     bool writeBatteries(const Catalogue &catalogue)
     {
-        for (const Battery &battery : catalogue.batteries) {
+        return writeEach(catalogue.batteries, [this](const Battery &battery) {
             m_writer.addText(battery.name);
             m_writer.addNumber(battery.capacity);
             m_writer.addNumber(battery.rating);
@@ -35,31 +37,25 @@ public:
             m_writer.addNumber(battery.cycles);
             m_writer.addText(battery.charged ? u"yes"_s : u"no"_s);
             m_writer.addTime(battery.lastUse);
-            if (!endRow())
-                return false;
-        }
-        return true;
+        });
     }
 
     bool writeDischarges(const Catalogue &catalogue)
     {
-        for (const Battery &battery : catalogue.batteries) {
-            for (const Discharge &discharge : battery.discharges) {
+        return all(catalogue.batteries, [this](const Battery &battery) {
+            return writeEach(battery.discharges, [&](const Discharge &discharge) {
                 m_writer.addText(battery.name);
                 m_writer.addTime(discharge.time);
                 m_writer.addNumber(discharge.discharged);
                 m_writer.addNumber(discharge.current, 2);
                 m_writer.addText(sourceKey(sourceOf(battery, discharge)));
-                if (!endRow())
-                    return false;
-            }
-        }
-        return true;
+            });
+        });
     }
 
     bool writeModels(const Catalogue &catalogue)
     {
-        for (const Model &model : catalogue.models) {
+        return writeEach(catalogue.models, [this](const Model &model) {
             m_writer.addText(model.name);
             m_writer.addText(model.type);
             m_writer.addNumber(model.weight);
@@ -69,16 +65,13 @@ public:
             m_writer.addText(model.batteries.join(BetweenNames));
             m_writer.addText(model.notes);
             m_writer.addTime(model.lastUpdate);
-            if (!endRow())
-                return false;
-        }
-        return true;
+        });
     }
 
     bool writeFlights(const Catalogue &catalogue)
     {
-        for (const Model &model : catalogue.models) {
-            for (const Flight &flight : model.log) {
+        return all(catalogue.models, [this](const Model &model) {
+            return writeEach(model.log, [&](const Flight &flight) {
                 m_writer.addText(model.name);
                 m_writer.addTime(flight.time);
                 if (flight.duration.isValid())
@@ -89,24 +82,33 @@ public:
                 m_writer.addNumber(flight.temperature);
                 m_writer.addText(batteriesOf(flight));
                 m_writer.addText(flight.notes);
-                if (!endRow())
-                    return false;
-            }
-        }
-        return true;
+            });
+        });
     }
 
     bool writeLocations(const Catalogue &catalogue)
     {
-        for (const QString &location : catalogue.locations) {
-            m_writer.addText(location);
-            if (!endRow())
-                return false;
-        }
-        return true;
+        return writeEach(catalogue.locations,
+                         [this](const QString &location) { m_writer.addText(location); });
     }
 
 private:
+    template <typename Entry, typename Write>
+    static bool all(const QList<Entry> &entries, Write write)
+    {
+        return std::all_of(entries.cbegin(), entries.cend(), write);
+    }
+
+    /** A row for each entry, until nobody wants more. */
+    template <typename Entry, typename Write>
+    bool writeEach(const QList<Entry> &entries, Write writeCells)
+    {
+        return all(entries, [this, &writeCells](const Entry &entry) {
+            writeCells(entry);
+            return endRow();
+        });
+    }
+
     bool endRow()
     {
         m_writer.endRow();

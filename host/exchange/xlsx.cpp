@@ -195,9 +195,9 @@ void XlsxWriter::addDate(QDate date)
 
 void XlsxWriter::addTime(const QDateTime &time)
 {
+    const int seconds = time.time().msecsSinceStartOfDay() / 1000;
     if (time.isValid() && isCountable(time.date()))
-        addNumberAs(serialOf(time.date()) + time.time().msecsSinceStartOfDay() / 1000 / SecondsOfADay,
-                    m_time);
+        addNumberAs(serialOf(time.date()) + seconds / SecondsOfADay, m_time);
     else
         addText(isoText(time));
 }

@@ -47,6 +47,7 @@ ExportDialog::ExportDialog(std::shared_ptr<const Catalogue> catalogue, Questions
     : QDialog(parent)
     , m_catalogue(std::move(catalogue))
     , m_questions(questions)
+    , m_fields(new QWidget)
     , m_format(FlightFields::chooser({}))
     , m_explanation(new QLabel)
     , m_batteries(new ExportNames(tr("Only these &batteries"), FlightFields::names(m_catalogue->batteries)))
@@ -58,7 +59,7 @@ ExportDialog::ExportDialog(std::shared_ptr<const Catalogue> catalogue, Questions
     setWindowTitle(tr("Export"));
     for (const ExportFormat format : ExportFormats::all())
         m_format->addItem(ExportFormats::name(format), static_cast<int>(format));
-    m_fields = buildFields();
+    buildFields();
     auto *area = new QScrollArea; // at 200 % it is higher than some screens
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
@@ -93,10 +94,9 @@ ExportDialog::~ExportDialog()
         m_thread->wait();
 }
 
-QWidget *ExportDialog::buildFields()
+void ExportDialog::buildFields()
 {
-    auto *fields = new QWidget;
-    auto *columns = new QHBoxLayout(fields);
+    auto *columns = new QHBoxLayout(m_fields);
     columns->setContentsMargins(0, 0, 0, 0);
     auto *choices = new QVBoxLayout;
     columns->addLayout(choices, 1);
@@ -119,7 +119,6 @@ QWidget *ExportDialog::buildFields()
     caption->setBuddy(m_preview);
     preview->addWidget(caption);
     preview->addWidget(m_preview, 1);
-    return fields;
 }
 
 /** A date that counts when its box is ticked. */

@@ -48,7 +48,7 @@ public:
     void reject() override;
 
 private:
-    QWidget *buildFields();
+    void buildFields();
     void addDate(QFormLayout &form, const QString &caption, QCheckBox *&box, QDateEdit *&edit);
     ExportFormat format() const;
     ExportFilter filter() const;

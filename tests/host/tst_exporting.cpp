@@ -271,11 +271,8 @@ void ExportingTest::aDiskOfAnySizeGetsTheWholeWorkbookOrNothing()
 void ExportingTest::aFolderThatCannotBeWrittenIsSaid()
 {
     QString problem;
-    QFile::setPermissions(m_folder->path(),
-                          QFile::ReadOther | QFile::ExeOther | QFile::ReadOwner | QFile::ExeOwner);
     {
-        const Permissions readOnly(m_folder->path(),
-                                   QFile::ReadOther | QFile::ExeOther | QFile::ReadOwner | QFile::ExeOwner);
+        const Refusal readOnly(m_folder->path(), 0555);
         QVERIFY(readOnly.works());
         problem = exportLogbook({}, order(ExportFormat::Json, u"file"_s)).problem;
     }
