@@ -65,7 +65,8 @@ PlotView::PlotView(QWidget *parent)
     : QChartView(parent)
 {
     setRenderHint(QPainter::Antialiasing);
-    viewport()->setFocusPolicy(Qt::NoFocus); // the plot has it as a whole
+    viewport()->setFocusProxy(nullptr); // otherwise the next line were about the plot itself
+    viewport()->setFocusPolicy(Qt::NoFocus);
     setMinimumHeight(fontMetrics().height() * 10);
 }
 

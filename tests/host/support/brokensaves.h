@@ -22,7 +22,8 @@ namespace Faults {
 
 inline Fault readOnlyFile(HostWindow &window)
 {
-    auto fault = std::make_shared<Refusal>(window.filePath(), 0444);
+    const auto readable = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
+    auto fault = std::make_shared<Permissions>(window.filePath(), readable);
     return fault->works() ? fault : nullptr;
 }
 
