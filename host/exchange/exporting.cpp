@@ -213,6 +213,9 @@ QString obstacle(const ExportOrder &order)
             return Text::tr(
                        "“%1” is there already, and is no file that could be replaced. Nothing was exported.")
                 .arg(native(path));
+        if (WholeFile::isLogbook(path))
+            return Text::tr("“%1” is a logbook, and nothing takes its place. Choose another name.")
+                .arg(native(path));
     }
     const QFileInfo folder(isInFolder(order.format) ? order.path : QFileInfo(order.path).path());
     if (folder.exists() && !folder.isDir())

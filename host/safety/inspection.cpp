@@ -58,6 +58,11 @@ void count(Contents &contents, QStringView name, int level)
         ++contents.flights;
 }
 
+bool isLogbookName(QStringView root)
+{
+    return root.contains(u"Voltbok");
+}
+
 /** Looks at the token that was just read. */
 void look(Contents &contents, const QXmlStreamReader &reader, int level)
 {
@@ -68,7 +73,7 @@ void look(Contents &contents, const QXmlStreamReader &reader, int level)
     if (!reader.isStartElement())
         return;
     count(contents, reader.name(), level);
-    if (level == 1 && !reader.name().contains(u"Voltbok"))
+    if (level == 1 && !isLogbookName(reader.name()))
         contents.problem =
             translated(QT_TRANSLATE_NOOP("WholeFile", "it is not a logbook: its root element is “%1”"))
                 .arg(reader.name().left(100));
@@ -98,6 +103,13 @@ Contents WholeFile::inspect(const QByteArray &document)
             translated(QT_TRANSLATE_NOOP("WholeFile", "line %1 cannot be understood (%2)"))
                 .arg(QString::number(reader.lineNumber()), withoutFullStop(reader.errorString()));
     return contents;
+}
+
+bool WholeFile::isLogbook(const QString &path)
+{
+    const Reading reading = read(path);
+    QXmlStreamReader reader(reading.bytes);
+    return reader.readNextStartElement() && isLogbookName(reader.name());
 }
 
 bool WholeFile::isWhole(const QByteArray &document)

@@ -66,6 +66,9 @@ std::optional<QFileDevice::Permissions> permissionsOf(const QString &path);
 /** Reads a document through to its end and counts what it holds. */
 Contents inspect(const QByteArray &document);
 
+/** Whether a file is a logbook or the beginning of one, which nothing else may take the place of. */
+bool isLogbook(const QString &path);
+
 /** Whether these bytes are one whole logbook. */
 bool isWhole(const QByteArray &document);
 

@@ -280,7 +280,8 @@ void FlightBookDialog::save()
     const QByteArray document = path.isEmpty() ? QByteArray() : pdf();
     if (document.isEmpty())
         return;
-    const QString problem = WholeFile::write(path, document);
+    const QString problem =
+        WholeFile::isLogbook(path) ? tr("it is a logbook") : WholeFile::write(path, document);
     const QString place = QDir::toNativeSeparators(path);
     if (problem.isEmpty())
         say(tr("The flight book is saved in “%1”.").arg(place));

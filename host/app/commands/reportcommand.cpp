@@ -44,6 +44,9 @@ int Run::report(const Invocation &invocation)
     const QFileInfo file(path);
     if ((file.exists() || file.isSymLink()) && !invocation.has(u"force"_s))
         return refuse(Text::tr("“%1” exists already. Nothing was written; “--force” replaces it.").arg(path));
+    if (WholeFile::isLogbook(path))
+        return refuse(
+            Text::tr("“%1” is a logbook, and nothing takes its place. Choose another name.").arg(path));
     std::optional<QStringList> models;
     if (invocation.has(u"model"_s))
         models = invocation.values(u"model"_s);
