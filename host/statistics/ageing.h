@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDateTime>
+#include <QList>
+
+#include <optional>
+
+namespace Host {
+
+/** What a radio's log told about a battery at one flight. */
+struct Measurement
+{
+    QDateTime time;
+    std::optional<double> resistance; ///< mOhm
+    std::optional<double> capacity;   ///< mAh, an estimate
+};
+
+/** What several flights say about one quantity of a battery. */
+struct Trend
+{
+    int flights = 0;       ///< that told it
+    double median = 0;     ///< of these
+    double spread = 0;     ///< half of the flights lie within so much around the median
+    double perYear = 0;    ///< median slope between any two flights (Theil and Sen)
+    bool isAgeing = false; ///< a Mann-Kendall test finds it getting worse at 5 %, two-sided
+};
+
+/** What can be said about a battery from its measured flights; a quantity is empty with fewer than five of
+ * them. */
+struct Health
+{
+    std::optional<Trend> resistance;
+    std::optional<Trend> capacity;
+};
+
+/** From measured flights in any order; those without a time are left out. */
+Health healthOf(const QList<Measurement> &measurements);
+
+} // namespace Host
