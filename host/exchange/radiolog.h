@@ -70,7 +70,7 @@ struct Session
     qint64 rows = 0;
     std::optional<ClockTime> firstLoad; ///< the first and the last row over 1 A
     std::optional<ClockTime> lastLoad;
-    qint64 pauses = 0;                  ///< ms between these that do not count
+    std::optional<qint64> loadTime;     ///< ms between these without the pauses; 0 when it was never over 1 A
     std::optional<double> counterFirst; ///< what the radio's counter showed, mAh
     std::optional<double> counterLast;
     std::optional<double> integral;   ///< mAh

@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/exchange/radiologcolumns.h"
+
+#include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace Host {
+namespace {
+
+constexpr double HighestReceiverVoltage = 5.5; // above, a receiver is fed by the battery itself
+
+/** Names in the order in which they count; two with a "+" are summed. */
+const QStringList &knownNames(LogColumns::Kind kind)
+{
+    static const std::array<QStringList, 3> names{
+        QStringList{u"Capa(mAh)"_s, u"mAh(mAh)"_s, u"Cnsp(mAh)"_s, u"EscC(mAh)"_s, u"RB1C+RB2C"_s,
+                    u"Consumption"_s},
+        QStringList{u"Curr(A)"_s, u"EscA(A)"_s, u"ECUR(A)"_s, u"RB1A+RB2A"_s, u"Current"_s},
+        QStringList{u"VFAS(V)"_s, u"Vbat(V)"_s, u"EscV(V)"_s, u"Cels(V)"_s, u"Vfas"_s}};
+    return names.at(kind);
+}
+
+bool isSame(const QString &left, const QString &right)
+{
+    return left.compare(right, Qt::CaseInsensitive) == 0;
+}
+
+double scaleOf(const QString &column)
+{
+    return isSame(unitOf(column), u"mA"_s) ? 0.001 : 1;
+}
+
+/** Whether a column bears a known name, milliamperes for amperes included. */
+bool isNamed(const QString &column, const QString &known)
+{
+    const QString unit = unitOf(known);
+    return isSame(labelOf(column), labelOf(known)) &&
+           (isSame(unitOf(column), unit) || (unit == "A"_L1 && isSame(unitOf(column), u"mA"_s)));
+}
+
+/** The columns of this label whatever their unit: half of a pair. */
+std::vector<qsizetype> labelled(const LogHeader &header, const QString &label)
+{
+    std::vector<qsizetype> found;
+    for (qsizetype i = 2; i < header.count(); ++i) {
+        if (isSame(labelOf(header.name(i)), label))
+            found.push_back(i);
+    }
+    return found;
+}
+
+bool saysSomething(LogColumns::Kind kind, const LogColumn &column, double value)
+{
+    if (kind == LogColumns::Current)
+        return value != 0 && isCurrent(value);
+    if (kind == LogColumns::Volts)
+        return value > (column.isLastResort ? HighestReceiverVoltage : 0) && isVoltage(value);
+    return value > 0;
+}
+
+} // namespace
+
+bool isCurrent(double ampere)
+{
+    return ampere >= -50 && ampere <= 500;
+}
+
+bool isVoltage(double volt)
+{
+    return volt >= 0 && volt <= 80;
+}
+
+std::optional<double> LogColumn::value(const LogFields &fields) const
+{
+    double sum = 0;
+    for (const qsizetype part : parts) {
+        const std::optional<double> number = logNumber(fields.at(part));
+        if (!number)
+            return std::nullopt;
+        sum += *number;
+    }
+    return sum * scale;
+}
+
+LogColumns::LogColumns(const LogHeader &header, const ColumnMapping &chosen)
+{
+    const std::array names{chosen.consumed, chosen.current, chosen.volts};
+    for (const Kind kind : {Consumed, Current, Volts}) {
+        for (qsizetype i = 2; i < header.count() && !names.at(kind).isEmpty(); ++i) {
+            if (header.name(i) == names.at(kind))
+                add(kind, {header.name(i), {i}, scaleOf(header.name(i))});
+        }
+        if (m_candidates.at(kind).empty())
+            addKnown(header, kind);
+    }
+    m_needsMapping = (m_candidates[Consumed].empty() && hasUnknown(header, {u"mAh"_s, u"Ah"_s, QString()})) ||
+                     (m_candidates[Current].empty() && hasUnknown(header, {u"A"_s, u"mA"_s, QString()}));
+    addLastResorts(header);
+}
+
+void LogColumns::addKnown(const LogHeader &header, Kind kind)
+{
+    for (const QString &known : knownNames(kind)) {
+        if (const QStringList pair = known.split(u'+'); pair.size() == 2) {
+            const std::vector<qsizetype> first = labelled(header, pair.first());
+            const std::vector<qsizetype> second = labelled(header, pair.last());
+            std::vector<qsizetype> parts;
+            for (const std::vector<qsizetype> &half : {first, second})
+                parts.insert(parts.end(), half.begin(), half.begin() + (half.empty() ? 0 : 1));
+            if (!parts.empty())
+                add(kind, {known, parts, scaleOf(header.name(parts.front()))});
+            continue;
+        }
+        for (qsizetype i = 2; i < header.count(); ++i) {
+            if (isNamed(header.name(i), known))
+                add(kind, {header.name(i), {i}, scaleOf(header.name(i))});
+        }
+    }
+}
+
+/** Counters of any name, and the receiver's voltage: where nothing better says anything. */
+void LogColumns::addLastResorts(const LogHeader &header)
+{
+    for (qsizetype i = 2; i < header.count(); ++i) {
+        const QString &name = header.name(i);
+        if (isSame(unitOf(name), u"mAh"_s) && !isSame(labelOf(name), u"BCur"_s))
+            add(Consumed, {name, {i}, 1, true});
+        if (isSame(name, u"RxBt(V)"_s))
+            add(Volts, {name, {i}, 1, true});
+    }
+}
+
+void LogColumns::add(Kind kind, LogColumn column)
+{
+    std::vector<LogColumn> &candidates = m_candidates.at(kind);
+    const bool isThere = std::any_of(candidates.begin(), candidates.end(), [&column](const LogColumn &other) {
+        return other.parts == column.parts;
+    });
+    if (!isThere)
+        candidates.push_back(std::move(column));
+}
+
+/** Whether a column may be one of these units; one without a unit only where none has one. */
+bool LogColumns::hasUnknown(const LogHeader &header, const QStringList &units) const
+{
+    const QList<qsizetype> sensors = header.sensors();
+    const bool haveUnits = std::any_of(sensors.begin(), sensors.end(),
+                                       [&header](qsizetype i) { return !unitOf(header.name(i)).isEmpty(); });
+    return std::any_of(sensors.begin(), sensors.end(), [&](qsizetype i) {
+        const QString unit = unitOf(header.name(i));
+        return units.contains(unit, Qt::CaseInsensitive) && (!unit.isEmpty() || !haveUnits);
+    });
+}
+
+void LogColumns::watch(const LogFields &fields)
+{
+    for (const Kind kind : {Consumed, Current, Volts}) {
+        for (LogColumn &column : m_candidates.at(kind)) {
+            if (column.saysSomething && !(column.isLastResort && kind == Consumed))
+                continue;
+            const std::optional<double> value = column.value(fields);
+            if (!value)
+                continue;
+            column.saysSomething = column.saysSomething || Host::saysSomething(kind, column, *value);
+            column.hasFallen = column.hasFallen || (*value != 0 && *value < column.last);
+            column.last = *value;
+        }
+    }
+}
+
+bool LogColumns::isSettled() const
+{
+    return std::all_of(
+        m_candidates.begin(), m_candidates.end(), [](const std::vector<LogColumn> &candidates) {
+            return candidates.empty() || (candidates.front().saysSomething &&
+                                          (!candidates.front().isLastResort || candidates.size() == 1));
+        });
+}
+
+qsizetype LogColumns::wanted() const
+{
+    qsizetype last = 1;
+    for (const std::vector<LogColumn> &candidates : m_candidates) {
+        for (const LogColumn &column : candidates)
+            last = std::max(last, *std::max_element(column.parts.begin(), column.parts.end()));
+    }
+    return last + 1;
+}
+
+const LogColumn *LogColumns::choice(Kind kind) const
+{
+    for (const LogColumn &column : m_candidates.at(kind)) {
+        if (column.saysSomething && !(kind == Consumed && column.isLastResort && column.hasFallen))
+            return &column;
+    }
+    return nullptr;
+}
+
+ColumnMapping LogColumns::mapping() const
+{
+    const auto nameOf = [this](Kind kind) {
+        const LogColumn *column = choice(kind);
+        return column ? column->name : QString();
+    };
+    return {nameOf(Consumed), nameOf(Current), nameOf(Volts)};
+}
+
+} // namespace Host
