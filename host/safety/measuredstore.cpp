@@ -41,6 +41,7 @@ MeasuredStore::Stored MeasuredStore::load(const StorageFolder &folder)
     if (reading.isMissing)
         return stored;
     if (!reading.problem.isEmpty()) {
+        stored.reason = reading.problem;
         stored.problem = sentence(folder, {{}, reading.problem, false});
         stored.mayWrite = false; // what cannot be read cannot be kept
         return stored;
@@ -49,6 +50,7 @@ MeasuredStore::Stored MeasuredStore::load(const StorageFolder &folder)
     stored.measured = loaded.measured;
     stored.bytes = reading.bytes;
     stored.mayWrite = !loaded.isNewer;
+    stored.reason = loaded.problem;
     if (!loaded.problem.isEmpty())
         stored.problem = sentence(folder, loaded);
     return stored;
@@ -58,7 +60,7 @@ QString MeasuredStore::save(const StorageFolder &folder, const Measured &measure
 {
     const Stored before = load(folder);
     if (!before.mayWrite)
-        return before.problem;
+        return before.reason;
     const QByteArray bytes = MeasuredFile::save(measured);
     if (bytes == before.bytes || (measured.isEmpty() && before.bytes.isEmpty()))
         return QString();

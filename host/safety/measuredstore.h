@@ -17,6 +17,7 @@ struct Stored
     Measured measured;    ///< nothing where the file is missing or cannot be used
     QByteArray bytes;     ///< of the file, also of a damaged one
     QString problem;      ///< why its contents are not known, in whole sentences with what follows from that
+    QString reason;       ///< the same as a clause
     bool mayWrite = true; ///< false where it must be left as it is
 };
 

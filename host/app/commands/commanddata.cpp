@@ -5,6 +5,7 @@
 #include "host/app/console.h"
 #include "host/data/cataloguefile.h"
 #include "host/demo/demo.h"
+#include "host/safety/measuredstore.h"
 #include "host/safety/recovery.h"
 
 #include <QCoreApplication>
@@ -60,6 +61,15 @@ std::optional<Catalogue> complain(const Invocation &invocation, const QString &p
     return std::nullopt;
 }
 
+Catalogue withMeasured(const StorageFolder &folder, Catalogue catalogue)
+{
+    const MeasuredStore::Stored stored = MeasuredStore::load(folder);
+    if (!stored.problem.isEmpty())
+        Console::complain(stored.problem);
+    MeasuredFile::mark(catalogue, stored.measured);
+    return catalogue;
+}
+
 } // namespace
 
 std::optional<Catalogue> CommandData::read(const Invocation &invocation)
@@ -77,7 +87,8 @@ std::optional<Catalogue> CommandData::read(const Invocation &invocation)
     if (state.kind != FileState::Whole)
         return complain(invocation, state.problem);
     const CatalogueFile::Loaded loaded = CatalogueFile::load(state.bytes);
-    return loaded.problem.isEmpty() ? std::optional(loaded.catalogue) : complain(invocation, loaded.problem);
+    return loaded.problem.isEmpty() ? std::optional(withMeasured(invocation.folder, loaded.catalogue))
+                                    : complain(invocation, loaded.problem);
 }
 
 } // namespace Host
