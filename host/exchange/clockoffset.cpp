@@ -2,7 +2,8 @@
 // The part of the matching that finds out whether the radio's clock is wrong.
 #include "host/exchange/matching.h"
 
-#include <cstdlib>
+#include <algorithm>
+#include <utility>
 
 namespace Host {
 namespace {
@@ -43,11 +44,11 @@ std::optional<qint64> clockOffset(const QList<ImportedLog> &logs, const Catalogu
         return nearMatches(matched(logs, catalogue, measured, shifted));
     };
     const auto [present, discharges] = matchesAt(0);
-    if (present > 0 || discharges < LeastFlights)
+    if (discharges < LeastFlights)
         return std::nullopt;
     std::optional<qint64> best;
-    int most = LeastFlights - 1;
-    for (int halves = 1; halves <= MostHalves; ++halves) { // the smallest that explains as much as any
+    int most = std::max(LeastFlights - 1, 2 * present - 1); // chance may match some, too
+    for (int halves = 1; halves <= MostHalves; ++halves) {  // the smallest that explains as much as any
         for (const int sign : {1, -1}) {
             const qint64 offset = sign * halves * HalfAnHour * Second;
             const auto [near, all] = matchesAt(offset);

@@ -75,7 +75,7 @@ void writeTable(const QList<ImportedLog> &logs, const ImportPlan &plan, Console:
     for (qsizetype i = 0; i < logs.size(); ++i) {
         for (const ImportedSession &shown : plan.sessions.at(i)) {
             const Session &session = shown.session;
-            table.addRow({logs.at(i).path, clockText(session.start).replace(u'T', u' '),
+            table.addRow({QFileInfo(logs.at(i).path).fileName(), clockText(session.start).replace(u'T', u' '),
                           shownDuration(session.duration), shownNumber(session.discharged, 0),
                           shownNumber(session.highestCurrent, 2), importText(shown, plan)});
         }
