@@ -26,6 +26,15 @@ CommandLine readCommandLine(int &argc, char **argv)
     return Host::readCommandLine(QCoreApplication::arguments());
 }
 
+/** What Qt finds odd about a desktop is nothing that the caller of a command wants to read. */
+void dropMessage(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type != QtFatalMsg)
+        return;
+    Console::complain(text);
+    std::_Exit(EXIT_FAILURE);
+}
+
 /** Runs a command, which never needs a display: the library's records are widgets, but nobody looks at them.
  */
 int runCommand(char **argv, const Invocation &invocation)
@@ -33,10 +42,9 @@ int runCommand(char **argv, const Invocation &invocation)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     for (const char *variable : {"QT_QPA_PLATFORMTHEME", "QT_STYLE_OVERRIDE", "SESSION_MANAGER"})
         qunsetenv(variable); // a theme of the desktop may want a display
-    int argc = 1;            // Qt's own options are about windows
-    std::optional<DisplayGuard> guard(std::in_place);
+    qInstallMessageHandler(dropMessage);
+    int argc = 1; // Qt's own options are about windows
     const QApplication application(argc, argv);
-    guard.reset();
     return commandNamed(invocation.command)->run(invocation);
 }
 

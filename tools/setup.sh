@@ -3,8 +3,10 @@
 # Shared by ./run and ./test: installs what is missing, configures and builds. Read with "source" from the top of the
 # source tree. Everything is said on standard error, so that standard output belongs to the program.
 
-build_packages=(g++ cmake ninja-build qt6-base-dev libqt6opengl6-dev qt6-charts-dev qt6-svg-dev)
-test_packages=(qt6-tools-dev qt6-l10n-tools xvfb adwaita-qt6 qt6ct python3)
+build_packages=(g++ cmake ninja-build qt6-base-dev libqt6opengl6-dev qt6-charts-dev qt6-svg-dev
+    libxlsxwriter-dev libgsl-dev) # the last line is for optional parts: workbooks, fits to radio logs
+test_packages=(qt6-tools-dev qt6-l10n-tools xvfb openbox xdotool adwaita-qt6 qt6ct python3 python3-jsonschema gnumeric
+    poppler-utils qpdf)
 check_packages=(clang clang-tidy clazy libbenchmark-dev libclang-rt-dev shellcheck) # what CI adds
 test_preset=${VOLTBOK_PRESET-dev} # CI asks for "check", in which warnings are errors
 

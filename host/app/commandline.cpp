@@ -25,29 +25,20 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(CommandLine)
 };
 
-struct Options
+/** As Qt's parser wants them. */
+QList<QCommandLineOption> ownOptions()
 {
-    QCommandLineOption data{u"data"_s, Text::tr("Keep the logbook in DIR."), u"DIR"_s};
-    QCommandLineOption demo{
-        u"demo"_s, Text::tr("Open a sample logbook, in a folder of its own that keeps your changes.")};
-    QCommandLineOption resetDemo{u"reset-demo"_s, Text::tr("Reset the sample logbook, then open it.")};
-    QCommandLineOption screenshot{
-        u"screenshot"_s, Text::tr("Draw the window into the PNG file FILE and exit; needs no display."),
-        u"FILE"_s};
-    QCommandLineOption page{
-        u"page"_s, Text::tr("Show the page or tab NAME: %1.").arg(MainWindow::pageNames().join(u", "_s)),
-        u"NAME"_s};
-    QCommandLineOption help{{u"h"_s, u"help"_s}, Text::tr("Show this help.")};
-    QCommandLineOption helpAll{u"help-all"_s}; // of earlier versions
-    QCommandLineOption version{{u"v"_s, u"version"_s}, Text::tr("Show the version.")};
-
-    Options() { helpAll.setFlags(QCommandLineOption::HiddenFromHelp); }
-
-    QList<QCommandLineOption> all() const
-    {
-        return {data, demo, resetDemo, screenshot, page, help, helpAll, version};
+    QList<QCommandLineOption> all;
+    const QList<ProgramOption> known = programOptions();
+    for (const ProgramOption &option : known) {
+        const QStringList names =
+            option.letter.isEmpty() ? QStringList{option.name} : QStringList{option.letter, option.name};
+        all.append(QCommandLineOption(names, option.description, option.value));
     }
-};
+    QCommandLineOption helpAll(u"help-all"_s); // of earlier versions
+    helpAll.setFlags(QCommandLineOption::HiddenFromHelp);
+    return all << helpAll;
+}
 
 bool hasName(const QList<QCommandLineOption> &options, const QString &name)
 {
@@ -130,7 +121,7 @@ QString misunderstanding(const QCommandLineParser &parser, const QStringList &ar
     if (!unknown.isEmpty())
         return Text::tr("“%1” is not an option of this program.").arg(spelled(arguments, unknown.first()));
     const QString &last = arguments.last();
-    if (needsValueNext(Options().all() + optionsOfCommands(), nameOf(last)))
+    if (needsValueNext(ownOptions() + optionsOfCommands(), nameOf(last)))
         return needsValue(last);
     for (const QString &argument : arguments) {
         if (!nameOf(argument).isEmpty() && argument.contains(u'='))
@@ -140,29 +131,28 @@ QString misunderstanding(const QCommandLineParser &parser, const QStringList &ar
 }
 
 /** An option that belongs to another command than the one that is asked for; empty when there is none. */
-QString foreignOption(const QCommandLineParser &parser, const Options &options,
-                      const std::optional<Command> &command)
+QString foreignOption(const QCommandLineParser &parser, const std::optional<Command> &command)
 {
     const QStringList given = parser.optionNames();
     const auto found = std::find_if(given.cbegin(), given.cend(), [&](const QString &name) {
-        return !hasName(options.all(), name) && !(command && optionNamed(*command, name));
+        return !hasName(ownOptions(), name) && !(command && optionNamed(*command, name));
     });
     return found == given.cend() ? QString() : *found;
 }
 
 /** What is wrong with options that were each understood; empty when nothing is. */
-QString contradiction(const QCommandLineParser &parser, const Options &options, const CommandLine &read)
+QString contradiction(const QCommandLineParser &parser, const CommandLine &read)
 {
     if (read.demo && read.dataGiven)
         return Text::tr("“--data” cannot be used with the sample logbook, which has a folder of its own.");
-    if (read.dataGiven && parser.value(options.data).isEmpty())
+    if (read.dataGiven && parser.value(u"data"_s).isEmpty())
         return needsValue(u"--data"_s);
-    if (parser.isSet(options.screenshot) && read.screenshot.isEmpty())
+    if (parser.isSet(u"screenshot"_s) && read.screenshot.isEmpty())
         return needsValue(u"--screenshot"_s);
-    if (parser.isSet(options.screenshot) && !read.screenshot.endsWith(".png"_L1, Qt::CaseInsensitive))
+    if (parser.isSet(u"screenshot"_s) && !read.screenshot.endsWith(".png"_L1, Qt::CaseInsensitive))
         return Text::tr("“--screenshot” draws PNG files, and the name “%1” does not end in “.png”.")
             .arg(read.screenshot);
-    if (parser.isSet(options.page) && !MainWindow::pageNames().contains(read.page))
+    if (parser.isSet(u"page"_s) && !MainWindow::pageNames().contains(read.page))
         return Text::tr("There is no page or tab “%1”.").arg(read.page);
     for (const QString &name : {read.storagePath, read.screenshot}) {
         if (name.contains(QChar::ReplacementCharacter)) // another folder than the one that was meant
@@ -172,11 +162,11 @@ QString contradiction(const QCommandLineParser &parser, const Options &options, 
 }
 
 /** What the window alone can do. */
-QString windowOption(const QCommandLineParser &parser, const Options &options)
+QString windowOption(const QCommandLineParser &parser)
 {
-    for (const QCommandLineOption &option : {options.resetDemo, options.screenshot, options.page}) {
+    for (const QString &option : {u"reset-demo"_s, u"screenshot"_s, u"page"_s}) {
         if (parser.isSet(option))
-            return option.names().first();
+            return option;
     }
     return QString();
 }
@@ -187,12 +177,12 @@ QString withHome(const QString &name)
     return name == "~"_L1 || name.startsWith("~/"_L1) ? QDir::homePath() + name.mid(1) : name;
 }
 
-QString chosenPath(const QCommandLineParser &parser, const Options &options, bool demo)
+QString chosenPath(const QCommandLineParser &parser, bool demo)
 {
     if (demo)
         return StorageFolder::ofDemo().path();
-    if (parser.isSet(options.data))
-        return StorageFolder(withHome(parser.value(options.data))).path();
+    if (parser.isSet(u"data"_s))
+        return StorageFolder(withHome(parser.value(u"data"_s))).path();
     return StorageFolder::ofUser().path();
 }
 
@@ -213,11 +203,10 @@ Invocation invocationOf(const QCommandLineParser &parser, const Command &command
 
 QString helpText()
 {
-    const Options options;
     QCommandLineParser parser;
     parser.setApplicationDescription(
         Text::tr("A battery and flight logbook for people who fly radio-controlled models."));
-    parser.addOptions(options.all());
+    parser.addOptions(ownOptions());
     QString text = parser.helpText();
     const QString usage = Text::tr("Usage: voltbok [options]\n"
                                    "       voltbok [--data DIR | --demo] COMMAND [options]");
@@ -250,15 +239,14 @@ CommandLine answer(const QString &text)
 CommandLine readCommandLine(const QStringList &allArguments)
 {
     const QStringList arguments = ownArguments(allArguments);
-    const Options options;
     QCommandLineParser parser;
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-    parser.addOptions(options.all() + optionsOfCommands());
+    parser.addOptions(ownOptions() + optionsOfCommands());
     if (!parser.parse(arguments))
         return usageError(misunderstanding(parser, arguments));
     const QStringList words = parser.positionalArguments();
     const std::optional<Command> command = words.isEmpty() ? std::nullopt : commandNamed(words.first());
-    const QString foreign = foreignOption(parser, options, command);
+    const QString foreign = foreignOption(parser, command);
     if (!foreign.isEmpty() && command)
         return usageError(
             Text::tr("“%1” is not an option of “%2”.").arg(spelled(arguments, foreign), command->name));
@@ -267,23 +255,23 @@ CommandLine readCommandLine(const QStringList &allArguments)
             Text::tr("“%1” is not an option of this program.").arg(spelled(arguments, foreign)));
     if (!words.isEmpty() && !command)
         return usageError(Text::tr("The argument “%1” is not expected.").arg(words.first()));
-    if (parser.isSet(options.help) || parser.isSet(options.helpAll))
+    if (parser.isSet(u"help"_s) || parser.isSet(u"help-all"_s))
         return answer(command ? Usage::help(*command) : helpText());
-    if (parser.isSet(options.version))
+    if (parser.isSet(u"version"_s))
         return answer(QCoreApplication::applicationName() + u' ' + QCoreApplication::applicationVersion() +
                       u'\n');
 
     CommandLine result;
-    result.dataGiven = parser.isSet(options.data);
-    result.resetDemo = parser.isSet(options.resetDemo);
-    result.demo = result.resetDemo || parser.isSet(options.demo);
-    result.storagePath = chosenPath(parser, options, result.demo);
-    result.page = parser.value(options.page);
-    result.screenshot = withHome(parser.value(options.screenshot));
-    QString wrong = contradiction(parser, options, result);
+    result.dataGiven = parser.isSet(u"data"_s);
+    result.resetDemo = parser.isSet(u"reset-demo"_s);
+    result.demo = result.resetDemo || parser.isSet(u"demo"_s);
+    result.storagePath = chosenPath(parser, result.demo);
+    result.page = parser.value(u"page"_s);
+    result.screenshot = withHome(parser.value(u"screenshot"_s));
+    QString wrong = contradiction(parser, result);
     if (!command)
         return wrong.isEmpty() ? result : usageError(wrong);
-    const QString ofWindow = windowOption(parser, options);
+    const QString ofWindow = windowOption(parser);
     if (!ofWindow.isEmpty())
         return usageError(Text::tr("“--%1” is for the window, not for “%2”.").arg(ofWindow, command->name));
     result.invocation = invocationOf(parser, *command, result);

@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/data/losses.h"
 
+#include "host/data/moments.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QHash>
-#include <QXmlStreamEntityResolver>
-#include <QXmlStreamReader>
+#include <QScopedValueRollback>
 
 #include <limits>
-#include <memory>
-#include <vector>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,50 +20,8 @@ QString text(const char *source)
     return QCoreApplication::translate("Losses", source);
 }
 
-constexpr std::size_t DeepestLevel = 10;      // no logbook has one; what lies deeper counts as content
 constexpr qsizetype LongestQuote = 50;        // characters of a value that a line shows
 constexpr qsizetype FarthestCounterpart = 50; // elements that may be dropped before one that was kept
-
-/** A document as a tree. */
-struct Element
-{
-    QString name;
-    qint64 line = 0;
-    bool isContainer = false;
-    QXmlStreamAttributes attributes;
-    QString content;
-    QStringList remarks; // a line for each comment and each other thing that no save writes
-    std::vector<std::unique_ptr<Element>> children;
-
-    Element *child(QStringView wanted) const
-    {
-        for (const auto &candidate : children) {
-            if (candidate->name == wanted)
-                return candidate.get();
-        }
-        return nullptr;
-    }
-};
-
-/** Shows references to entities that nothing declares, which the loaders pass over. */
-class ShownReferences final : public QXmlStreamEntityResolver
-{
-public:
-    QString resolveUndeclaredEntity(const QString &name) override
-    {
-        return u"(%1)"_s.arg(QString(name).remove(QChar::Null));
-    }
-};
-
-/** Whether this is a container of entries: they may stand in several containers, and a save writes one.
- * @param level of the parent; above the root it is 1. */
-bool isContainer(const Element &parent, QStringView name, std::size_t level)
-{
-    if (level == 2)
-        return name == u"Locations";
-    return level == 3 && ((parent.name == u"Battery" && name == u"Data") ||
-                          (parent.name == u"Model" && name == u"FlightLog"));
-}
 
 bool isEmpty(const Element &element)
 {
@@ -72,67 +29,24 @@ bool isEmpty(const Element &element)
            element.content.trimmed().isEmpty();
 }
 
-Element *enter(Element *parent, const QXmlStreamReader &reader, std::size_t level)
+QString quote(QStringView value)
 {
-    const bool entersContainer = isContainer(*parent, reader.name(), level);
-    if (Element *same = entersContainer ? parent->child(reader.name()) : nullptr) {
-        same->attributes += reader.attributes();
-        return same;
-    }
-    auto element = std::make_unique<Element>();
-    element->name = reader.name().toString();
-    element->line = reader.lineNumber();
-    element->isContainer = entersContainer;
-    element->attributes = reader.attributes();
-    parent->children.push_back(std::move(element));
-    return parent->children.back().get();
+    return value.toString().simplified().left(LongestQuote);
 }
 
-/** What no save writes, wherever it stands; empty for any other token. */
-QString remark(const QXmlStreamReader &reader)
+QString lineOf(const Element &element)
 {
-    const QString line = QString::number(reader.lineNumber());
-    if (reader.isComment())
-        return text(QT_TRANSLATE_NOOP("Losses", "a comment in line %1")).arg(line);
-    if (reader.isProcessingInstruction())
-        return text(QT_TRANSLATE_NOOP("Losses", "an instruction to other programs in line %1")).arg(line);
-    return QString();
+    return QString::number(element.line);
 }
 
-/** The tree above the root element. */
-std::unique_ptr<Element> parse(const QByteArray &document)
+/** A date-time by the clock on the wall, in whatever zone: local time here may not have that hour. */
+QDateTime onTheWall(const QString &value)
 {
-    auto top = std::make_unique<Element>();
-    std::vector<Element *> open{top.get()};
-    ShownReferences references;
-    QXmlStreamReader reader(document);
-    reader.setNamespaceProcessing(false); // a prefix and its declaration are lost like any name
-    reader.setEntityResolver(&references);
-    while (!reader.atEnd()) {
-        reader.readNext();
-        if (reader.isStartElement())
-            open.push_back(open.size() < DeepestLevel ? enter(open.back(), reader, open.size())
-                                                      : open.back());
-        else if (reader.isEndElement())
-            open.pop_back();
-        else if (reader.isCharacters() || reader.isEntityReference())
-            open.back()->content += reader.text();
-        else if (const QString line = remark(reader); !line.isEmpty())
-            open.back()->remarks.append(line);
-    }
-    if (reader.hasError())
-        top->remarks.append(text(QT_TRANSLATE_NOOP("Losses", "everything from line %1 on"))
-                                .arg(QString::number(reader.lineNumber())));
-    return top;
+    return QDateTime::fromString(value + u" GMT"_s, Qt::TextDate);
 }
 
-/** Whether two date-times are the same by the clock on the wall, in whatever zone: local time here may not
- * have that hour. */
 bool isSameMoment(const QString &value, const QString &saved)
 {
-    const auto onTheWall = [](const QString &when) {
-        return QDateTime::fromString(when + u" GMT"_s, Qt::TextDate);
-    };
     const QDateTime moment = onTheWall(value);
     return moment.isValid() && moment == onTheWall(saved);
 }
@@ -150,6 +64,29 @@ bool means(const QString &value, const QString &saved)
     return (time.isValid() && time == QTime::fromString(saved, Qt::TextDate)) || isSameMoment(value, saved);
 }
 
+/** Whether a value is a time that the clocks here never show: it could be read, and is erased by the save. */
+bool isSkippedTime(const QString &value)
+{
+    const QDateTime moment = onTheWall(value);
+    return moment.isValid() && !timeOf(moment.date(), moment.time()).isValid();
+}
+
+/** In which way the value of a known field is lost. */
+Loss::Kind kindOf(const QString &value, const QString &saved)
+{
+    const bool isNothing = saved.isEmpty() || saved == u"0";
+    return isNothing && !isSkippedTime(value) ? Loss::Unread : Loss::Dropped;
+}
+
+/** "battery “3S”" */
+QString describe(const Element &record)
+{
+    const Element *name = record.child(u"Name");
+    const QString quoted = name ? quote(name->content) : QString();
+    return record.name == u"Model" ? text(QT_TRANSLATE_NOOP("Losses", "model “%1”")).arg(quoted)
+                                   : text(QT_TRANSLATE_NOOP("Losses", "battery “%1”")).arg(quoted);
+}
+
 class Comparison
 {
 public:
@@ -158,16 +95,21 @@ public:
     {
     }
 
-    QStringList lines;
+    Losses found;
 
     void compare(const Element &element, const Element &saved)
     {
-        lines += element.remarks;
+        const QScopedValueRollback record(m_record, element.isRecord ? &element : m_record);
+        if (m_enough > 1)
+            found.lines.insert(&saved, element.line);
+        for (const QString &remark : element.remarks)
+            add(Loss::Dropped, remark);
         for (const QXmlStreamAttribute &attribute : element.attributes)
             compareAttribute(element, attribute, saved);
         if (!means(element.content, saved.content))
-            lines.append(text(QT_TRANSLATE_NOOP("Losses", "the text “%1” of “%2” in line %3"))
-                             .arg(quote(element.content), quote(element.name), lineOf(element)));
+            add(element.isValue ? kindOf(element.content, saved.content) : Loss::Dropped,
+                text(QT_TRANSLATE_NOOP("Losses", "the text “%1” of “%2” in line %3"))
+                    .arg(quote(element.content), quote(element.name), lineOf(element)));
         if (!element.children.empty())
             compareChildren(element, saved);
     }
@@ -175,31 +117,39 @@ public:
 private:
     using Elements = QList<const Element *>;
 
-    static QString quote(QStringView value) { return value.toString().simplified().left(LongestQuote); }
-    static QString lineOf(const Element &element) { return QString::number(element.line); }
-
     static bool isKept(const Element &element, const Element &saved)
     {
         Comparison comparison(1);
         comparison.compare(element, saved);
-        return comparison.lines.isEmpty();
+        return comparison.found.losses.isEmpty();
+    }
+
+    bool isEnough() const { return found.losses.size() >= m_enough; }
+
+    void add(Loss::Kind kind, const QString &what)
+    {
+        found.losses.append({kind, m_record ? describe(*m_record) : QString(), what});
     }
 
     void drop(const Element &element)
     {
+        const QScopedValueRollback record(m_record, element.isRecord ? &element : m_record);
         if (!element.isContainer || !isEmpty(element))
-            lines.append(text(QT_TRANSLATE_NOOP("Losses", "the element “%1” in line %2"))
-                             .arg(quote(element.name), lineOf(element)));
+            add(Loss::Dropped, text(QT_TRANSLATE_NOOP("Losses", "the element “%1” in line %2"))
+                                   .arg(quote(element.name), lineOf(element)));
     }
 
     void compareAttribute(const Element &element, const QXmlStreamAttribute &attribute, const Element &saved)
     {
-        const QStringView name = attribute.qualifiedName();
-        if (saved.attributes.hasAttribute(name.toString()) &&
-            means(attribute.value().toString(), saved.attributes.value(name.toString()).toString()))
+        const QString name = attribute.qualifiedName().toString();
+        const QString value = attribute.value().toString();
+        const QString kept = saved.attributes.value(name).toString();
+        const bool isKnown = saved.attributes.hasAttribute(name);
+        if (isKnown && means(value, kept))
             return;
-        lines.append(text(QT_TRANSLATE_NOOP("Losses", "the attribute “%1” (%2) of “%3” in line %4"))
-                         .arg(quote(name), quote(attribute.value()), quote(element.name), lineOf(element)));
+        add(isKnown ? kindOf(value, kept) : Loss::Dropped,
+            text(QT_TRANSLATE_NOOP("Losses", "the attribute “%1” (%2) of “%3” in line %4"))
+                .arg(quote(name), quote(value), quote(element.name), lineOf(element)));
     }
 
     void compareChildren(const Element &element, const Element &saved)
@@ -224,7 +174,7 @@ private:
     void compareAlike(const Elements &read, const Elements &written)
     {
         qsizetype next = 0;
-        for (qsizetype i = 0; i < written.size() && next < read.size() && lines.size() < m_enough; ++i) {
+        for (qsizetype i = 0; i < written.size() && next < read.size() && !isEnough(); ++i) {
             const qsizetype dropped = (read.size() - next) - (written.size() - i);
             const qsizetype counterpart = next + countUntil(read, next, dropped, [&](const Element &element) {
                                               return isKept(element, *written.at(i));
@@ -235,7 +185,7 @@ private:
                             [&](const Element &saved) { return isKept(*read.at(next), saved); });
             compare(*read.at(next++), *written.at(i));
         }
-        while (next < read.size() && lines.size() < m_enough)
+        while (next < read.size() && !isEnough())
             drop(*read.at(next++));
     }
 
@@ -251,18 +201,28 @@ private:
         return 0;
     }
 
-    qsizetype m_enough; // lines
+    const qsizetype m_enough;          // losses
+    const Element *m_record = nullptr; // the battery or model that is being compared
 };
 
 } // namespace
+
+Losses compareDocuments(const Element &document, const Element &saved)
+{
+    Comparison comparison;
+    comparison.compare(document, saved);
+    return std::move(comparison.found);
+}
 
 QStringList losses(const QByteArray &document, const QByteArray &saved)
 {
     if (document == saved)
         return {};
-    Comparison comparison;
-    comparison.compare(*parse(document), *parse(saved));
-    return comparison.lines;
+    QStringList lines;
+    const QList<Loss> found = compareDocuments(*documentTree(document), *documentTree(saved)).losses;
+    for (const Loss &loss : found)
+        lines.append(loss.what);
+    return lines;
 }
 
 } // namespace Host

@@ -9,6 +9,8 @@
 namespace Host {
 namespace {
 
+constexpr int Quick = 1; // a stronger compression of a long logbook takes longer than the window's reading
+
 /** The document with what stands at an offset exchanged. */
 QByteArray exchanged(const QByteArray &document, qsizetype offset, const QByteArray &old,
                      const QByteArray &replacement)
@@ -41,8 +43,8 @@ void UndoHistory::add(const QByteArray &document, const QString &name)
     const auto end =
         std::mismatch(m_present.crbegin(), m_present.crbegin() + (shorter - offset), document.crbegin());
     const qsizetype tail = end.first - m_present.crbegin();
-    m_steps.append({name, offset, qCompress(m_present.mid(offset, m_present.size() - tail - offset)),
-                    qCompress(document.mid(offset, document.size() - tail - offset))});
+    m_steps.append({name, offset, qCompress(m_present.mid(offset, m_present.size() - tail - offset), Quick),
+                    qCompress(document.mid(offset, document.size() - tail - offset), Quick)});
     m_present = document;
     qsizetype size = 0;
     for (const Step &step : std::as_const(m_steps))

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/exchange/cataloguejson.h"
 
+#include "host/data/moments.h"
 #include "host/data/sources.h"
 #include "host/exchange/jsonbytes.h"
 
-#include <utility>
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,12 +20,18 @@ constexpr unsigned int HundredthsOfAmpere = 100;
 
 CatalogueJson::CatalogueJson(const Catalogue &whole, ByteSink sink)
     : m_sink(std::move(sink))
-    , m_moments(whole)
 {
     m_buffer.reserve(2 * PieceSize);
     m_names.reserve(whole.batteries.size());
-    for (const Battery &battery : whole.batteries)
+    for (const Battery &battery : whole.batteries) {
+        for (const Discharge &discharge : battery.discharges) {
+            if (discharge.time.isValid())
+                m_flown.emplace_back(momentOf(discharge.time), m_names.size());
+        }
         m_names.append(JsonBytes::quoted(battery.name));
+    }
+    std::sort(m_flown.begin(), m_flown.end());
+    m_flown.erase(std::unique(m_flown.begin(), m_flown.end()), m_flown.end());
 }
 
 bool CatalogueJson::writeExport(const Catalogue &shown)
@@ -186,10 +193,11 @@ void CatalogueJson::flight(const Flight &flight)
     JsonBytes::text(m_buffer, flight.notes);
     put(", \"batteries\": [");
     const char *separator = "";
-    const QList<DischargePlace> places = m_moments.firstDischargesAt(momentOf(flight.time));
-    for (const DischargePlace &place : places) {
+    const qint64 moment = momentOf(flight.time);
+    auto flown = std::lower_bound(m_flown.cbegin(), m_flown.cend(), std::pair(moment, qsizetype(0)));
+    for (; moment != NoMoment && flown != m_flown.cend() && flown->first == moment; ++flown) {
         put(separator);
-        m_buffer += m_names.at(place.battery);
+        m_buffer += m_names.at(flown->second);
         separator = ", ";
     }
     put("]}");

@@ -2,13 +2,14 @@
 #pragma once
 
 #include "host/data/catalogue.h"
-#include "host/data/moments.h"
 
 #include <QByteArray>
 #include <QList>
 #include <QString>
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 namespace Host {
 
@@ -53,8 +54,8 @@ private:
     bool finish();
 
     ByteSink m_sink;
-    Moments m_moments;
-    QList<QByteArray> m_names; ///< of all batteries, quoted
+    std::vector<std::pair<qint64, qsizetype>> m_flown; ///< which battery at which moment; sorted, each once
+    QList<QByteArray> m_names;                         ///< of all batteries, quoted
     QByteArray m_buffer;
     bool m_isWanted = true;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/exchange/jsonbytes.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -34,25 +35,56 @@ QByteArray escaped(char character)
     }
 }
 
-void digits(QByteArray &bytes, int value, int count)
+/** Writes a number with so many digits at least. @return where it ends. */
+char *digits(char *to, int value, int count)
 {
     std::array<char, 12> room;
     const auto result = std::to_chars(room.data(), room.data() + room.size(), value);
-    bytes.append(qMax(qsizetype(0), count - (result.ptr - room.data())), '0');
-    bytes.append(room.data(), result.ptr - room.data());
+    for (auto written = result.ptr - room.data(); written < count; ++written)
+        *to++ = '0';
+    return std::copy(room.data(), result.ptr, to);
 }
 
-void day(QByteArray &bytes, QDate date)
+/** "2026-11-10". */
+char *day(char *to, QDate date)
 {
     int year = 0;
     int month = 0;
     int dayOfMonth = 0;
     date.getDate(&year, &month, &dayOfMonth);
-    digits(bytes, year, 4);
-    bytes += '-';
-    digits(bytes, month, 2);
-    bytes += '-';
-    digits(bytes, dayOfMonth, 2);
+    to = digits(to, year, 4);
+    *to++ = '-';
+    to = digits(to, month, 2);
+    *to++ = '-';
+    return digits(to, dayOfMonth, 2);
+}
+
+/** Far more than any date and time takes. */
+using Room = std::array<char, 64>;
+
+void append(QByteArray &bytes, const Room &room, const char *end)
+{
+    bytes.append(room.data(), end - room.data());
+}
+
+/** Appends a text that is as it is in JSON, as most are. @return false for any other. */
+bool appendPlain(QByteArray &bytes, const QString &text)
+{
+    constexpr char16_t LastOfAscii = 0x7e;
+    const qsizetype start = bytes.size();
+    bytes.resize(start + text.size() + 2);
+    char *to = bytes.data() + start;
+    *to++ = '"';
+    for (const QChar character : text) {
+        const auto narrow = static_cast<char>(character.unicode());
+        if (character.unicode() > LastOfAscii || isSpecial(narrow)) {
+            bytes.resize(start);
+            return false;
+        }
+        *to++ = narrow;
+    }
+    *to = '"';
+    return true;
 }
 
 } // namespace
@@ -78,7 +110,8 @@ QByteArray JsonBytes::quoted(const QString &text)
 
 void JsonBytes::text(QByteArray &bytes, const QString &text)
 {
-    bytes += quoted(text);
+    if (!appendPlain(bytes, text))
+        bytes += quoted(text);
 }
 
 void JsonBytes::number(QByteArray &bytes, qint64 value)
@@ -107,9 +140,12 @@ void JsonBytes::date(QByteArray &bytes, QDate date)
         bytes += "null";
         return;
     }
-    bytes += '"';
-    day(bytes, date);
-    bytes += '"';
+    Room room;
+    char *to = room.data();
+    *to++ = '"';
+    to = day(to, date);
+    *to++ = '"';
+    append(bytes, room, to);
 }
 
 void JsonBytes::time(QByteArray &bytes, const QDateTime &time)
@@ -119,15 +155,18 @@ void JsonBytes::time(QByteArray &bytes, const QDateTime &time)
         return;
     }
     const QTime clock = time.time();
-    bytes += '"';
-    day(bytes, time.date());
-    bytes += 'T';
-    digits(bytes, clock.hour(), 2);
-    bytes += ':';
-    digits(bytes, clock.minute(), 2);
-    bytes += ':';
-    digits(bytes, clock.second(), 2);
-    bytes += '"';
+    Room room;
+    char *to = room.data();
+    *to++ = '"';
+    to = day(to, time.date());
+    *to++ = 'T';
+    to = digits(to, clock.hour(), 2);
+    *to++ = ':';
+    to = digits(to, clock.minute(), 2);
+    *to++ = ':';
+    to = digits(to, clock.second(), 2);
+    *to++ = '"';
+    append(bytes, room, to);
 }
 
 } // namespace Host

@@ -11,6 +11,7 @@ namespace {
 const QString Geometry = u"window/geometry"_s;
 const QString PanelSizes = u"panel/sizes"_s;
 const QString PanelOpen = u"panel/open"_s;
+const QString Tables = u"tables/"_s;
 const QString RecentFolders = u"folders/recent"_s;
 const QString Limits = u"limits/"_s;
 constexpr qsizetype MostRecentFolders = 8;
@@ -50,6 +51,16 @@ std::optional<bool> Settings::isPanelOpen() const
 void Settings::setPanelOpen(bool open)
 {
     m_store.setValue(PanelOpen, open);
+}
+
+QByteArray Settings::tableColumns(const QString &name) const
+{
+    return m_store.value(Tables + name).toByteArray();
+}
+
+void Settings::setTableColumns(const QString &name, const QByteArray &state)
+{
+    m_store.setValue(Tables + name, state);
 }
 
 QStringList Settings::recentFolders() const

@@ -26,6 +26,10 @@ public:
     std::optional<bool> isPanelOpen() const;
     void setPanelOpen(bool open);
 
+    /** How the user left the columns of a table, by its name; empty where he never changed them. */
+    QByteArray tableColumns(const QString &name) const;
+    void setTableColumns(const QString &name, const QByteArray &state);
+
     /** The folders opened last, the newest first. */
     QStringList recentFolders() const;
     /** Puts a folder at the beginning. */

@@ -3,16 +3,23 @@
 
 #include "host/window/batteriesmodel.h"
 #include "host/window/batteryplot.h"
+#include "host/window/flowlayout.h"
 #include "host/window/openlogbook.h"
+#include "host/window/tablecolumns.h"
+#include "host/window/tableprinting.h"
 
 #include <QHeaderView>
 #include <QLabel>
+#include <QLocale>
+#include <QPushButton>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QTableView>
 #include <QVBoxLayout>
 
 #include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
 namespace {
@@ -31,6 +38,7 @@ int namesakesBefore(const Catalogue &catalogue, int row)
 BatteriesTab::BatteriesTab(OpenLogbook &logbook, Questions &questions, QWidget *parent)
     : PanelTab(parent)
     , m_logbook(logbook)
+    , m_questions(questions)
     , m_heading(
           new QLabel(tr("There is no battery yet. Add your first one: press the menu button, then Edit.")))
     , m_splitter(new QSplitter(Qt::Vertical))
@@ -38,6 +46,7 @@ BatteriesTab::BatteriesTab(OpenLogbook &logbook, Questions &questions, QWidget *
     , m_model(new BatteriesModel(this))
     , m_sorted(new QSortFilterProxyModel(this))
     , m_plot(new BatteryPlot(questions))
+    , m_print(new QPushButton(tr("Print T&able…")))
 {
     buildTable();
     m_splitter->addWidget(m_table);
@@ -48,6 +57,10 @@ BatteriesTab::BatteriesTab(OpenLogbook &logbook, Questions &questions, QWidget *
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_heading);
     layout->addWidget(m_splitter, 1);
+    auto *buttons = new FlowLayout;
+    buttons->addWidget(m_print);
+    layout->addLayout(buttons);
+    connect(m_print, &QPushButton::clicked, this, &BatteriesTab::print);
 }
 
 void BatteriesTab::buildTable()
@@ -66,7 +79,7 @@ void BatteriesTab::buildTable()
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(-1, Qt::AscendingOrder); // as in the file, until the user wishes otherwise
     m_table->horizontalHeader()->setHighlightSections(false);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_columns = new TableColumns(*m_table, u"batteries"_s);
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &BatteriesTab::showChosen);
 }
@@ -83,6 +96,9 @@ void BatteriesTab::refresh()
     m_model->setFigures(figuresOf(*catalogue, {}, QDate::currentDate()).batteries, catalogue->batteries);
     m_heading->setVisible(catalogue->batteries.isEmpty());
     m_splitter->setVisible(!catalogue->batteries.isEmpty());
+    m_print->setVisible(!catalogue->batteries.isEmpty());
+    if (!m_columns->restore())
+        m_table->resizeColumnsToContents();
     if (catalogue->batteries.isEmpty())
         showChosen();
     else
@@ -119,6 +135,13 @@ void BatteriesTab::showChosen()
 {
     const int row = chosenRow();
     m_plot->setBattery(row < 0 ? std::nullopt : std::optional(m_catalogue->batteries.at(row)));
+}
+
+void BatteriesTab::print()
+{
+    printTable(*m_table,
+               tr("Batteries, %1").arg(QLocale().toString(QDate::currentDate(), QLocale::ShortFormat)),
+               m_questions);
 }
 
 void BatteriesTab::select(const QString &name)

@@ -7,6 +7,7 @@
 #include <memory>
 
 class QLabel;
+class QPushButton;
 class QSortFilterProxyModel;
 class QSplitter;
 class QTableView;
@@ -17,6 +18,7 @@ class BatteriesModel;
 class BatteryPlot;
 class OpenLogbook;
 class Questions;
+class TableColumns;
 
 /** The figures of each battery, and plots of the chosen one. */
 class BatteriesTab final : public PanelTab
@@ -38,15 +40,19 @@ private:
     void choose(int row);
     int rowOf(const QString &name, int nth) const;
     void showChosen();
+    void print();
 
     OpenLogbook &m_logbook;
+    Questions &m_questions;
     std::shared_ptr<const Catalogue> m_catalogue; ///< on show
     QLabel *m_heading;
     QSplitter *m_splitter;
     QTableView *m_table;
+    TableColumns *m_columns = nullptr;
     BatteriesModel *m_model;
     QSortFilterProxyModel *m_sorted;
     BatteryPlot *m_plot;
+    QPushButton *m_print;
 };
 
 } // namespace Host

@@ -28,7 +28,7 @@ BatteryPlot::BatteryPlot(Questions &questions, QWidget *parent)
     , m_discharges(new DischargesModel(this))
     , m_note(new QLabel)
 {
-    auto *label = new QLabel(tr("P&lot:"));
+    auto *label = new QLabel(tr("Pl&ot:"));
     label->setBuddy(m_quantity);
     for (const Quantity quantity : {Quantity::CapacityUsed, Quantity::Current, Quantity::Load})
         m_quantity->addItem(nameOf(quantity), static_cast<int>(quantity));

@@ -11,6 +11,7 @@
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -46,6 +47,9 @@ FlightDialog::FlightDialog(std::shared_ptr<const Catalogue> catalogue, OpenLogbo
     m_discharged->setSuffix(tr(" mAh"));
     m_current->setSuffix(tr(" A"));
     m_temperature->setSuffix(tr(" °C"));
+    m_discharged->setAccessibleDescription(m_discharged->suffix().trimmed());
+    m_current->setAccessibleDescription(m_current->suffix().trimmed());
+    m_temperature->setAccessibleDescription(m_temperature->suffix().trimmed());
     buildLayout();
     connect(m_battery, &QComboBox::currentIndexChanged, this, &FlightDialog::offerBattery);
     offerBattery();
@@ -66,17 +70,21 @@ void FlightDialog::buildLayout()
     add(tr("D&ischarged"), m_discharged);
     add(tr("Maximum &current"), m_current);
     add(tr("&Location"), m_location);
+    m_location->lineEdit()->setAccessibleName(m_location->accessibleName());
     add(tr("Tem&perature"), m_temperature);
     add(tr("&Notes"), m_notes);
     m_notes->setMinimumHeight(fontMetrics().lineSpacing() * 3);
     auto *area = new QScrollArea; // at 200 % it is higher than some screens
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus); // it follows its fields
     area->setWidget(fields);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     buttons->addButton(tr("Add"), QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &FlightDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    buttons->setFocusProxy(
+        nullptr); // with its own, Tab would leave out what comes before the first that accepts
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(area);
     layout->addWidget(buttons);

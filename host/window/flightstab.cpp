@@ -10,7 +10,7 @@
 #include "host/window/movedialog.h"
 #include "host/window/openlogbook.h"
 #include "host/window/questions.h"
-#include "host/window/renamedialog.h"
+#include "host/window/tablecolumns.h"
 #include "host/window/tidydialog.h"
 
 #include <QAction>
@@ -19,6 +19,8 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
 
@@ -36,7 +38,7 @@ FlightsTab::FlightsTab(OpenLogbook &logbook, Questions &questions, QWidget *pare
     , m_delete(addCommand(tr("&Delete"), &FlightsTab::deleteFlights))
     , m_move(addCommand(tr("&Move…"), &FlightsTab::moveFlights))
     , m_tidy(addCommand(tr("&Tidy Up…"), &FlightsTab::tidyUp))
-    , m_rename(addCommand(tr("&Rename…"), &FlightsTab::rename))
+    , m_rename(addCommand(tr("&Rename…"), &FlightsTab::renameRequested))
 {
     buildLayout();
     m_delete->setShortcut(QKeySequence::Delete);
@@ -80,7 +82,7 @@ void FlightsTab::buildLayout()
     layout->addWidget(m_count);
     layout->addLayout(m_buttons);
     m_hint->setWordWrap(true);
-    m_table->setContextMenuPolicy(Qt::ActionsContextMenu);
+    (new TableColumns(*m_table, u"flights"_s))->restore();
 }
 
 void FlightsTab::refresh()
@@ -233,12 +235,6 @@ void FlightsTab::tidyUp()
             return FlightEdits::changedMeanwhile();
         return Edits::deleteFlights(catalogue, places, Edits::Discharges::Delete);
     }));
-}
-
-void FlightsTab::rename()
-{
-    renameRecord(m_logbook, m_questions, this);
-    refresh();
 }
 
 } // namespace Host

@@ -29,6 +29,10 @@ public:
 
     void refresh() override;
 
+Q_SIGNALS:
+    /** The user wants to give something another name. */
+    void renameRequested();
+
 private:
     QAction *addCommand(const QString &caption, void (FlightsTab::*run)());
     void buildLayout();
@@ -42,7 +46,6 @@ private:
     void deleteFlights();
     void moveFlights();
     void tidyUp();
-    void rename();
     void finish(const QString &problem, const QList<FlightPlace> &chosen = {});
 
     OpenLogbook &m_logbook;

@@ -170,12 +170,17 @@ void MainWindow::showManual()
 
 void MainWindow::showAbout()
 {
-    m_questions.tell(
-        tr("Voltbok %1, a battery and flight logbook for radio-controlled models.\n\nVoltbok is "
-           "free software under the GNU General Public License, version 3 or later. Linked with "
-           "Qt Charts, which is under version 3, the whole is under version 3.\n\nThis logbook is "
-           "kept in “%2”.")
-            .arg(QCoreApplication::applicationVersion(), QDir::toNativeSeparators(m_folder.path())));
+    Question about;
+    about.text = tr("Voltbok %1, a battery and flight logbook for radio-controlled models.")
+                     .arg(QCoreApplication::applicationVersion());
+    about.details =
+        tr("Voltbok is free software under the GNU General Public License, version 3 or later. Linked with "
+           "Qt Charts, which is under version 3, the whole is under version 3.\n\nThis logbook is kept in "
+           "“%1”.")
+            .arg(QDir::toNativeSeparators(m_folder.path()));
+    about.answers = QStringList(tr("Close"));
+    about.picture = windowIcon();
+    m_questions.ask(about);
 }
 
 /** Asks where a flight or a form would be lost. @return whether to go on. */

@@ -18,6 +18,7 @@
 #include <QComboBox>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QPixmap>
 #include <QScreen>
 #include <QSettings>
@@ -67,6 +68,8 @@ MainWindow::MainWindow(Questions &questions, QWidget *parent)
     m_splitter->setStretchFactor(1, 1);
     setCentralWidget(content);
     resize(size);
+    // The desktop's, where it has one; dialogs take that of the application.
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(u"voltbok"_s, QIcon(u":/icons/voltbok.svg"_s)));
     buildMenus();
     connectLogbook();
     connect(m_messages, &MessageBar::told, this, &MainWindow::told);
@@ -124,24 +127,31 @@ void MainWindow::lookInto(const StorageFolder &folder)
 
 void MainWindow::buildPanel()
 {
-    m_logbook = std::make_unique<OpenLogbook>(m_folder, m_care.get());
+    m_logbook = std::make_unique<OpenLogbook>(m_folder, m_care.get(), m_questions);
     connect(m_logbook.get(), &OpenLogbook::possibilitiesChanged, this, &MainWindow::updateActions);
     m_panel = new SidePanel(*m_logbook, m_questions);
+    connect(m_panel, &SidePanel::renameRequested, this, &MainWindow::rename);
     m_splitter->addWidget(m_panel);
 }
 
 void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> lock)
 {
+    constexpr int Steps = 3; // none takes longer than the logbook's own reading
+    const std::unique_ptr<Progress> progress = m_questions.progress(tr("The logbook is opened…"), Steps);
+    progress->commit();
     keepLayout();
     closeLogbook(); // it is saved and copied while its lock is held
     m_lock = std::move(lock);
     m_messages->clear(); // they speak of the folder before
+    progress->step();
     lookInto(folder);
+    progress->step();
     m_care = std::make_unique<SaveCare>(
         folder, LogbookAccess{m_gui, [this] { m_gui->writeDataWithDataprocessor(); }, [this] { reload(); }},
         *m_messages, m_questions);
     // Queued: the care ends with the folder that it speaks of.
     connect(m_care.get(), &SaveCare::keptElsewhere, this, &MainWindow::goOnIn, Qt::QueuedConnection);
+    progress->step();
     buildPanel();
     restoreLayout();
     updateActions();

@@ -57,6 +57,8 @@ MoveDialog::MoveDialog(const Catalogue &catalogue, const QList<FlightPlace> &pla
     buttons->addButton(tr("Move"), QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    buttons->setFocusProxy(
+        nullptr); // with its own, Tab would leave out what comes before the first that accepts
     form->addRow(buttons);
 }
 

@@ -3,6 +3,7 @@
 
 #include "host/data/cataloguefile.h"
 #include "host/safety/wholefile.h"
+#include "host/window/questions.h"
 #include "host/window/savecare.h"
 
 #include <QDir>
@@ -19,11 +20,23 @@ QString noSpace()
         .arg(QDir::tempPath());
 }
 
+QString cancelled()
+{
+    return OpenLogbook::tr("Nothing was changed: you have cancelled it.");
+}
+
+QString changedMeanwhile()
+{
+    return OpenLogbook::tr("Nothing was changed: the logbook has changed meanwhile. Look at it again, and "
+                           "repeat what you did.");
+}
+
 } // namespace
 
-OpenLogbook::OpenLogbook(const StorageFolder &folder, SaveCare *care)
+OpenLogbook::OpenLogbook(const StorageFolder &folder, SaveCare *care, Questions &questions)
     : m_folder(folder)
     , m_care(care)
+    , m_questions(questions)
     , m_mayChange(care && care->isInOrder())
 {
     const QByteArray document = WholeFile::read(m_folder.dataFile()).bytes;
@@ -47,43 +60,67 @@ std::shared_ptr<const Catalogue> OpenLogbook::catalogue()
 
 QString OpenLogbook::change(const QString &name, const Change &change)
 {
+    // Each step takes no longer than the window's own reading, and other events may happen after it.
+    constexpr int Steps = 6;
+    const std::unique_ptr<Progress> progress = m_questions.progress(tr("The logbook is changed…"), Steps);
     if (const QString problem = obstacle(); !problem.isEmpty())
         return problem;
+    if (!progress->step())
+        return cancelled();
     const std::shared_ptr<const Catalogue> present = catalogue();
     if (!present)
         return noSpace();
+    if (!progress->step())
+        return cancelled();
     Catalogue meant = *present;
     if (const QString problem = change(meant); !problem.isEmpty())
         return problem;
     if (meant == *present)
         return QString();
+    if (!progress->step())
+        return cancelled();
     const CatalogueFile::Saved saved = CatalogueFile::save(meant);
+    if (!progress->step())
+        return cancelled();
     const CatalogueFile::Loaded loaded = CatalogueFile::load(saved.document);
     if (!saved.problem.isEmpty() || !loaded.problem.isEmpty())
         return noSpace();
     if (loaded.catalogue != meant)
         return tr("Nothing was changed: the logbook file cannot hold what you entered. Leave out control "
                   "characters, and times that the clock does not have.");
+    if (!progress->step())
+        return cancelled();
+    if (m_catalogue != present || !isFileStillThis())
+        return changedMeanwhile();
     m_stepName = name;
-    return put(saved.document);
+    m_meant = std::make_shared<const Catalogue>(loaded.catalogue);
+    return put(saved.document, *progress);
 }
 
 QString OpenLogbook::undo()
 {
-    const QString problem = obstacle();
-    if (!problem.isEmpty() || !m_history.canUndo())
-        return problem;
-    m_move = &UndoHistory::undone;
-    return put(m_history.before());
+    return move(&UndoHistory::canUndo, &UndoHistory::before, &UndoHistory::undone);
 }
 
 QString OpenLogbook::redo()
 {
+    return move(&UndoHistory::canRedo, &UndoHistory::behind, &UndoHistory::redone);
+}
+
+/** Puts another version of the history in the place of the present one. */
+QString OpenLogbook::move(bool (UndoHistory::*isPossible)() const,
+                          QByteArray (UndoHistory::*document)() const, void (UndoHistory::*moved)())
+{
+    const std::unique_ptr<Progress> progress = m_questions.progress(tr("The logbook is changed…"), 2);
     const QString problem = obstacle();
-    if (!problem.isEmpty() || !m_history.canRedo())
+    if (!problem.isEmpty() || !(m_history.*isPossible)())
         return problem;
-    m_move = &UndoHistory::redone;
-    return put(m_history.behind());
+    if (!progress->step())
+        return cancelled();
+    if (!(m_history.*isPossible)() || !isFileStillThis())
+        return changedMeanwhile();
+    m_move = moved;
+    return put((m_history.*document)(), *progress);
 }
 
 void OpenLogbook::setCapturing(bool capturing)
@@ -108,18 +145,32 @@ QString OpenLogbook::obstacle()
     return QString();
 }
 
-/** Writes a document in the place of the present version, which stays there if that fails. */
-QString OpenLogbook::put(const QByteArray &document)
+/** Whether nobody has written since obstacle() has looked. */
+bool OpenLogbook::isFileStillThis() const
 {
+    const QByteArray document = WholeFile::read(m_folder.dataFile()).bytes;
+    return !m_capturing && m_care->isInOrder() && (document.isEmpty() || document == m_history.present());
+}
+
+/** Writes a document in the place of the present version, which stays there if that fails. */
+QString OpenLogbook::put(const QByteArray &document, Progress &progress)
+{
+    progress.commit();
     const QByteArray before = m_history.present();
     QString problem = WholeFile::write(m_folder.dataFileTarget(), document);
-    if (problem.isEmpty() && m_care->takeWritten(document))
-        return QString();
+    if (problem.isEmpty()) {
+        m_care->readWritten();
+        progress.step();
+        if (m_care->takeWritten(document))
+            return QString();
+    }
     m_stepName.clear();
+    m_meant.reset();
     m_move = nullptr;
     if (problem.isEmpty()) {
         problem = tr("it cannot be read back");
         WholeFile::write(m_folder.dataFileTarget(), before);
+        m_care->readWritten();
         m_care->takeWritten(before);
         m_history.restart(before);
         announce();
@@ -148,7 +199,7 @@ void OpenLogbook::versionOfOthers(const QByteArray &document)
 
 void OpenLogbook::announce()
 {
-    m_catalogue.reset();
+    m_catalogue = std::exchange(m_meant, nullptr);
     updatePossibilities();
     Q_EMIT changed();
 }

@@ -13,6 +13,8 @@
 
 namespace Host {
 
+class Progress;
+class Questions;
 class SaveCare;
 
 /**
@@ -28,12 +30,17 @@ public:
     /** Changes the catalogue. @return why it cannot be done, in whole sentences; empty when it is. */
     using Change = std::function<QString(Catalogue &)>;
 
-    /** @param care of the same folder, which outlives the logbook; without one it is only looked at. */
-    OpenLogbook(const StorageFolder &folder, SaveCare *care);
+    /**
+     * @param care of the same folder, which outlives the logbook; without one it is only looked at.
+     * @param questions show how far a change is, and outlive the logbook.
+     */
+    OpenLogbook(const StorageFolder &folder, SaveCare *care, Questions &questions);
 
     /** What the file holds now, read once for each version of it; null when a full disk does not let it be
      * read. */
     std::shared_ptr<const Catalogue> catalogue();
+    /** Whether catalogue() has read it already. */
+    bool isRead() const { return m_catalogue != nullptr; }
 
     /** Whether it can be changed now: not while a flight is being entered, nor while the file is in trouble.
      */
@@ -68,14 +75,19 @@ private:
     QString obstacle();
     void versionWritten(const QByteArray &document);
     void versionOfOthers(const QByteArray &document);
-    QString put(const QByteArray &document);
+    bool isFileStillThis() const;
+    QString move(bool (UndoHistory::*isPossible)() const, QByteArray (UndoHistory::*document)() const,
+                 void (UndoHistory::*moved)());
+    QString put(const QByteArray &document, Progress &progress);
     void updatePossibilities();
     void announce();
 
     const StorageFolder m_folder;
     SaveCare *m_care;
+    Questions &m_questions;
     UndoHistory m_history;
     std::shared_ptr<const Catalogue> m_catalogue; ///< null when the file has another version since
+    std::shared_ptr<const Catalogue> m_meant;     ///< in the version that is being written, where it is known
     QString m_stepName;                           ///< of the version that is being written
     void (UndoHistory::*m_move)() = nullptr;      ///< that the version that is being written is known by
     bool m_capturing = false;

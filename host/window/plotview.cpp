@@ -65,6 +65,7 @@ PlotView::PlotView(QWidget *parent)
     : QChartView(parent)
 {
     setRenderHint(QPainter::Antialiasing);
+    viewport()->setFocusPolicy(Qt::NoFocus); // the plot has it as a whole
     setMinimumHeight(fontMetrics().height() * 10);
 }
 

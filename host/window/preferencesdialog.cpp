@@ -44,11 +44,14 @@ PreferencesDialog::PreferencesDialog(QWidget *parent)
                                          QDialogButtonBox::RestoreDefaults);
     connect(buttons, &QDialogButtonBox::accepted, this, &PreferencesDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    buttons->setFocusProxy(
+        nullptr); // with its own, Tab would leave out what comes before the first that accepts
     connect(buttons->button(QDialogButtonBox::RestoreDefaults), &QPushButton::clicked, this,
             &PreferencesDialog::restoreDefaults);
     auto *area = new QScrollArea; // at 200 % it is higher than some screens
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus); // it follows its fields
     area->setWidget(group);
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(area);

@@ -2,6 +2,7 @@
 #include "host/window/questions.h"
 
 #include "host/window/breakable.h"
+#include "host/window/progress.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -30,7 +31,7 @@ namespace {
 class QuestionBox final : public QDialog
 {
 public:
-    QuestionBox(const Question &question, QStyle::StandardPixmap icon);
+    QuestionBox(const Question &question, QStyle::StandardPixmap otherwise);
 
     Answer ask();
 
@@ -45,7 +46,7 @@ private:
     int m_button;
 };
 
-QuestionBox::QuestionBox(const Question &question, QStyle::StandardPixmap icon)
+QuestionBox::QuestionBox(const Question &question, QStyle::StandardPixmap otherwise)
     : QDialog(QApplication::activeWindow())
     , m_layout(new QGridLayout(this))
     , m_button(question.refusal)
@@ -55,7 +56,9 @@ QuestionBox::QuestionBox(const Question &question, QStyle::StandardPixmap icon)
     setAccessibleDescription(question.details);
     auto *picture = new QLabel(this);
     const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
-    picture->setPixmap(style()->standardIcon(icon, nullptr, this).pixmap(size));
+    const QIcon icon =
+        question.picture.isNull() ? style()->standardIcon(otherwise, nullptr, this) : question.picture;
+    picture->setPixmap(icon.pixmap(QSize(size, size), devicePixelRatio()));
     m_layout->addWidget(picture, 0, 0, Qt::AlignTop);
     m_layout->setColumnStretch(1, 1);
     QFont strong = font();
@@ -207,6 +210,11 @@ void BoxQuestions::print(const QString &name, const std::function<void(QPrinter 
     QPrintDialog dialog(&printer, QApplication::activeWindow());
     if (dialog.exec() == QDialog::Accepted)
         paint(printer);
+}
+
+std::unique_ptr<Progress> BoxQuestions::progress(const QString &text, int steps)
+{
+    return std::make_unique<ProgressBox>(text, steps);
 }
 
 } // namespace Host

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QIcon>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 
 class QAbstractItemModel;
 class QPrinter;
@@ -23,12 +25,28 @@ struct Question
      * Rows that cannot be chosen are disabled. Not owned. */
     QAbstractItemModel *choices = nullptr;
     int chosen = 0; ///< the row that is chosen at first
+    QIcon picture;  ///< beside the text; without one it is that of a warning
 };
 
 struct Answer
 {
     int button = 0; ///< the index in Question::answers
     int row = -1;   ///< the chosen row of Question::choices; -1 without any
+};
+
+/** How far a piece of work is, which tells each step, so that the window lives on. */
+class Progress
+{
+public:
+    Progress() = default;
+    virtual ~Progress() = default;
+    Progress(const Progress &) = delete;
+    Progress &operator=(const Progress &) = delete;
+
+    /** A step is done. @return whether to go on: false when the user has had enough. */
+    virtual bool step() = 0;
+    /** From here on the work is done to its end, and cannot be cancelled. */
+    virtual void commit() = 0;
 };
 
 /** Everything that the program asks or tells in a box goes through here. */
@@ -55,6 +73,8 @@ public:
                                    const QStringList &filters) = 0;
     /** Lets the user choose a printer, and paints on it when he does. @param name of what is printed. */
     virtual void print(const QString &name, const std::function<void(QPrinter &)> &paint) = 0;
+    /** Shows how far a piece of work is, where it takes more than a moment, until the progress goes. */
+    virtual std::unique_ptr<Progress> progress(const QString &text, int steps) = 0;
 };
 
 /** Shows boxes. */
@@ -66,6 +86,15 @@ public:
     QString chooseFolder(const QString &caption) override;
     QString chooseSaveFile(const QString &caption, const QString &name, const QStringList &filters) override;
     void print(const QString &name, const std::function<void(QPrinter &)> &paint) override;
+    std::unique_ptr<Progress> progress(const QString &text, int steps) override;
+};
+
+/** Of work that nobody watches. */
+class UnseenProgress final : public Progress
+{
+public:
+    bool step() override { return true; }
+    void commit() override {}
 };
 
 /** For a program that nobody can see: every question is refused. */
@@ -80,6 +109,10 @@ public:
         return QString();
     }
     void print(const QString &, const std::function<void(QPrinter &)> &) override {}
+    std::unique_ptr<Progress> progress(const QString &, int) override
+    {
+        return std::make_unique<UnseenProgress>();
+    }
 };
 
 } // namespace Host

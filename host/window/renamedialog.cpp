@@ -51,6 +51,8 @@ RenameDialog::RenameDialog(std::shared_ptr<const Catalogue> catalogue, OpenLogbo
     form->addRow(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &RenameDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    buttons->setFocusProxy(
+        nullptr); // with its own, Tab would leave out what comes before the first that accepts
     connect(m_kind, &QComboBox::currentIndexChanged, this, &RenameDialog::offerRecords);
     connect(m_record, &QComboBox::currentIndexChanged, this, &RenameDialog::offerName);
     offerRecords();

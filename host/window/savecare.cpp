@@ -83,17 +83,6 @@ bool SaveCare::makeFileCurrent()
     return isInOrder();
 }
 
-bool SaveCare::takeWritten(const QByteArray &document)
-{
-    m_logbook.reload();
-    takeForOurs();
-    m_openedAs = heldByWindow();
-    settle();
-    Q_EMIT written(document);
-    return heldByFile() == document &&
-           (m_openedAs == document || m_openedAs == CatalogueFile::loadAndSave(document).document);
-}
-
 /** Whether the window holds what a save of this file would keep; a disk that did not give it is asked once
  * more. */
 bool SaveCare::isOpenedWhole()

@@ -50,8 +50,9 @@ public:
     bool isInOrder() const { return m_loss == Loss::None && !m_byOthers; }
     /** Saves what is not saved yet. @return whether all is in order now, so that the file may be written. */
     bool makeFileCurrent();
-    /** The program has written the file in the window's stead, and has the window read it. @return whether
-     * the window holds it now. */
+    /** The program has written the file in the window's stead, and has the window read it. */
+    void readWritten();
+    /** @return whether the window holds now what was written. */
     bool takeWritten(const QByteArray &document);
 
 Q_SIGNALS:

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What helps when the file does not hold what was recorded: the buttons of the message about it.
+// What the program writes in the window's stead, and the buttons of the message about a save that failed.
+#include "host/data/cataloguefile.h"
 #include "host/safety/backups.h"
 #include "host/safety/folderlock.h"
 #include "host/safety/recovery.h"
@@ -13,6 +14,21 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 const QString Restored = u"restored"_s; // what a message is about
+}
+
+void SaveCare::readWritten()
+{
+    m_logbook.reload();
+    takeForOurs();
+}
+
+bool SaveCare::takeWritten(const QByteArray &document)
+{
+    m_openedAs = heldByWindow();
+    settle();
+    Q_EMIT written(document);
+    return heldByFile() == document &&
+           (m_openedAs == document || m_openedAs == CatalogueFile::loadAndSave(document).document);
 }
 
 void SaveCare::tryAgain()
@@ -45,6 +61,7 @@ void SaveCare::restoreLastState()
                 .arg(problem));
         return;
     }
+    readWritten();
     takeWritten(state);
     m_messages.tell(
         Restored,

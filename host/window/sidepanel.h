@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QDate>
 #include <QSet>
 #include <QTabWidget>
 #include <QTimer>
+
+class QPushButton;
 
 namespace Host {
 
@@ -41,18 +44,31 @@ public:
 
     QSize sizeHint() const override;
 
+Q_SIGNALS:
+    /** The user wants to give something another name. */
+    void renameRequested();
+
 protected:
     void showEvent(QShowEvent *event) override;
 
 private:
     void refreshIfSeen();
+    void lookAtTheDay();
+    void refreshLater();
+    void putOffOrRead();
 
+    OpenLogbook &m_logbook;
     TodayTab *m_today;
     BatteriesTab *m_batteries;
     FlightsTab *m_flights;
     StatisticsTab *m_statistics;
-    QSet<int> m_stale; ///< the tabs that show an earlier version
-    QTimer m_whenIdle; ///< a click on a card does not wait for the tab beside it
+    QSet<int> m_stale;      ///< the tabs that show an earlier version
+    QPushButton *m_reading; ///< puts off a reading that takes long, or does it
+    bool m_isPutOff = false;
+    int m_readingTime = 0; ///< of the last reading, in ms
+    QTimer m_whenIdle;     ///< a click on a card does not wait for the tab beside it
+    QTimer m_clock;        ///< looks whether another day has begun, however the computer slept meanwhile
+    QDate m_day;           ///< that the figures were worked out for
 };
 
 } // namespace Host

@@ -171,8 +171,11 @@ std::unique_ptr<QChart> statisticsChart(const StatisticsPlot &plot)
     chart->addSeries(series); // the chart owns all of them
     chart->addAxis(categories, isUpright ? Qt::AlignBottom : Qt::AlignLeft);
     chart->addAxis(valueAxis(plot).release(), isUpright ? Qt::AlignLeft : Qt::AlignBottom);
-    if (isUpright)
+    if (isUpright) {
         categories->setLabelsAngle(-90);
+        categories->setTruncateLabels(
+            false); // a year and a month have room, which is not seen when they stand
+    }
     for (QAbstractAxis *axis : chart->axes())
         series->attachAxis(axis);
     return chart;

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/statisticstab.h"
 
+#include "host/window/flowlayout.h"
 #include "host/window/openlogbook.h"
 #include "host/window/plotbuttons.h"
 #include "host/window/plotview.h"
 #include "host/window/statisticschart.h"
 #include "host/window/statisticsmodel.h"
+#include "host/window/tablecolumns.h"
+#include "host/window/tableprinting.h"
 
 #include <QChart>
 #include <QCheckBox>
@@ -15,6 +18,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
+#include <QPushButton>
 #include <QSignalBlocker>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
@@ -58,6 +62,7 @@ int flightsOf(const QList<GroupFigures> &groups)
 StatisticsTab::StatisticsTab(OpenLogbook &logbook, Questions &questions, QWidget *parent)
     : PanelTab(parent)
     , m_logbook(logbook)
+    , m_questions(questions)
     , m_heading(new QLabel)
     , m_content(new QWidget)
     , m_grouping(new QComboBox)
@@ -87,6 +92,11 @@ StatisticsTab::StatisticsTab(OpenLogbook &logbook, Questions &questions, QWidget
     splitter->addWidget(m_table);
     splitter->addWidget(buildPlot(questions));
     content->addWidget(splitter, 1);
+    auto *buttons = new FlowLayout;
+    auto *print = new QPushButton(tr("Print T&able…"));
+    buttons->addWidget(print);
+    content->addLayout(buttons);
+    connect(print, &QPushButton::clicked, this, &StatisticsTab::print);
     offerMeasures();
     connect(m_grouping, &QComboBox::currentIndexChanged, this, &StatisticsTab::showGroups);
     connect(m_measure, &QComboBox::currentIndexChanged, this, &StatisticsTab::showPlot);
@@ -109,7 +119,7 @@ QWidget *StatisticsTab::buildChoices()
     m_grouping->addItem(tr("Model"), static_cast<int>(Grouping::Model));
     m_grouping->addItem(tr("Location"), static_cast<int>(Grouping::Location));
     addChoice(0, tr("Add up &by:"), m_grouping, tr("Add up by"));
-    addChoice(1, tr("P&lot:"), m_measure, tr("What is plotted"));
+    addChoice(1, tr("Pl&ot:"), m_measure, tr("What is plotted"));
     m_from = addDay(layout, 0, m_isFrom, tr("First day"));
     m_to = addDay(layout, 1, m_isTo, tr("Last day"));
     m_from->setDate(QDate(m_from->date().year(), 1, 1));
@@ -147,9 +157,8 @@ void StatisticsTab::buildTable()
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(-1, Qt::AscendingOrder); // as they come, until the user wishes otherwise
     m_table->setAccessibleName(tr("Flights, added up"));
-    QHeaderView *header = m_table->horizontalHeader();
-    header->setHighlightSections(false);
-    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    m_columns = new TableColumns(*m_table, u"statistics"_s);
 }
 
 QWidget *StatisticsTab::buildPlot(Questions &questions)
@@ -213,6 +222,8 @@ void StatisticsTab::showGroups()
     const auto grouping = static_cast<Grouping>(m_grouping->currentData().toInt());
     offerMeasures();
     m_model->setGroups(groupsOf(m_figures, grouping), grouping);
+    if (!m_columns->restore())
+        m_table->resizeColumnsToContents();
     m_summary->setText(summary());
     showPlot();
 }
@@ -225,6 +236,14 @@ void StatisticsTab::showPlot()
     m_plot->setPlot(statisticsChart(plot), statisticsChartName(plot), statisticsChartDescription(plot));
     m_plot->setVisible(!plot.groups.isEmpty());
     m_buttons->setVisible(!plot.groups.isEmpty());
+}
+
+void StatisticsTab::print()
+{
+    const QString days = u"%1 – %2"_s.arg(m_isFrom->isChecked() ? m_from->text() : QString(),
+                                          m_isTo->isChecked() ? m_to->text() : QString());
+    const QString title = tr("%1: %2").arg(m_table->accessibleName(), m_grouping->currentText());
+    printTable(*m_table, range().isLimited() ? u"%1, %2"_s.arg(title, days) : title, m_questions);
 }
 
 /** What everything in range comes to, and what the table leaves out of it. */

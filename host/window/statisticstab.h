@@ -21,6 +21,7 @@ class PlotButtons;
 class PlotView;
 class Questions;
 class StatisticsModel;
+class TableColumns;
 
 /** Flights and minutes by month, model and location, of the days that the user chooses. */
 class StatisticsTab final : public PanelTab
@@ -42,10 +43,12 @@ private:
     void offerMeasures();
     void showGroups();
     void showPlot();
+    void print();
     DateRange range() const;
     QString summary() const;
 
     OpenLogbook &m_logbook;
+    Questions &m_questions;
     std::shared_ptr<const Catalogue> m_catalogue; ///< on show
     Figures m_figures;
     QLabel *m_heading;
@@ -58,6 +61,7 @@ private:
     QDateEdit *m_to = nullptr;
     QLabel *m_summary;
     QTableView *m_table;
+    TableColumns *m_columns = nullptr;
     StatisticsModel *m_model;
     QSortFilterProxyModel *m_sorted;
     PlotView *m_plot;

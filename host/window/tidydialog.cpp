@@ -44,6 +44,8 @@ TidyDialog::TidyDialog(const Catalogue &catalogue, const QList<Edits::Double> &d
     buttons->addButton(tr("Remove"), QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    buttons->setFocusProxy(
+        nullptr); // with its own, Tab would leave out what comes before the first that accepts
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(text);
     layout->addWidget(m_list, 1);

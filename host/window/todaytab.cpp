@@ -5,7 +5,7 @@
 #include "host/window/advicelimits.h"
 #include "host/window/openlogbook.h"
 
-#include <QDateTime>
+#include <QDate>
 #include <QLabel>
 #include <QListWidget>
 #include <QStyle>
@@ -47,18 +47,14 @@ TodayTab::TodayTab(OpenLogbook &logbook, QWidget *parent)
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(m_list, &QListWidget::itemClicked, this, &TodayTab::choose);
     connect(m_list, &QListWidget::itemActivated, this, &TodayTab::choose); // by keyboard
-    m_nextDay.setSingleShot(true);
-    connect(&m_nextDay, &QTimer::timeout, this, &TodayTab::refresh);
 }
 
 void TodayTab::refresh()
 {
-    const QDateTime now = QDateTime::currentDateTime();
-    m_nextDay.start(static_cast<int>(now.msecsTo(now.date().addDays(1).startOfDay())) + 1000);
     const std::shared_ptr<const Catalogue> catalogue = m_logbook.catalogue();
     if (!catalogue)
         return;
-    const QList<Advice> advice = adviceFor(*catalogue, now.date(), chosenLimits());
+    const QList<Advice> advice = adviceFor(*catalogue, QDate::currentDate(), chosenLimits());
     m_heading->setText(headingFor(*catalogue, advice));
     m_list->setVisible(!advice.isEmpty());
     m_list->clear();

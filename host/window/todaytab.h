@@ -3,8 +3,6 @@
 
 #include "host/window/paneltab.h"
 
-#include <QTimer>
-
 class QLabel;
 class QListWidget;
 class QListWidgetItem;
@@ -36,7 +34,6 @@ private:
     OpenLogbook &m_logbook;
     QLabel *m_heading;
     QListWidget *m_list;
-    QTimer m_nextDay;
 };
 
 } // namespace Host

@@ -3,7 +3,7 @@
 #include "host/window/manualwindow.h"
 #include "host/window/renamedialog.h"
 #include "host/window/sidepanel.h"
-#include "tests/host/support/hostwindow.h"
+#include "tests/host/support/panel.h"
 
 #include <QAction>
 #include <QImage>
@@ -49,6 +49,8 @@ private Q_SLOTS:
     void theManualOpensOnce();
     void theManualHasItsPictures();
     void aboutNamesTheVersionAndTheFolder();
+    void windowAndAboutHaveTheIcon();
+    void aRenamedModelStaysTheChosenOne_data();
     void aRenamedModelStaysTheChosenOne();
     void quitClosesTheWindow();
 
@@ -274,15 +276,38 @@ void MainMenusTest::aboutNamesTheVersionAndTheFolder()
 {
     QCoreApplication::setApplicationVersion(u"7.8.9"_s);
     HostWindow window;
+    window.questions.answer(u"Close"_s);
     action(window, u"About"_s)->trigger();
-    QCOMPARE(window.questions.told().size(), 1);
-    QVERIFY(window.questions.told().constFirst().contains(u"7.8.9"_s));
-    QVERIFY(window.questions.told().constFirst().contains(window.path()));
+    QVERIFY(window.questions.isDone());
+    const Question &about = window.questions.asked().constFirst();
+    QVERIFY(about.text.contains(u"7.8.9"_s));
+    QVERIFY(about.details.contains(window.path()));
+}
+
+void MainMenusTest::windowAndAboutHaveTheIcon()
+{
+    HostWindow window;
+    window.questions.answer(u"Close"_s);
+    action(window, u"About"_s)->trigger();
+    for (const QIcon &icon : {window.window().windowIcon(), QApplication::windowIcon(),
+                              window.questions.asked().constFirst().picture}) {
+        const QImage picture = icon.pixmap(128, 128).toImage();
+        QCOMPARE(picture.pixelColor(40, 100), QColor(0x39, 0xb5, 0x4a)); // the charge of the battery
+    }
+}
+
+void MainMenusTest::aRenamedModelStaysTheChosenOne_data()
+{
+    QTest::addColumn<bool>("inTab");
+    QTest::newRow("from the menu") << false;
+    QTest::newRow("from the tab of the flights") << true;
 }
 
 void MainMenusTest::aRenamedModelStaysTheChosenOne()
 {
+    QFETCH(bool, inTab);
     HostWindow window;
+    const QWidget &flights = Panel::open(window, SidePanel::Flights);
     window.chooseModel(u"Skylark"_s);
     QTimer::singleShot(0, &window.window(), [&] {
         auto *dialog = window.window().findChild<RenameDialog *>();
@@ -292,7 +317,10 @@ void MainMenusTest::aRenamedModelStaysTheChosenOne()
         dialog->findChild<QLineEdit *>()->setText(u"Lark"_s);
         dialog->accept();
     });
-    action(window, u"Rename"_s)->trigger();
+    if (inTab)
+        LogbookWindow::click(Panel::button(flights, u"Rename…"_s));
+    else
+        action(window, u"Rename"_s)->trigger();
     QCOMPARE(window.ui().cb_select_model->currentText(), u"Lark"_s);
     window.clickCard(u"Pack A"_s);
     window.settle();

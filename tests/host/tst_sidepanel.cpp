@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The panel beside the logbook, its first tab, and what the user may change of it.
 #include "host/window/advicelimits.h"
+#include "host/window/batteriesmodel.h"
+#include "host/window/batteriestab.h"
 #include "host/window/preferencesdialog.h"
 #include "host/window/sidepanel.h"
+#include "host/window/statisticsmodel.h"
+#include "host/window/statisticstab.h"
 #include "host/window/todaytab.h"
 #include "tests/host/support/hostwindow.h"
 
@@ -25,6 +29,8 @@ private Q_SLOTS:
     void whatThereIsToDoIsListed();
     void theListFollowsTheLogbook();
     void aHiddenPanelReadsNothing();
+    void everyTabFollowsTheCalendar_data();
+    void everyTabFollowsTheCalendar();
     void aClickLeadsToTheBattery_data();
     void aClickLeadsToTheBattery();
     void anEmptyLogbookSaysWhatToDoFirst();
@@ -113,6 +119,39 @@ void SidePanelTest::aHiddenPanelReadsNothing()
     QVERIFY(!window.logbook().m_catalogue);
     tabs->show();
     QTRY_VERIFY(window.logbook().m_catalogue != nullptr);
+}
+
+void SidePanelTest::everyTabFollowsTheCalendar_data()
+{
+    QTest::addColumn<int>("tab");
+    QTest::newRow("Today") << int(SidePanel::Today);
+    QTest::newRow("Batteries") << int(SidePanel::Batteries);
+    QTest::newRow("Statistics") << int(SidePanel::Statistics);
+}
+
+void SidePanelTest::everyTabFollowsTheCalendar()
+{
+    QFETCH(int, tab);
+    Test::Battery battery{u"Pack A"_s, true};
+    battery.lastUse = QDateTime::currentDateTime().addDays(-6);
+    battery.history = {{battery.lastUse, 1000, 2000}};
+    HostWindow window(Test::document({{battery}, {}, {}}));
+    SidePanel &tabs = panel(window);
+    tabs.setCurrentIndex(tab);
+    tabs.refreshNow();
+    QTest::qWait(10);
+    const QAbstractItemModel &model = *tabs.currentWidget()->findChild<QAbstractItemView *>()->model();
+    QVERIFY(model.rowCount() > 0);
+    // What the tabs show is lost, so that only a refresh brings it back.
+    list(window).clear();
+    tabs.m_batteries->m_model->setFigures({}, {});
+    tabs.m_statistics->m_model->setGroups({}, Grouping::Month);
+    tabs.m_clock.start(1);
+    QTest::qWait(20);
+    QCOMPARE(model.rowCount(), 0); // it is still the same day
+    tabs.m_day = tabs.m_day.addDays(-1);
+    QTRY_VERIFY(model.rowCount() > 0);
+    QCOMPARE(tabs.m_day, QDate::currentDate());
 }
 
 void SidePanelTest::aClickLeadsToTheBattery_data()

@@ -11,6 +11,7 @@
 #include <QBarSet>
 #include <QChart>
 #include <QDateEdit>
+#include <QGraphicsTextItem>
 #include <QTableView>
 
 using namespace Qt::Literals::StringLiterals;
@@ -35,6 +36,7 @@ private Q_SLOTS:
     void choicesAndOrderSurviveAChange();
     void monthsWithoutAFlightHaveAPlace();
     void onlyTheNewestMonthsFit();
+    void monthsAreReadInANarrowPanel();
     void onlyTheHighestBarsFit();
     void namesakesHaveBarsOfTheirOwn();
     void coloursFollowTheWindow();
@@ -233,6 +235,29 @@ void StatisticsTabTest::onlyTheNewestMonthsFit()
     QCOMPARE(plot.groups.constFirst().name, u"2024-12"_s);
     QCOMPARE(plot.groups.constLast().name, u"2026-11"_s);
     QCOMPARE(Host::statisticsChartName(plot), u"Flights by month, the newest 24 months"_s);
+}
+
+void StatisticsTabTest::monthsAreReadInANarrowPanel()
+{
+    Test::Catalogue catalogue = Flown::catalogue();
+    for (int month = 1; month <= 12; ++month)
+        for (int year : {2024, 2025})
+            catalogue.models[0].flights.append(Flown::flight(Flown::noon(year, month, 1), u"Meadow"_s, 5));
+    HostWindow window(Test::document(catalogue));
+    const QWidget &tab = Panel::open(window, SidePanel::Statistics);
+    window.window().resize(900, 620);
+    QCoreApplication::processEvents();
+    QStringList shown;
+    const auto items = tab.findChild<Host::PlotView *>()->scene()->items();
+    for (const QGraphicsItem *item : items) {
+        if (const auto *text = qgraphicsitem_cast<const QGraphicsTextItem *>(item))
+            shown.append(text->toPlainText());
+    }
+    auto *axis = qobject_cast<QBarCategoryAxis *>(chart(tab).axes(Qt::Horizontal).constFirst());
+    const QStringList months = axis->categories();
+    QCOMPARE(months.size(), 24);
+    for (const QString &month : months)
+        QVERIFY2(shown.contains(month), qPrintable(month + u" in "_s + shown.join(u' ')));
 }
 
 void StatisticsTabTest::onlyTheHighestBarsFit()

@@ -28,6 +28,7 @@ struct CommandOption
     QStringList choices = {}; ///< all values that there are; empty where there is no such list
     bool isRequired = false;
     bool isRepeatable = false;
+    QString letter = {}; ///< a second name, of one letter
 };
 
 struct CommandArgument
@@ -52,6 +53,13 @@ struct Command
     /** What is wrong with options that are each right, in a whole sentence; empty when nothing is. */
     QString (*contradiction)(const Invocation &invocation) = nullptr;
 };
+
+/** The options of the program itself. Those that commands have, too, are marked. */
+struct ProgramOption : CommandOption
+{
+    bool isForCommands = false;
+};
+QList<ProgramOption> programOptions();
 
 /**
  * Every command there is, in the order of its help. Parser, help, manual page and completion are all made

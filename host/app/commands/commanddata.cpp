@@ -26,32 +26,9 @@ QString tr(const char *text)
     return QCoreApplication::translate("CommandData", text);
 }
 
-/** Why there is no folder to read from, a sentence; empty when there is one, or when there need not be. */
-QString folderProblem(const Invocation &invocation)
-{
-    const QFileInfo folder(invocation.folder.path());
-    if (folder.exists() && !folder.isDir())
-        return tr(QT_TRANSLATE_NOOP("CommandData", "“%1” is not a folder.")).arg(folder.filePath());
-    if (!folder.exists() && (invocation.isDataGiven || folder.isSymLink()))
-        return tr(QT_TRANSLATE_NOOP("CommandData", "There is no folder “%1”.")).arg(folder.filePath());
-    return QString();
-}
-
 bool mayBecomeWhole(const FileState &state)
 {
     return state.kind == FileState::Damaged || state.kind == FileState::Missing;
-}
-
-FileState settledState(const StorageFolder &folder)
-{
-    QElapsedTimer clock;
-    clock.start();
-    FileState state = Recovery::examine(folder);
-    while (mayBecomeWhole(state) && clock.elapsed() < LongestSave) {
-        QThread::msleep(Pause);
-        state = Recovery::examine(folder);
-    }
-    return state;
 }
 
 std::optional<Catalogue> complain(const Invocation &invocation, const QString &problem)
@@ -72,6 +49,28 @@ Catalogue withMeasured(const StorageFolder &folder, Catalogue catalogue)
 
 } // namespace
 
+QString CommandData::folderProblem(const Invocation &invocation)
+{
+    const QFileInfo folder(invocation.folder.path());
+    if (folder.exists() && !folder.isDir())
+        return tr(QT_TRANSLATE_NOOP("CommandData", "“%1” is not a folder.")).arg(folder.filePath());
+    if (!folder.exists() && (invocation.isDataGiven || folder.isSymLink()))
+        return tr(QT_TRANSLATE_NOOP("CommandData", "There is no folder “%1”.")).arg(folder.filePath());
+    return QString();
+}
+
+FileState CommandData::settled(const std::function<FileState()> &look)
+{
+    QElapsedTimer clock;
+    clock.start();
+    FileState state = look();
+    while (mayBecomeWhole(state) && clock.elapsed() < LongestSave) {
+        QThread::msleep(Pause);
+        state = look();
+    }
+    return state;
+}
+
 std::optional<Catalogue> CommandData::read(const Invocation &invocation)
 {
     const QString problem = folderProblem(invocation);
@@ -79,7 +78,7 @@ std::optional<Catalogue> CommandData::read(const Invocation &invocation)
         Console::complain(problem);
         return std::nullopt;
     }
-    FileState state = settledState(invocation.folder);
+    FileState state = settled([&invocation] { return Recovery::examine(invocation.folder); });
     if (state.kind == FileState::New && !invocation.isDemo)
         return Catalogue();
     if (state.kind == FileState::New)

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "host/data/catalogue.h"
+#include "host/safety/recovery.h"
 
+#include <functional>
 #include <optional>
 
 namespace Host {
@@ -21,6 +23,12 @@ namespace CommandData {
  * @return nothing when it could not be read, which was then said.
  */
 std::optional<Catalogue> read(const Invocation &invocation);
+
+/** Why there is no folder to read from, a sentence; empty when there is one, or when there need not be. */
+QString folderProblem(const Invocation &invocation);
+
+/** The state of a file: one that is not whole, or missing, is looked at again for up to two seconds. */
+FileState settled(const std::function<FileState()> &look);
 
 } // namespace CommandData
 } // namespace Host

@@ -157,8 +157,10 @@ int Run::import(const Invocation &invocation)
 {
     if (invocation.has(u"dry-run"_s))
         return run(invocation, nullptr);
-    if (invocation.isDataGiven && !QFileInfo::exists(invocation.folder.path()))
-        return CommandData::read(invocation) ? EXIT_SUCCESS : EXIT_FAILURE; // says so; the lock would make it
+    if (const QString problem = CommandData::folderProblem(invocation); !problem.isEmpty()) {
+        Console::complain(problem); // the lock would make the folder
+        return EXIT_FAILURE;
+    }
     UnattendedQuestions nobody;
     Opening opening(invocation.folder, nobody);
     if (const Opening::Status ended = opening.takeFolder(invocation.isDemo ? Demo::Make : Demo::None, false))

@@ -2,6 +2,7 @@
 #include "host/app/commands/commanddata.h"
 #include "host/app/commands/invocation.h"
 #include "host/app/commands/runs.h"
+#include "host/app/commands/shown.h"
 #include "host/app/commands/texttable.h"
 #include "host/app/console.h"
 #include "host/data/flightindex.h"
@@ -9,7 +10,6 @@
 #include "host/exchange/cataloguejson.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 
 #include <cstdlib>
 
@@ -27,27 +27,7 @@ constexpr int SecondsOfAMinute = 60;
 constexpr double Tenths = 10.0;
 constexpr double Hundredths = 100.0;
 
-QString shown(const QDateTime &time)
-{
-    return time.toString(u"yyyy-MM-dd HH:mm:ss");
-}
-
-QString shown(QDate date)
-{
-    return date.toString(u"yyyy-MM-dd");
-}
-
-QString shown(double number)
-{
-    return QLocale().toString(number, 'f', QLocale::FloatingPointShortest);
-}
-
-QString shown(unsigned int number)
-{
-    return QLocale().toString(number);
-}
-
-QString shownDuration(const Flight &flight)
+QString durationOf(const Flight &flight)
 {
     const int seconds = flight.seconds();
     return !flight.duration.isValid() ? QString()
@@ -55,7 +35,7 @@ QString shownDuration(const Flight &flight)
                                             .arg(seconds % SecondsOfAMinute, 2, 10, QChar(u'0'));
 }
 
-QString shown(Source source)
+QString nameOf(Source source)
 {
     switch (source) {
     case Source::None:
@@ -81,9 +61,10 @@ TextTable batteries(const Catalogue &catalogue)
                      {Text::tr("Charged")},
                      {Text::tr("Last use")}});
     for (const Battery &battery : catalogue.batteries)
-        table.addRow({battery.name, shown(battery.capacity), shown(battery.rating),
-                      shown(battery.chargeRate / Tenths), shown(battery.purchase), shown(battery.cycles),
-                      battery.charged ? Text::tr("yes") : Text::tr("no"), shown(battery.lastUse)});
+        table.addRow({battery.name, Shown::count(battery.capacity), Shown::count(battery.rating),
+                      Shown::number(battery.chargeRate / Tenths), Shown::date(battery.purchase),
+                      Shown::count(battery.cycles), battery.charged ? Text::tr("yes") : Text::tr("no"),
+                      Shown::time(battery.lastUse)});
     return table;
 }
 
@@ -96,8 +77,9 @@ TextTable discharges(const Catalogue &catalogue)
                      {Text::tr("Source")}});
     for (const Battery &battery : catalogue.batteries) {
         for (const Discharge &discharge : battery.discharges)
-            table.addRow({battery.name, shown(discharge.time), shown(discharge.discharged),
-                          shown(discharge.current / Hundredths), shown(sourceOf(battery, discharge))});
+            table.addRow({battery.name, Shown::time(discharge.time), Shown::count(discharge.discharged),
+                          Shown::number(discharge.current / Hundredths),
+                          nameOf(sourceOf(battery, discharge))});
     }
     return table;
 }
@@ -114,9 +96,9 @@ TextTable models(const Catalogue &catalogue)
                      {Text::tr("Batteries")},
                      {Text::tr("Notes")}});
     for (const Model &model : catalogue.models)
-        table.addRow({model.name, model.type, shown(model.weight), shown(model.size), shown(model.purchase),
-                      shown(model.flights), shown(model.lastUpdate), model.batteries.join(u"; "_s),
-                      model.notes});
+        table.addRow({model.name, model.type, Shown::count(model.weight), Shown::count(model.size),
+                      Shown::date(model.purchase), Shown::count(model.flights), Shown::time(model.lastUpdate),
+                      model.batteries.join(u"; "_s), model.notes});
     return table;
 }
 
@@ -136,8 +118,8 @@ TextTable flights(const Catalogue &catalogue)
             const QList<const Battery *> flown = index.batteriesAt(flight.time);
             for (const Battery *battery : flown)
                 names.append(battery->name);
-            table.addRow({model.name, shown(flight.time), shownDuration(flight), flight.location,
-                          QLocale().toString(flight.temperature), names.join(u"; "_s), flight.notes});
+            table.addRow({model.name, Shown::time(flight.time), durationOf(flight), flight.location,
+                          Shown::count(flight.temperature), names.join(u"; "_s), flight.notes});
         }
     }
     return table;

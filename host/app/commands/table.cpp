@@ -161,7 +161,7 @@ Command report()
              onlyModels(),
              {u"paper"_s,
               u"PAPER"_s,
-              Text::tr("A4 or Letter; by default the paper of your country."),
+              Text::tr("A4, which is the default, or Letter."),
               ValueKind::Text,
               {u"A4"_s, u"Letter"_s}},
              force()},

@@ -83,6 +83,16 @@ QString TextTable::line(const QStringList &cells) const
     return text + u'\n';
 }
 
+QByteArray TextTable::bytes() const
+{
+    QByteArray all;
+    write([&](const QByteArray &piece) {
+        all += piece;
+        return true;
+    });
+    return all;
+}
+
 void TextTable::write(const std::function<bool(const QByteArray &)> &sink) const
 {
     QByteArray piece;

@@ -28,6 +28,8 @@ public:
     void addRow(const QStringList &cells);
     /** @param sink gets it in UTF-8, piece by piece, and returns false when it wants no more. */
     void write(const std::function<bool(const QByteArray &)> &sink) const;
+    /** All of it, in UTF-8. */
+    QByteArray bytes() const;
 
 private:
     QString line(const QStringList &cells) const;

@@ -92,17 +92,41 @@ QString rangeProblem(const Invocation &invocation)
                : QString();
 }
 
+QString wordWithDashes(const CommandOption &option)
+{
+    return u"--"_s + option.name + (option.value.isEmpty() ? QString() : u' ' + option.value);
+}
+
 using Rows = QList<std::pair<QString, QString>>;
+
+/** Breaks a text into lines that fit into a terminal; all but the first begin with so many blanks. */
+QString wrapped(const QString &text, qsizetype indent)
+{
+    constexpr qsizetype LineLength = 79;
+    const QString lineBreak = u'\n' + QString(indent, u' ');
+    QString result;
+    qsizetype column = indent;
+    const QStringList words = text.split(u' ');
+    for (const QString &word : words) {
+        const bool fits = column + 1 + word.size() <= LineLength;
+        if (!result.isEmpty())
+            result += fits ? QString(u' ') : lineBreak;
+        column = (fits ? column + 1 : indent) + word.size();
+        result += word;
+    }
+    return result;
+}
 
 /** Two columns, as in the help of the program. */
 QString table(const QString &title, const Rows &rows)
 {
+    constexpr qsizetype Widest = 24;
     qsizetype width = 0;
     for (const auto &[left, right] : rows)
-        width = qMax(width, left.size());
+        width = qMax(width, qMin(left.size(), Widest));
     QString text = u'\n' + title + u'\n';
     for (const auto &[left, right] : rows)
-        text += u"  "_s + left.leftJustified(width) + u"  "_s + right + u'\n';
+        text += u"  "_s + left.leftJustified(width) + u"  "_s + wrapped(right, width + 4) + u'\n';
     return rows.isEmpty() ? QString() : text;
 }
 
@@ -138,19 +162,22 @@ QString Usage::syntax(const Command &command)
 
 QString Usage::help(const Command &command)
 {
+    constexpr qsizetype Indent = 7; // behind "Usage: "
     Rows arguments;
     for (const CommandArgument &argument : command.arguments)
         arguments.append({wordFor(argument), argument.description});
     Rows options;
     for (const CommandOption &option : command.options)
-        options.append({u"--"_s + option.name + (option.value.isEmpty() ? QString() : u' ' + option.value),
-                        option.description});
-    const Rows common{{u"--data DIR"_s, Text::tr("The logbook in DIR.")},
-                      {u"--demo"_s, Text::tr("The sample logbook.")},
-                      {u"--help"_s, Text::tr("Show this help.")}};
-    return Text::tr("Usage: voltbok [--data DIR | --demo] %1").arg(syntax(command)) + u'\n' +
+        options.append({wordWithDashes(option), option.description});
+    Rows common;
+    const QList<ProgramOption> all = programOptions();
+    for (const ProgramOption &option : all) {
+        if (option.isForCommands)
+            common.append({wordWithDashes(option), option.description});
+    }
+    return wrapped(Text::tr("Usage: voltbok [--data DIR | --demo] %1").arg(syntax(command)), Indent) + u'\n' +
            command.summary + u'\n' +
-           (command.description.isEmpty() ? QString() : u'\n' + command.description + u'\n') +
+           (command.description.isEmpty() ? QString() : u'\n' + wrapped(command.description, 0) + u'\n') +
            table(Text::tr("Arguments:"), arguments) + table(Text::tr("Options:"), options) +
            table(Text::tr("Options of every command:"), common);
 }

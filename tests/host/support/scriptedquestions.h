@@ -86,7 +86,44 @@ public:
         paint(printer);
     }
 
+    std::unique_ptr<Host::Progress> progress(const QString &text, int steps) override
+    {
+        m_works.append(text);
+        return std::make_unique<Watched>(*this, steps);
+    }
+    /** The next work is cancelled when it has done so many steps. */
+    void cancelAfter(int steps) { m_cancelAfter = steps; }
+    /** At each step of a work this happens, as other events would. */
+    void atEachStep(const std::function<void()> &happens) { m_atEachStep = happens; }
+    /** What progress was shown of. */
+    const QStringList &works() const { return m_works; }
+
 private:
+    class Watched final : public Host::Progress
+    {
+    public:
+        Watched(ScriptedQuestions &questions, int steps)
+            : m_questions(questions)
+            , m_steps(steps)
+        {
+        }
+        bool step() override
+        {
+            if (++m_done > m_steps)
+                fail("more steps than were announced");
+            if (m_questions.m_atEachStep)
+                m_questions.m_atEachStep();
+            return m_isCommitted || m_done != m_questions.m_cancelAfter;
+        }
+        void commit() override { m_isCommitted = true; }
+
+    private:
+        ScriptedQuestions &m_questions;
+        const int m_steps;
+        int m_done = 0;
+        bool m_isCommitted = false;
+    };
+
     struct Scripted
     {
         QString caption;
@@ -120,4 +157,7 @@ private:
     QList<Host::Question> m_asked;
     QList<QStringList> m_tables;
     QStringList m_told;
+    QStringList m_works;
+    std::function<void()> m_atEachStep;
+    int m_cancelAfter = 0;
 };

@@ -15,8 +15,9 @@ public:
     explicit Xvfb(const QString &screen = u"800x600x24"_s)
     {
         m_server.setStandardErrorFile(QProcess::nullDevice());
-        m_server.start(u"Xvfb"_s,
-                       {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, screen, u"-nolisten"_s, u"tcp"_s});
+        // Without -noreset it begins anew when its last client leaves, and drops who is just coming.
+        m_server.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, screen, u"-nolisten"_s,
+                                   u"tcp"_s, u"-noreset"_s});
         QByteArray number;
         while (!number.endsWith('\n') && m_server.waitForReadyRead(20000))
             number += m_server.readAllStandardOutput();
