@@ -95,10 +95,11 @@ std::optional<double> packResistance(const std::vector<PackSample> &samples)
     const std::unique_ptr<gsl_multifit_robust_workspace, Free> workspace(
         gsl_multifit_robust_alloc(gsl_multifit_robust_bisquare, samples.size(), Parameters));
     fillEquations(samples, terms.get(), volts.get());
-    if (gsl_multifit_robust(terms.get(), volts.get(), fitted.get(), covariance.get(), workspace.get()) !=
-        GSL_SUCCESS)
+    const int status =
+        gsl_multifit_robust(terms.get(), volts.get(), fitted.get(), covariance.get(), workspace.get());
+    if (status != GSL_SUCCESS && status != GSL_EMAXITER) // some fits never settle to the last digit
         return std::nullopt;
-    const double residual = gsl_multifit_robust_statistics(workspace.get()).sigma;
+    const double residual = gsl_multifit_robust_statistics(workspace.get()).sigma_rob; // wrong samples aside
     const double ohm = gsl_vector_get(fitted.get(), Parameters - 1);
     if (!(residual <= LargestResidual) || !(ohm > 0)) // not a number is none of both
         return std::nullopt;

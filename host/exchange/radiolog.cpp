@@ -8,11 +8,11 @@
 #include "host/exchange/radiologsession.h"
 
 #include <QCoreApplication>
-#include <QCryptographicHash>
 #include <QHash>
 #include <QIODevice>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,6 +41,7 @@ private:
     qint64 firstUnknownByte();
     void readRows();
     void readRow(const LogLines &lines);
+    void read(LogColumns::Kind kind, const LogLines &lines, std::optional<double> &value) const;
     bool isSilent(const LogSample &sample, QByteArrayView line);
     void endSession();
     void judge();
@@ -202,13 +203,9 @@ void Reader::readRow(const LogLines &lines)
         return;
     }
     sample.time = *time;
-    const std::array values{&sample.consumed, &sample.current, &sample.volts};
-    for (size_t i = 0; i < values.size(); ++i) {
-        const LogColumn *column = m_chosen.at(i);
-        if (column &&
-            (lines.isWhole() || column->parts.back() + 1 < m_header.count())) // a number may be cut, too
-            *values.at(i) = column->value(m_fields);
-    }
+    read(LogColumns::Consumed, lines, sample.consumed);
+    read(LogColumns::Current, lines, sample.current);
+    read(LogColumns::Volts, lines, sample.volts);
     sample.isSilent = isSilent(sample, line);
     if (m_builder.isEmpty() || !m_builder.belongs(sample.time)) {
         Session session;
@@ -224,6 +221,16 @@ void Reader::readRow(const LogLines &lines)
     ++m_log.rows;
 }
 
+void Reader::read(LogColumns::Kind kind, const LogLines &lines, std::optional<double> &value) const
+{
+    const LogColumn *column = m_chosen.at(kind);
+    if (!column ||
+        (!lines.isWhole() && column->parts.back() + 1 == m_header.count())) // a number may be cut, too
+        return;
+    if (const double number = column->value(m_fields); !std::isnan(number))
+        value = number;
+}
+
 /** Whether everything is 0: what newer radios write when the telemetry is lost. */
 bool Reader::isSilent(const LogSample &sample, QByteArrayView line)
 {
@@ -232,8 +239,10 @@ bool Reader::isSilent(const LogSample &sample, QByteArrayView line)
     if (sample.current && sample.volts)
         return true;
     m_fields.split(line, m_header.count());
-    return std::all_of(m_sensors.cbegin(), m_sensors.cend(),
-                       [this](qsizetype sensor) { return logNumber(m_fields.at(sensor)).value_or(0) == 0; });
+    return std::all_of(m_sensors.cbegin(), m_sensors.cend(), [this](qsizetype sensor) {
+        const double value = logNumber(m_fields.at(sensor));
+        return std::isnan(value) || value == 0;
+    });
 }
 
 void Reader::endSession()
@@ -273,25 +282,6 @@ void Reader::refuse(LogStatus status, const QString &reason)
 RadioLog readRadioLog(QIODevice &device, const QString &fileName, const ReadOptions &options)
 {
     return Reader(device, fileName, options).read();
-}
-
-QString fingerprint(QIODevice &device, qint64 bytes)
-{
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    QByteArray buffer(256 * 1024, Qt::Uninitialized);
-    if (!device.seek(0))
-        return QString();
-    qint64 left = std::min(bytes, device.size());
-    if (left < bytes && bytes != std::numeric_limits<qint64>::max())
-        return QString();
-    while (left > 0) {
-        const qint64 count = device.read(buffer.data(), std::min(left, qint64(buffer.size())));
-        if (count <= 0)
-            return QString();
-        hash.addData(QByteArrayView(buffer.constData(), count));
-        left -= count;
-    }
-    return QString::fromLatin1(hash.result().toHex());
 }
 
 } // namespace Host

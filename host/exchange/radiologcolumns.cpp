@@ -2,6 +2,7 @@
 #include "host/exchange/radiologcolumns.h"
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -71,15 +72,11 @@ bool isVoltage(double volt)
     return volt >= 0 && volt <= 80;
 }
 
-std::optional<double> LogColumn::value(const LogFields &fields) const
+double LogColumn::value(const LogFields &fields) const
 {
     double sum = 0;
-    for (const qsizetype part : parts) {
-        const std::optional<double> number = logNumber(fields.at(part));
-        if (!number)
-            return std::nullopt;
-        sum += *number;
-    }
+    for (const qsizetype part : parts)
+        sum += logNumber(fields.at(part));
     return sum * scale;
 }
 
@@ -159,23 +156,25 @@ void LogColumns::watch(const LogFields &fields)
         for (LogColumn &column : m_candidates.at(kind)) {
             if (column.saysSomething && !(column.isLastResort && kind == Consumed))
                 continue;
-            const std::optional<double> value = column.value(fields);
-            if (!value)
+            const double value = column.value(fields);
+            if (std::isnan(value))
                 continue;
-            column.saysSomething = column.saysSomething || Host::saysSomething(kind, column, *value);
-            column.hasFallen = column.hasFallen || (*value != 0 && *value < column.last);
-            column.last = *value;
+            column.saysSomething = column.saysSomething || Host::saysSomething(kind, column, value);
+            column.hasFallen = column.hasFallen || (value != 0 && value < column.last);
+            column.last = value;
         }
     }
 }
 
 bool LogColumns::isSettled() const
 {
-    return std::all_of(
-        m_candidates.begin(), m_candidates.end(), [](const std::vector<LogColumn> &candidates) {
-            return candidates.empty() || (candidates.front().saysSomething &&
-                                          (!candidates.front().isLastResort || candidates.size() == 1));
-        });
+    const auto isKnown = [this](Kind kind) {
+        const std::vector<LogColumn> &candidates = m_candidates.at(kind);
+        // A counter of any name may still fall.
+        return candidates.empty() ||
+               (candidates.front().saysSomething && !(kind == Consumed && candidates.front().isLastResort));
+    };
+    return isKnown(Consumed) && isKnown(Current) && isKnown(Volts);
 }
 
 qsizetype LogColumns::wanted() const

@@ -22,7 +22,7 @@ struct LogColumn
     bool hasFallen = false; ///< other than to 0
     double last = 0;
 
-    std::optional<double> value(const LogFields &fields) const;
+    double value(const LogFields &fields) const; ///< not a number where there is none
 };
 
 /** Currents and volts that no battery has come from broken frames of telemetry. */

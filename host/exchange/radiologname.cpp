@@ -2,7 +2,11 @@
 #include "host/data/moments.h"
 #include "host/exchange/radiolog.h"
 
+#include <QCryptographicHash>
+#include <QIODevice>
 #include <QRegularExpression>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -64,6 +68,25 @@ QString statusKey(LogStatus status)
         break;
     }
     return u"refused"_s;
+}
+
+QString fingerprint(QIODevice &device, qint64 bytes)
+{
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    QByteArray buffer(256 * 1024, Qt::Uninitialized);
+    if (!device.seek(0))
+        return QString();
+    qint64 left = std::min(bytes, device.size());
+    if (left < bytes && bytes != std::numeric_limits<qint64>::max())
+        return QString();
+    while (left > 0) {
+        const qint64 count = device.read(buffer.data(), std::min(left, qint64(buffer.size())));
+        if (count <= 0)
+            return QString();
+        hash.addData(QByteArrayView(buffer.constData(), count));
+        left -= count;
+    }
+    return QString::fromLatin1(hash.result().toHex());
 }
 
 } // namespace Host

@@ -124,13 +124,15 @@ void SessionBuilder::addVolts(double volts, std::optional<double> current)
 /** Of a long session every second row is kept, then every fourth, and so on. */
 void SessionBuilder::addFitSample(const FitSample &sample)
 {
-    if (m_fitRows++ % m_fitStep != 0)
+    if (--m_rowsToNextFit > 0)
         return;
+    m_rowsToNextFit = m_fitStep;
     if (m_fitSamples.size() == MostFitSamples) {
         for (size_t i = 0; i < MostFitSamples / 2; ++i)
             m_fitSamples[i] = m_fitSamples[2 * i];
         m_fitSamples.resize(MostFitSamples / 2);
         m_fitStep *= 2;
+        m_rowsToNextFit = m_fitStep;
     }
     m_fitSamples.push_back(sample);
 }

@@ -72,8 +72,8 @@ private:
     std::vector<Rest> m_firstRests;
     std::deque<Rest> m_lastRests;
     std::vector<FitSample> m_fitSamples;
-    qint64 m_fitRows = 0;
     qint64 m_fitStep = 1;
+    qint64 m_rowsToNextFit = 1;
 };
 
 } // namespace Host
