@@ -58,31 +58,28 @@ MeasuredStore::Stored MeasuredStore::load(const StorageFolder &folder)
 
 QString MeasuredStore::save(const StorageFolder &folder, const Measured &measured)
 {
+    return put(folder, measured.isEmpty() && load(folder).bytes.isEmpty() ? QByteArray()
+                                                                          : MeasuredFile::save(measured));
+}
+
+QString MeasuredStore::put(const StorageFolder &folder, const QByteArray &bytes)
+{
     const Stored before = load(folder);
+    if (before.reason.isEmpty() && bytes == before.bytes)
+        return QString();
     if (!before.mayWrite)
         return before.reason;
-    const QByteArray bytes = MeasuredFile::save(measured);
-    if (bytes == before.bytes || (measured.isEmpty() && before.bytes.isEmpty()))
-        return QString();
-    if (!before.problem.isEmpty()) {
+    if (!before.reason.isEmpty()) {
         const QString aside = folder.asideOfMeasured(QDateTime::currentDateTimeUtc());
         const QString problem =
             WholeFile::write(aside, before.bytes, WholeFile::permissionsOf(folder.measuredFile()));
         if (!problem.isEmpty())
             return problem;
     }
-    return write(folder, bytes);
-}
-
-QString MeasuredStore::restore(const StorageFolder &folder, const QByteArray &bytes)
-{
-    const WholeFile::Reading present = WholeFile::read(folder.measuredFile());
-    if (present.problem.isEmpty() ? present.bytes == bytes : present.isMissing && bytes.isEmpty())
-        return QString();
     if (!bytes.isEmpty())
         return write(folder, bytes);
     QFile file(folder.measuredFileTarget());
-    return file.remove() ? QString() : WholeFile::clause(file.errorString());
+    return !file.exists() || file.remove() ? QString() : WholeFile::clause(file.errorString());
 }
 
 } // namespace Host

@@ -24,15 +24,15 @@ struct Stored
 Stored load(const StorageFolder &folder);
 
 /**
- * Writes the values in the place of what load() found there; a damaged file is put aside before. None are
- * no file, if there was none.
+ * Writes the values in the place of what load() found there. A damaged file is put aside before; one that a
+ * later version wrote is left as it is. Nothing to write is no file, if there was none.
  *
  * @return why it was not done, a clause; empty when it was.
  */
 QString save(const StorageFolder &folder, const Measured &measured);
 
-/** Puts bytes back that load() gave: none are no file. @return as above. */
-QString restore(const StorageFolder &folder, const QByteArray &bytes);
+/** The same with bytes that load() gave or MeasuredFile::save() makes; none are no file. */
+QString put(const StorageFolder &folder, const QByteArray &bytes);
 
 } // namespace MeasuredStore
 } // namespace Host
