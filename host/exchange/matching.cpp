@@ -124,7 +124,12 @@ QString actionKey(ImportAction action)
 QString modelOf(const QString &logged, const Catalogue &catalogue, const Measured &measured)
 {
     const QString chosen = measured.models.value(logged);
-    return indexOfName(catalogue.models, chosen) < 0 ? logged : chosen;
+    if (indexOfName(catalogue.models, chosen) >= 0)
+        return chosen;
+    const QString spaced = QString(logged).replace(u'_', u' '); // which radios write for a space
+    const bool isSpaced =
+        indexOfName(catalogue.models, logged) < 0 && indexOfName(catalogue.models, spaced) >= 0;
+    return isSpaced ? spaced : logged;
 }
 
 ImportPlan matched(const QList<ImportedLog> &logs, const Catalogue &catalogue, const Measured &measured,

@@ -50,12 +50,12 @@ private Q_SLOTS:
 void ImportingTest::aFlightThatWasClickedGetsWhatWasMeasured()
 {
     Book book;
-    book.import({log(u"Skylark"_s, {session(clock(14, 38))})});
+    book.import({log(u"Skylark"_s, {session(clock(14, 38), 380)})});
     QCOMPARE(book.problem, QString());
     Catalogue meant = Flown::logbook();
     meant.batteries[0].discharges = {{at(14, 38, 5), 1500, 3125}};
     meant.models[0].log[0].time = at(14, 38, 5);
-    meant.models[0].log[0].duration = QTime(0, 6, 30);
+    meant.models[0].log[0].duration = QTime(0, 6, 10);
     QVERIFY(book.catalogue == meant); // cycles, location, notes, last use and the rest as they were
     QCOMPARE(sourceAt(book, 0, 0), u"measured"_s);
     QCOMPARE(sourceAt(book, 1, 0), u"other"_s);

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void theFlightNearestToTheSpanIsFilled();
     void eachFlightIsFilledOnceAndTheNearestLogFirst();
     void onlyFlightsOfTheModelCount();
+    void aSpaceInAModelsNameIsAnUnderscoreInItsLogs();
     void aChosenModelIsRemembered();
     void whatWasEnteredStaysUnlessTheUserWantsItReplaced();
     void anEnteredFlightIsNotPassedOverForAGuessedOne();
@@ -98,6 +99,15 @@ void MatchingTest::onlyFlightsOfTheModelCount()
     QCOMPARE(book.action({log(u"Firebrand"_s, {session(clock(14, 38))})}), u"new"_s);
     QCOMPARE(book.action({log(u"Nobody's"_s, {session(clock(14, 38))})}), u"new"_s);
     QVERIFY(book.plan.discharges.first().reasons.contains(ImportReason::NoSuchModel));
+}
+
+void MatchingTest::aSpaceInAModelsNameIsAnUnderscoreInItsLogs()
+{
+    Book book;
+    book.catalogue.models[0].name = u"Sky Lark"_s;
+    QCOMPARE(book.action({log(u"Sky_Lark"_s, {session(clock(14, 38))})}), u"fill"_s);
+    book.catalogue.models[1].name = u"Sky_Lark"_s; // which is somebody else then
+    QCOMPARE(book.action({log(u"Sky_Lark"_s, {session(clock(14, 38))})}), u"new"_s);
 }
 
 void MatchingTest::aChosenModelIsRemembered()

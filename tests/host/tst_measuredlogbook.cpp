@@ -63,6 +63,12 @@ void MeasuredLogbookTest::anImportIsOneStepOfBothFiles()
     QCOMPARE(window.bytes(), before);
     QVERIFY(!QFileInfo::exists(window.path() + u"/voltbok-measured.json"_s));
     QVERIFY(window.logbook().measured().isEmpty());
+    window.clickCard(u"Pack B"_s);
+    window.settle();
+    QCOMPARE(window.logbook().undo(), QString());
+    QVERIFY(window.logbook().measured().isEmpty());
+    QCOMPARE(import(window.logbook()), QString());
+    QCOMPARE(window.logbook().undo(), QString());
     QCOMPARE(window.logbook().redo(), QString());
     QCOMPARE(window.bytes(), after);
     QCOMPARE(measured(window), known);
@@ -101,7 +107,7 @@ void MeasuredLogbookTest::whatTheWindowRenamesTakesTheEntriesAlong()
     const QByteArray known = measured(window);
     QString name = u"Pack Y"_s;
     window.battery(u"Pack A"_s)->setBatteryName(name); // as its form would
-    window.clickCard(u"Pack B"_s); // saves that, too
+    window.clickCard(u"Pack B"_s);                     // saves that, too
     window.settle();
     window.close(); // whether or not somebody has looked at the catalogue
     QVERIFY2(measured(window).contains("\"battery\": \"Pack Y\""), measured(window).constData());

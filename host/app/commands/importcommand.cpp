@@ -135,6 +135,9 @@ int run(const Invocation &invocation, Opening *opening)
         if (notDone.isEmpty()) {
             if (const Opening::Status ended = opening->prepareFile())
                 return *ended;
+            const Opened opened = opening->opened(); // and its lock
+            if (!opened.lossesMessage.isEmpty())
+                Console::complain(opened.lossesMessage);
             notDone = ImportWriting::write(invocation.folder, *catalogue, meant, known);
         }
         if (!notDone.isEmpty()) {
