@@ -39,6 +39,8 @@ void care(Report &report, const Plan &plan);
 void flights(Report &report, const Plan &plan);
 /** Figures and plots of a large logbook, against the window's own reload. */
 void figures(Report &report, const Plan &plan);
+/** CSV, JSON and workbooks against the least that writes the same; built where libxlsxwriter is. */
+void exports(Report &report, const Plan &plan);
 /** Reading the logs of a radio, against reading their lines. */
 void radioLogs(Report &report, const Plan &plan);
 

@@ -125,7 +125,7 @@ void CatalogueJson::battery(const Battery &battery)
     JsonBytes::date(m_buffer, battery.purchase);
     put(", \"cycles\": ");
     JsonBytes::number(m_buffer, battery.cycles);
-    put(battery.charged ? ", \"charged\": true, \"last_use\": " : ", \"charged\": false, \"last_use\": ");
+    put(battery.charged ? R"(, "charged": true, "last_use": )" : R"(, "charged": false, "last_use": )");
     JsonBytes::time(m_buffer, battery.lastUse);
     put(",\n\"discharges\": ");
     array(battery.discharges, [&](const Discharge &entry) {
@@ -143,7 +143,7 @@ void CatalogueJson::discharge(const Battery &battery, const Discharge &discharge
     JsonBytes::number(m_buffer, discharge.discharged);
     put(", \"max_current_A\": ");
     JsonBytes::share(m_buffer, discharge.current, HundredthsOfAmpere);
-    put(", \"source\": \"");
+    put(R"(, "source": ")");
     m_buffer += sourceKey(sourceOf(battery, discharge)).toLatin1();
     put("\"}");
 }

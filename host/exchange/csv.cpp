@@ -13,20 +13,11 @@ namespace {
 
 constexpr qsizetype ChunkSize = qsizetype(64) * 1024;
 constexpr qsizetype MostBytesOfACharacter = 3; // in UTF-8, of one unit of UTF-16
-constexpr qsizetype MostDigits = 20;
+constexpr qsizetype MostBytesOfAValue = 64;
 
 bool looksLikeFormula(const QString &text)
 {
     return !text.isEmpty() && QStringView(u"=+-@\t\r").contains(text.front());
-}
-
-/** The digits of a number, with zeros in front up to a width. */
-char *digits(char *out, qint64 number, qsizetype width)
-{
-    char buffer[MostDigits];
-    const char *end = std::to_chars(buffer, buffer + MostDigits, number).ptr;
-    out = std::fill_n(out, std::max<qsizetype>(width - (end - buffer), 0), '0');
-    return std::copy(static_cast<const char *>(buffer), end, out);
 }
 
 } // namespace
@@ -44,7 +35,11 @@ CsvStyle CsvStyle::forLocale(const QLocale &locale)
 CsvWriter::CsvWriter(CsvStyle style, std::function<ByteSink(const Table &)> sinkFor)
     : m_style(std::move(style))
     , m_sinkFor(std::move(sinkFor))
+    , m_bytes(2 * ChunkSize, '\0')
+    , m_end(m_bytes.data())
 {
+    for (const char special : {m_style.separator.front(), '"', '\r', '\n'})
+        m_isSpecial.at(static_cast<size_t>(special)) = true;
 }
 
 void CsvWriter::beginTable(const Table &table)
@@ -53,52 +48,88 @@ void CsvWriter::beginTable(const Table &table)
     m_isWritten = m_sink != nullptr;
     m_columns = table.columns.size();
     m_column = 0;
-    m_bytes = m_style.start;
-    m_bytes.reserve(2 * ChunkSize);
+    put(m_style.start);
     for (const Column &column : table.columns)
         addText(column.header);
     endRow();
 }
 
-/** Where the next cell's bytes go; there is room for so many. */
-char *CsvWriter::room(qsizetype bytes)
+/** Makes room. Nothing that writes behind m_end may write more than was made. */
+void CsvWriter::reserve(qsizetype bytes)
 {
-    const qsizetype size = m_bytes.size();
-    m_bytes.resize(size + bytes);
-    return m_bytes.data() + size;
+    const qsizetype used = m_end - m_bytes.constData();
+    if (used + bytes <= m_bytes.size())
+        return;
+    m_bytes.resize(2 * (used + bytes));
+    m_end = m_bytes.data() + used;
+}
+
+void CsvWriter::put(const QByteArray &bytes)
+{
+    reserve(bytes.size());
+    m_end = std::copy(bytes.cbegin(), bytes.cend(), m_end);
 }
 
 void CsvWriter::separate()
 {
     if (m_column++ > 0)
-        m_bytes.append(m_style.separator);
+        put(m_style.separator);
 }
 
 void CsvWriter::addText(const QString &text)
 {
+    constexpr char16_t FirstBeyondAscii = 0x80;
     separate();
-    const qsizetype start = m_bytes.size();
+    reserve(MostBytesOfACharacter * text.size() + 1);
+    const qsizetype start = m_end - m_bytes.constData();
     if (m_style.protectsFromFormulas && looksLikeFormula(text))
-        m_bytes.append('\'');
-    QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
-    const char *end = encoder.appendToBuffer(room(MostBytesOfACharacter * text.size()), text);
-    m_bytes.truncate(end - m_bytes.constData());
+        *m_end++ = '\'';
 
-    const char separator = m_style.separator.front();
-    const bool isSpecial = std::any_of(m_bytes.cbegin() + start, m_bytes.cend(), [separator](char character) {
-        return character == separator || character == '"' || character == '\n' || character == '\r';
-    });
-    const bool isEmptyLine = m_columns == 1 && text.isEmpty(); // many readers skip it
-    if (isSpecial || isEmptyLine)
+    const auto *next = text.utf16(); // most texts are nothing but ASCII
+    const auto *const end = next + text.size();
+    bool isSpecial = m_columns == 1 && text.isEmpty(); // many readers skip an empty line
+    for (; next != end && *next < FirstBeyondAscii; ++next) {
+        isSpecial |= m_isSpecial[*next];
+        *m_end++ = static_cast<char>(*next);
+    }
+    if (next != end) {
+        QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
+        m_end = encoder.appendToBuffer(m_end, QStringView(next, end));
+        isSpecial |= std::any_of(next, end, [this](char16_t character) {
+            return character < FirstBeyondAscii && m_isSpecial[character];
+        });
+    }
+    if (isSpecial)
         quoteFrom(start);
 }
 
+/** Quotes what stands there from an offset on, in its place and from its end. */
 void CsvWriter::quoteFrom(qsizetype start)
 {
-    QByteArray cell = m_bytes.sliced(start);
-    cell.replace('"', "\"\"");
-    m_bytes.truncate(start);
-    m_bytes.append('"').append(cell).append('"');
+    const auto quotes = std::count(m_bytes.constData() + start, static_cast<const char *>(m_end), '"');
+    reserve(quotes + 2);
+    char *const first = m_bytes.data() + start;
+    const char *from = m_end;
+    m_end += quotes + 2;
+    char *to = m_end;
+    *--to = '"';
+    while (from != first) {
+        *--to = *--from;
+        if (*from == '"')
+            *--to = '"';
+    }
+    *first = '"';
+}
+
+/** With zeros in front, up to a width. */
+void CsvWriter::putNumber(qint64 number, int width)
+{
+    reserve(MostBytesOfAValue);
+    for (qint64 least = 10; width > 1; --width, least *= 10) {
+        if (number < least)
+            m_end = std::fill_n(m_end, 1, '0');
+    }
+    m_end = std::to_chars(m_end, m_end + MostBytesOfAValue, number).ptr;
 }
 
 void CsvWriter::addNumber(qint64 number, int decimals)
@@ -107,37 +138,35 @@ void CsvWriter::addNumber(qint64 number, int decimals)
     qint64 unit = 1;
     for (int i = 0; i < decimals; ++i)
         unit *= 10;
-    qint64 fraction = qAbs(number) % unit;
-    char *end = digits(room(MostDigits), number / unit, 0);
-    m_bytes.truncate(end - m_bytes.constData());
+    putNumber(number / unit);
+    qint64 fraction = number % unit;
     if (fraction == 0)
         return;
-    while (fraction % 10 == 0) {
-        fraction /= 10;
+    for (; fraction % 10 == 0; fraction /= 10)
         --decimals;
-    }
-    m_bytes.append(m_style.decimalSign);
-    end = digits(room(MostDigits), fraction, decimals);
-    m_bytes.truncate(end - m_bytes.constData());
+    put(m_style.decimalSign);
+    putNumber(fraction, decimals);
 }
 
 /** As ISO 8601 has it; QDate's own way makes a text first. */
-void CsvWriter::appendDate(QDate date)
+void CsvWriter::putDate(QDate date)
 {
-    const QCalendar::YearMonthDay parts = QCalendar().partsFromDate(date);
-    char *end = digits(room(3 * MostDigits), parts.year, 4);
-    *end++ = '-';
-    end = digits(end, parts.month, 2);
-    *end++ = '-';
-    end = digits(end, parts.day, 2);
-    m_bytes.truncate(end - m_bytes.constData());
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    date.getDate(&year, &month, &day);
+    putNumber(year, 4);
+    *m_end++ = '-';
+    putNumber(month, 2);
+    *m_end++ = '-';
+    putNumber(day, 2);
 }
 
 void CsvWriter::addDate(QDate date)
 {
     separate();
     if (date.isValid())
-        appendDate(date);
+        putDate(date);
 }
 
 void CsvWriter::addTime(const QDateTime &time)
@@ -145,16 +174,14 @@ void CsvWriter::addTime(const QDateTime &time)
     separate();
     if (!time.isValid())
         return;
-    appendDate(time.date());
+    putDate(time.date());
     const int seconds = time.time().msecsSinceStartOfDay() / 1000;
-    char *end = room(3 * MostDigits);
-    *end++ = ' ';
-    end = digits(end, seconds / 3600, 2);
-    *end++ = ':';
-    end = digits(end, seconds / 60 % 60, 2);
-    *end++ = ':';
-    end = digits(end, seconds % 60, 2);
-    m_bytes.truncate(end - m_bytes.constData());
+    *m_end++ = ' ';
+    putNumber(seconds / 3600, 2);
+    *m_end++ = ':';
+    putNumber(seconds / 60 % 60, 2);
+    *m_end++ = ':';
+    putNumber(seconds % 60, 2);
 }
 
 void CsvWriter::addNothing()
@@ -164,9 +191,9 @@ void CsvWriter::addNothing()
 
 void CsvWriter::endRow()
 {
-    m_bytes.append("\r\n");
+    put("\r\n");
     m_column = 0;
-    if (m_bytes.size() >= ChunkSize)
+    if (m_end - m_bytes.constData() >= ChunkSize)
         flush();
 }
 
@@ -178,8 +205,9 @@ bool CsvWriter::endTable()
 
 void CsvWriter::flush()
 {
-    m_isWritten = m_isWritten && m_sink(m_bytes);
-    m_bytes.resize(0); // keeps its memory
+    const qsizetype size = m_end - m_bytes.constData();
+    m_isWritten = m_isWritten && m_sink(QByteArray::fromRawData(m_bytes.constData(), size));
+    m_end = m_bytes.data();
 }
 
 } // namespace Host

@@ -6,6 +6,7 @@
 
 #include <QByteArray>
 
+#include <array>
 #include <functional>
 
 class QLocale;
@@ -43,16 +44,20 @@ public:
     bool endTable() override;
 
 private:
-    char *room(qsizetype bytes);
     void separate();
+    void reserve(qsizetype bytes);
+    void put(const QByteArray &bytes);
     void quoteFrom(qsizetype start);
-    void appendDate(QDate date);
+    void putNumber(qint64 number, int width = 0);
+    void putDate(QDate date);
     void flush();
 
     const CsvStyle m_style;
     const std::function<ByteSink(const Table &)> m_sinkFor;
     ByteSink m_sink;
-    QByteArray m_bytes; ///< those that the sink has not got yet
+    std::array<bool, 128> m_isSpecial = {}; ///< characters that make a cell be quoted
+    QByteArray m_bytes;                     ///< room for those that the sink has not got yet
+    char *m_end;                            ///< of them
     qsizetype m_columns = 0;
     qsizetype m_column = 0;
     bool m_isWritten = true;

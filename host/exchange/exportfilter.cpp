@@ -24,8 +24,7 @@ QList<Record> named(const QList<Record> &records, const std::optional<QStringLis
 template <typename Entry>
 void limit(QList<Entry> &entries, const DateRange &range)
 {
-    if (range.isLimited())
-        entries.removeIf([&range](const Entry &entry) { return !range.contains(entry.time); });
+    entries.removeIf([&range](const Entry &entry) { return !range.contains(entry.time); });
 }
 
 template <typename Record>
@@ -45,6 +44,8 @@ Catalogue filtered(const Catalogue &whole, const ExportFilter &filter)
 {
     Catalogue part{whole.locations, named(whole.batteries, filter.batteries),
                    named(whole.models, filter.models)};
+    if (!filter.range.isLimited())
+        return part; // which shares everything with the whole
     for (Battery &battery : part.batteries)
         limit(battery.discharges, filter.range);
     for (Model &model : part.models)

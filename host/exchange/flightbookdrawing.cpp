@@ -29,10 +29,15 @@ struct Text
 /** Where a line of text begins, as one reads. */
 Qt::Alignment leading()
 {
-    return QGuiApplication::layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
+    return (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute;
 }
 
 } // namespace
+
+bool FlightBookLayout::isRightToLeft()
+{
+    return QGuiApplication::layoutDirection() == Qt::RightToLeft;
+}
 
 QFont FlightBookLayout::font(double points, QFont::Weight weight)
 {
@@ -52,7 +57,7 @@ void FlightBookLayout::prepare(QTextDocument &document, qreal width)
     document.setDocumentMargin(0);
     document.setDefaultFont(font(TextSize));
     document.setUseDesignMetrics(true);
-    document.setDefaultTextOption(QTextOption(leading() | Qt::AlignAbsolute)); // names of both directions
+    document.setDefaultTextOption(QTextOption(leading())); // whichever way a name is written
     document.setTextWidth(width);
 }
 
@@ -124,20 +129,18 @@ void FlightBookPages::drawSignature(QPainter &painter) const
     const qreal below = place.bottom() - painter.fontMetrics().height() * 1.5;
     const qreal gap = 10 * Millimetre;
     const qreal middle = place.left() + place.width() / 3;
-    const bool isReversed = leading() == Qt::AlignRight;
-    const auto line = [&](qreal left, qreal right, const QString &what) {
-        if (isReversed)
-            left = std::exchange(right, m_size.width() - left), left = m_size.width() - left;
+    const auto line = [&](qreal begin, qreal end, const QString &what) {
+        const qreal left = isRightToLeft() ? m_size.width() - end : begin;
+        const QRectF caption(left, below, end - begin, place.bottom() - below);
         painter.setPen(QPen(Qt::black, Line));
-        painter.drawLine(QPointF(left, below), QPointF(right, below));
-        painter.drawText(QRectF(QPointF(left, below), QPointF(right, place.bottom())),
-                         static_cast<int>(leading() | Qt::AlignBottom), what);
+        painter.drawLine(caption.topLeft(), caption.topRight());
+        painter.drawText(caption, static_cast<int>(leading() | Qt::AlignBottom), what);
     };
     line(place.left(), middle, Text::tr("Place and date"));
     line(middle + gap, place.right(), Text::tr("Signature"));
 }
 
-bool FlightBookPages::print(QPagedPaintDevice &device, const Progress &progress) const
+bool FlightBookPages::print(QPagedPaintDevice &device, const Watch &watch) const
 {
     QPainter painter;
     if (!painter.begin(&device))
@@ -148,17 +151,17 @@ bool FlightBookPages::print(QPagedPaintDevice &device, const Progress &progress)
         if (page > 0 && !device.newPage())
             return false;
         draw(page, painter);
-        if (progress && !progress(static_cast<double>(page + 1) / count()))
+        if (watch && !watch(static_cast<double>(page + 1) / count()))
             return false;
     }
     return painter.end();
 }
 
 QByteArray flightBookPdf(const FlightBook &book, QPageSize::PageSizeId paper, const QLocale &locale,
-                         const Progress &progress)
+                         const Watch &watch)
 {
-    const auto half = [&progress](double begin) {
-        return [&progress, begin](double share) { return !progress || progress(begin + share / 2); };
+    const auto half = [&watch](double begin) {
+        return [&watch, begin](double share) { return !watch || watch(begin + share / 2); };
     };
     const QPageSize size(paper);
     FlightBookPages pages(book, size.size(QPageSize::Point), locale);

@@ -27,6 +27,8 @@ inline constexpr int SumCount = 3; // lines below the flights of each page
 inline constexpr double TitleSize = 14; // points
 inline constexpr double TextSize = 8.5;
 
+/** Whether one reads from right to left, and the first column stands at the right. */
+bool isRightToLeft();
 /** A font of this size on every device. */
 QFont font(double points, QFont::Weight weight = QFont::Normal);
 /** Makes an empty document one for a page of this width. */

@@ -7,7 +7,6 @@
 #include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
 #include <QFontMetricsF>
-#include <QGuiApplication>
 #include <QHash>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -45,17 +44,22 @@ void share(qreal width, const QList<std::pair<qreal, int>> &needs, std::array<qr
     widths.at(Notes) += width; // what nobody needs
 }
 
+/** Where a column, or the first of several, stands from left to right. */
+int placeOf(int column, int count = 1)
+{
+    return isRightToLeft() ? ColumnCount - column - count : column;
+}
+
 QTextTableFormat tableFormat(const std::array<qreal, ColumnCount> &widths)
 {
     QTextTableFormat format;
-    format.setLayoutDirection(QGuiApplication::layoutDirection());
     format.setBorder(0); // the table's own borders take several times as long as all the rest
     format.setCellSpacing(0);
     format.setCellPadding(Padding);
     format.setHeaderRowCount(1);
     QList<QTextLength> lengths;
-    for (const qreal width : widths)
-        lengths.append(QTextLength(QTextLength::FixedLength, width));
+    for (int place = 0; place < ColumnCount; ++place) // the same mapping both ways
+        lengths.append(QTextLength(QTextLength::FixedLength, widths.at(static_cast<size_t>(placeOf(place)))));
     format.setColumnWidthConstraints(lengths);
     return format;
 }
@@ -173,20 +177,21 @@ void FlightBookPages::fill(QTextDocument &document, const Page &page) const
         cursor.insertTable(1 + rowCount + static_cast<int>(SumCount), ColumnCount, tableFormat(m_widths));
     const QStringList titles = headings();
     for (int column = 0; column < ColumnCount; ++column)
-        put(*table, 0, column, titles.at(column), true);
+        put(*table, 0, placeOf(column), titles.at(column), true);
     for (int row = 0; row < rowCount; ++row) {
         const QStringList texts = cells(m_rows.at(page.firstRow + static_cast<size_t>(row)));
         for (int column = 0; column < ColumnCount; ++column)
-            put(*table, 1 + row, column, texts.at(column));
+            put(*table, 1 + row, placeOf(column), texts.at(column));
     }
+    constexpr int Behind = ColumnCount - ModelName; // columns behind the figures
     for (int line = 0; line < SumCount; ++line) {
         const int row = 1 + rowCount + line;
         const QStringList texts = sums(page, line);
-        table->mergeCells(row, Date, 1, Duration);
-        table->mergeCells(row, ModelName, 1, ColumnCount - ModelName);
-        put(*table, row, Date, texts.at(0), true);
-        put(*table, row, Duration, texts.at(1), true);
-        put(*table, row, ModelName, texts.at(2), true);
+        table->mergeCells(row, placeOf(Date, Duration), 1, Duration);
+        table->mergeCells(row, placeOf(ModelName, Behind), 1, Behind);
+        put(*table, row, placeOf(Date, Duration), texts.at(0), true);
+        put(*table, row, placeOf(Duration), texts.at(1), true);
+        put(*table, row, placeOf(ModelName, Behind), texts.at(2), true);
     }
 }
 
@@ -232,12 +237,12 @@ void FlightBookPages::layOutNext()
     m_pages.push_back(page);
 }
 
-bool FlightBookPages::layOut(const Progress &progress)
+bool FlightBookPages::layOut(const Watch &watch)
 {
     while (!m_isComplete) {
         layOutNext();
         const size_t done = m_pages.back().firstRow + m_pages.back().rowCount;
-        if (progress && !progress(static_cast<double>(done) / static_cast<double>(m_rows.size())))
+        if (watch && !watch(static_cast<double>(done) / static_cast<double>(m_rows.size())))
             return false;
     }
     return true;

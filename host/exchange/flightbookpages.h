@@ -18,7 +18,7 @@ class QTextDocument;
 namespace Host {
 
 /** Told which share of some work is done, up to 1. @return whether to go on. */
-using Progress = std::function<bool(double share)>;
+using Watch = std::function<bool(double share)>;
 
 /**
  * A flight book on pages of one size: a table with a heading on each page, what the page and all pages up to
@@ -41,13 +41,13 @@ public:
     bool isComplete() const { return m_isComplete; }
     /** Lays out one more page, unless all are. */
     void layOutNext();
-    /** Lays out all pages. @return whether @p progress let it. */
-    bool layOut(const Progress &progress = {});
+    /** Lays out all pages. @return whether @p watch let it. */
+    bool layOut(const Watch &watch = {});
 
     /** Draws a page that is laid out. @param painter counts in units from the paper's corner. */
     void draw(int page, QPainter &painter) const;
-    /** Draws all pages on paper. @return whether @p progress let it, and the device took them. */
-    bool print(QPagedPaintDevice &device, const Progress &progress = {}) const;
+    /** Draws all pages on paper. @return whether @p watch let it, and the device took them. */
+    bool print(QPagedPaintDevice &device, const Watch &watch = {}) const;
 
 private:
     struct Row
@@ -85,8 +85,8 @@ private:
     bool m_isComplete = false;
 };
 
-/** The flight book as a PDF document; empty where @p progress did not let it be made. */
+/** The flight book as a PDF document; empty where @p watch did not let it be made. */
 QByteArray flightBookPdf(const FlightBook &book, QPageSize::PageSizeId paper, const QLocale &locale,
-                         const Progress &progress = {});
+                         const Watch &watch = {});
 
 } // namespace Host

@@ -21,17 +21,17 @@ QByteArray escaped(char character)
 {
     switch (character) {
     case '"':
-        return "\\\""_ba;
+        return R"(\")"_ba;
     case '\\':
-        return "\\\\"_ba;
+        return R"(\\)"_ba;
     case '\n':
-        return "\\n"_ba;
+        return R"(\n)"_ba;
     case '\r':
-        return "\\r"_ba;
+        return R"(\r)"_ba;
     case '\t':
-        return "\\t"_ba;
+        return R"(\t)"_ba;
     default:
-        return "\\u00"_ba + QByteArray(1, character).toHex();
+        return R"(\u00)"_ba + QByteArray(1, character).toHex();
     }
 }
 

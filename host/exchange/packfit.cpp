@@ -86,7 +86,7 @@ std::optional<double> packResistance(const std::vector<PackSample> &samples)
     if (!isWideEnough(samples))
         return std::nullopt;
     // GSL ends the process on an error unless told otherwise.
-    static const gsl_error_handler_t *const before = gsl_set_error_handler_off();
+    static gsl_error_handler_t *const before = gsl_set_error_handler_off();
     static_cast<void>(before);
     const Matrix terms(gsl_matrix_alloc(samples.size(), Parameters));
     const Vector volts(gsl_vector_alloc(samples.size()));

@@ -27,6 +27,7 @@ struct Link
     // Of the first one only
     std::optional<double> restBefore;
     double chargeBefore = 0;
+    int cells = 0;
 };
 
 bool runsOn(const Session &session, const Session &before)
@@ -117,11 +118,11 @@ void addCharge(Link &link)
     if (session.restBefore && !link.first->restBefore) {
         link.first->restBefore = session.restBefore;
         link.first->chargeBefore = begin + session.chargeAtRestBefore;
-        whole.cells = session.cells;
+        link.first->cells = session.cells.value_or(0);
     }
     if (session.restAfter && link.first->restBefore)
         whole.capacity = packCapacity(begin + session.chargeAtRestAfter - link.first->chargeBefore,
-                                      *link.first->restBefore, *session.restAfter, whole.cells.value_or(0));
+                                      *link.first->restBefore, *session.restAfter, link.first->cells);
 }
 
 void addSpan(Link &link)

@@ -63,7 +63,6 @@ private:
     std::optional<double> restOf(std::vector<Rest> samples, bool isBefore, double &charge) const;
 
     Session m_session;
-    bool m_hasCurrent = false;
     ClockTime m_lastTime = 0;               ///< of the last current
     ClockTime m_covered = 0;                ///< ms that the integral covers
     double m_integral = 0;                  ///< mAh

@@ -13,7 +13,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cmath>
 #include <cstdio>
 #include <utility>
 #include <vector>
@@ -180,7 +179,10 @@ void XlsxWriter::addNumberAs(double number, lxw_format *format)
 
 void XlsxWriter::addNumber(qint64 number, int decimals)
 {
-    addNumberAs(static_cast<double>(number) / std::pow(10.0, decimals), nullptr);
+    double unit = 1.0;
+    for (int i = 0; i < decimals; ++i)
+        unit *= 10.0;
+    addNumberAs(static_cast<double>(number) / unit, nullptr);
 }
 
 void XlsxWriter::addDate(QDate date)

@@ -3,7 +3,6 @@
 
 #include "host/window/batteriesmodel.h"
 #include "host/window/batteryplot.h"
-#include "host/window/flowlayout.h"
 #include "host/window/openlogbook.h"
 #include "host/window/tablecolumns.h"
 #include "host/window/tableprinting.h"
@@ -11,7 +10,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
-#include <QPushButton>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
 #include <QTableView>
@@ -46,7 +44,6 @@ BatteriesTab::BatteriesTab(OpenLogbook &logbook, Questions &questions, QWidget *
     , m_model(new BatteriesModel(this))
     , m_sorted(new QSortFilterProxyModel(this))
     , m_plot(new BatteryPlot(questions))
-    , m_print(new QPushButton(tr("Print T&able…")))
 {
     buildTable();
     m_splitter->addWidget(m_table);
@@ -57,10 +54,7 @@ BatteriesTab::BatteriesTab(OpenLogbook &logbook, Questions &questions, QWidget *
     auto *layout = new QVBoxLayout(this);
     layout->addWidget(m_heading);
     layout->addWidget(m_splitter, 1);
-    auto *buttons = new FlowLayout;
-    buttons->addWidget(m_print);
-    layout->addLayout(buttons);
-    connect(m_print, &QPushButton::clicked, this, &BatteriesTab::print);
+    connect(m_plot, &BatteryPlot::tablePrintRequested, this, &BatteriesTab::print);
 }
 
 void BatteriesTab::buildTable()
@@ -96,7 +90,6 @@ void BatteriesTab::refresh()
     m_model->setFigures(figuresOf(*catalogue, {}, QDate::currentDate()).batteries, catalogue->batteries);
     m_heading->setVisible(catalogue->batteries.isEmpty());
     m_splitter->setVisible(!catalogue->batteries.isEmpty());
-    m_print->setVisible(!catalogue->batteries.isEmpty());
     if (!m_columns->restore())
         m_table->resizeColumnsToContents();
     if (catalogue->batteries.isEmpty())

@@ -7,7 +7,6 @@
 #include <memory>
 
 class QLabel;
-class QPushButton;
 class QSortFilterProxyModel;
 class QSplitter;
 class QTableView;
@@ -52,7 +51,6 @@ private:
     BatteriesModel *m_model;
     QSortFilterProxyModel *m_sorted;
     BatteryPlot *m_plot;
-    QPushButton *m_print;
 };
 
 } // namespace Host

@@ -54,6 +54,7 @@ BatteryPlot::BatteryPlot(Questions &questions, QWidget *parent)
     layout->addWidget(choices);
     layout->addWidget(m_pages, 1);
     layout->addWidget(m_buttons);
+    connect(m_buttons, &PlotButtons::tablePrintRequested, this, &BatteryPlot::tablePrintRequested);
     connect(m_quantity, &QComboBox::currentIndexChanged, this, &BatteryPlot::showChosen);
     connect(m_asTable, &QCheckBox::toggled, this, &BatteryPlot::showChosen);
 }
@@ -105,7 +106,7 @@ void BatteryPlot::showChosen()
     else
         m_pages->setCurrentWidget(problem.isEmpty() ? static_cast<QWidget *>(m_plot) : m_note);
     m_quantity->setEnabled(!isTable);
-    m_buttons->setVisible(m_pages->currentWidget() == m_plot);
+    m_buttons->setPlotShown(m_pages->currentWidget() == m_plot);
 }
 
 } // namespace Host

@@ -33,6 +33,10 @@ public:
     /** Shows a battery, or that none is chosen. */
     void setBattery(const std::optional<Battery> &battery);
 
+Q_SIGNALS:
+    /** The user wants the table of the batteries on paper. */
+    void tablePrintRequested();
+
 private:
     void buildTable();
     void showChosen();

@@ -2,7 +2,10 @@
 // The menus of the main window, and what their actions do.
 #include "host/window/mainwindow.h"
 
+#include "host/window/exportdialog.h"
+#include "host/window/flightbookdialog.h"
 #include "host/window/manualwindow.h"
+#include "host/window/messagebar.h"
 #include "host/window/openlogbook.h"
 #include "host/window/pendinginput.h"
 #include "host/window/preferencesdialog.h"
@@ -40,6 +43,10 @@ void MainWindow::buildLogbookMenu()
     open->setShortcut(QKeySequence::Open);
     m_recent = menu->addMenu(tr("Open &Recent"));
     connect(m_recent, &QMenu::aboutToShow, this, &MainWindow::listRecentFolders);
+    menu->addSeparator();
+    menu->addAction(tr("&Export…"), this, &MainWindow::exportLogbook);
+    menu->addAction(tr("&Flight Book (print, PDF)…"), this,
+                    [this] { showFlightBook(*m_logbook, m_questions, this); });
     menu->addSeparator();
     QAction *quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q)); // QKeySequence::Quit is empty on some desktops
@@ -147,6 +154,15 @@ void MainWindow::rename()
         return;
     keepChosenModel(catalogue->models.at(chosen).name);
     reload();
+}
+
+void MainWindow::exportLogbook()
+{
+    const QString report = exportByDialog(*m_logbook, m_questions, this);
+    if (report.isEmpty())
+        return;
+    m_messages->retract(u"export"_s); // the same once more is told once more
+    tell(u"export"_s, report);
 }
 
 void MainWindow::showPanel(bool visible)

@@ -86,6 +86,7 @@ private:
     void undo();
     void redo();
     void rename();
+    void exportLogbook();
     void showPanel(bool visible);
     void showPreferences();
     void showManual();

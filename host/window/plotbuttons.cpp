@@ -35,18 +35,26 @@ PlotButtons::PlotButtons(PlotView &plot, Questions &questions, QWidget *parent)
 {
     auto *layout = new FlowLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    add(tr("&Save Plot…"), tr("Save the plot as a picture (PNG or SVG)"), &PlotButtons::save);
-    add(tr("&Copy Plot"), tr("Copy the plot to the clipboard"), &PlotButtons::copy);
-    add(tr("&Print Plot…"), tr("Print the plot"), &PlotButtons::print);
+    m_ofPlot = {add(tr("&Save Plot…"), tr("Save the plot as a picture (PNG or SVG)"), &PlotButtons::save),
+                add(tr("&Copy Plot"), tr("Copy the plot to the clipboard"), &PlotButtons::copy),
+                add(tr("&Print Plot…"), tr("Print the plot"), &PlotButtons::print)};
+    add(tr("Print T&able…"), tr("Print the table above"), &PlotButtons::tablePrintRequested);
 }
 
-void PlotButtons::add(const QString &caption, const QString &description, void (PlotButtons::*slot)())
+void PlotButtons::setPlotShown(bool shown)
+{
+    for (QWidget *button : std::as_const(m_ofPlot))
+        button->setVisible(shown);
+}
+
+QWidget *PlotButtons::add(const QString &caption, const QString &description, void (PlotButtons::*slot)())
 {
     auto *button = new QPushButton(caption);
     button->setToolTip(description);
     button->setAccessibleDescription(description);
     layout()->addWidget(button);
     connect(button, &QPushButton::clicked, this, slot);
+    return button;
 }
 
 void PlotButtons::save()

@@ -8,7 +8,7 @@ namespace Host {
 class PlotView;
 class Questions;
 
-/** Buttons that save, copy and print a plot. */
+/** Buttons that save, copy and print a plot, and print the table beside it. */
 class PlotButtons final : public QWidget
 {
     Q_OBJECT
@@ -18,14 +18,21 @@ public:
     /** @param plot @param questions outlive the buttons. */
     PlotButtons(PlotView &plot, Questions &questions, QWidget *parent = nullptr);
 
+    /** Where there is no plot, only the table can be printed. */
+    void setPlotShown(bool shown);
+
+Q_SIGNALS:
+    void tablePrintRequested();
+
 private:
-    void add(const QString &caption, const QString &description, void (PlotButtons::*slot)());
+    QWidget *add(const QString &caption, const QString &description, void (PlotButtons::*slot)());
     void save();
     void copy();
     void print();
 
     PlotView &m_plot;
     Questions &m_questions;
+    QList<QWidget *> m_ofPlot;
 };
 
 } // namespace Host

@@ -49,6 +49,14 @@ public:
     virtual void commit() = 0;
 };
 
+/** Of work that nobody watches. */
+class UnseenProgress final : public Progress
+{
+public:
+    bool step() override { return true; }
+    void commit() override {}
+};
+
 /** Everything that the program asks or tells in a box goes through here. */
 class Questions
 {
@@ -74,7 +82,12 @@ public:
     /** Lets the user choose a printer, and paints on it when he does. @param name of what is printed. */
     virtual void print(const QString &name, const std::function<void(QPrinter &)> &paint) = 0;
     /** Shows how far a piece of work is, where it takes more than a moment, until the progress goes. */
-    virtual std::unique_ptr<Progress> progress(const QString &text, int steps) = 0;
+    virtual std::unique_ptr<Progress> progress(const QString &text, int steps)
+    {
+        Q_UNUSED(text)
+        Q_UNUSED(steps)
+        return std::make_unique<UnseenProgress>();
+    }
 };
 
 /** Shows boxes. */
@@ -89,14 +102,6 @@ public:
     std::unique_ptr<Progress> progress(const QString &text, int steps) override;
 };
 
-/** Of work that nobody watches. */
-class UnseenProgress final : public Progress
-{
-public:
-    bool step() override { return true; }
-    void commit() override {}
-};
-
 /** For a program that nobody can see: every question is refused. */
 class UnattendedQuestions final : public Questions
 {
@@ -109,10 +114,6 @@ public:
         return QString();
     }
     void print(const QString &, const std::function<void(QPrinter &)> &) override {}
-    std::unique_ptr<Progress> progress(const QString &, int) override
-    {
-        return std::make_unique<UnseenProgress>();
-    }
 };
 
 } // namespace Host

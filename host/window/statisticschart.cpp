@@ -173,8 +173,8 @@ std::unique_ptr<QChart> statisticsChart(const StatisticsPlot &plot)
     chart->addAxis(valueAxis(plot).release(), isUpright ? Qt::AlignLeft : Qt::AlignBottom);
     if (isUpright) {
         categories->setLabelsAngle(-90);
-        categories->setTruncateLabels(
-            false); // a year and a month have room, which is not seen when they stand
+        // A year and a month have room, which is not seen when they stand.
+        categories->setTruncateLabels(false);
     }
     for (QAbstractAxis *axis : chart->axes())
         series->attachAxis(axis);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/statisticstab.h"
 
-#include "host/window/flowlayout.h"
 #include "host/window/openlogbook.h"
 #include "host/window/plotbuttons.h"
 #include "host/window/plotview.h"
@@ -18,7 +17,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
-#include <QPushButton>
 #include <QSignalBlocker>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
@@ -92,11 +90,7 @@ StatisticsTab::StatisticsTab(OpenLogbook &logbook, Questions &questions, QWidget
     splitter->addWidget(m_table);
     splitter->addWidget(buildPlot(questions));
     content->addWidget(splitter, 1);
-    auto *buttons = new FlowLayout;
-    auto *print = new QPushButton(tr("Print T&able…"));
-    buttons->addWidget(print);
-    content->addLayout(buttons);
-    connect(print, &QPushButton::clicked, this, &StatisticsTab::print);
+    connect(m_buttons, &PlotButtons::tablePrintRequested, this, &StatisticsTab::print);
     offerMeasures();
     connect(m_grouping, &QComboBox::currentIndexChanged, this, &StatisticsTab::showGroups);
     connect(m_measure, &QComboBox::currentIndexChanged, this, &StatisticsTab::showPlot);
@@ -235,7 +229,7 @@ void StatisticsTab::showPlot()
     const StatisticsPlot plot = plotOf(groupsOf(m_figures, grouping), grouping, measure);
     m_plot->setPlot(statisticsChart(plot), statisticsChartName(plot), statisticsChartDescription(plot));
     m_plot->setVisible(!plot.groups.isEmpty());
-    m_buttons->setVisible(!plot.groups.isEmpty());
+    m_buttons->setPlotShown(!plot.groups.isEmpty());
 }
 
 void StatisticsTab::print()

@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QEvent>
 #include <QHeaderView>
-#include <QScopedValueRollback>
 #include <QTableView>
 #include <QTimer>
 
@@ -37,26 +36,18 @@ QString TableColumns::key() const
 
 bool TableColumns::restore()
 {
-    const QScopedValueRollback restoring(m_restoring, true);
     return m_table.horizontalHeader()->restoreState(Settings().tableColumns(key()));
 }
 
 void TableColumns::keep()
 {
-    if (!m_restoring)
-        Settings().setTableColumns(key(), m_table.horizontalHeader()->saveState());
+    Settings().setTableColumns(key(), m_table.horizontalHeader()->saveState());
 }
 
 bool TableColumns::eventFilter(QObject *, QEvent *event)
 {
-    const auto state = [this] { return m_table.horizontalHeader()->saveState(); };
-    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick)
-        m_before = state();
     if (event->type() == QEvent::MouseButtonRelease)
-        QTimer::singleShot(0, this, [this, state] { // when the header has seen it
-            if (state() != m_before)
-                keep();
-        });
+        QTimer::singleShot(0, this, &TableColumns::keep); // when the header has seen it
     return false;
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QByteArray>
 #include <QObject>
 #include <QString>
 
@@ -33,8 +32,6 @@ private:
 
     QTableView &m_table;
     const QString m_name;
-    QByteArray m_before; ///< the mouse was pressed
-    bool m_restoring = false;
 };
 
 } // namespace Host

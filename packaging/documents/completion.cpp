@@ -54,12 +54,12 @@ constexpr char End[] = R"(
 complete -F _voltbok voltbok
 )";
 
-QString indented(int depth, const QString &line)
+QString indented(qsizetype depth, const QString &line)
 {
     return QString(4 * depth, u' ') + line + u'\n';
 }
 
-QString branch(int depth, const QString &pattern, const QString &action)
+QString branch(qsizetype depth, const QString &pattern, const QString &action)
 {
     return indented(depth, pattern + u')') + indented(depth + 1, action) + indented(depth + 1, u";;"_s);
 }

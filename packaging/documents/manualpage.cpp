@@ -106,7 +106,7 @@ QString examples()
 
 QByteArray Documents::manualPage(const QString &version)
 {
-    QString text = u".\\\" Made from the program's table of commands.\n.TH VOLTBOK 1 \"\" \"Voltbok %1\" "
+    QString text = u".\\\" Made from the table of commands.\n.TH VOLTBOK 1 \"\" \"Voltbok %1\" "
                    "\"User Commands\"\n"_s.arg(version);
     text += section(u"NAME"_s) + u"voltbok \\- battery and flight logbook for radio\\-controlled models\n"_s;
     text += section(u"SYNOPSIS"_s) + bold(u"voltbok"_s) + u" ["_s + italic(u"options"_s) + u"]\n.br\n"_s +

@@ -174,7 +174,7 @@ void CommandDocumentsTest::theManualPageIsInOrder()
     static const QRegularExpression known(u"^\\.(\\\\\"|TH|SH|SS|TP|PP|br)"_s);
     for (const QString &line : lines) {
         QVERIFY2(!line.startsWith(u'.') || known.match(line).hasMatch(), qPrintable(line));
-        QVERIFY2(!line.startsWith(u'\''), qPrintable(line));
+        QVERIFY2(!line.contains(u'\''), qPrintable(line)); // would be shown as another character
     }
     const QList<QStringList> checkers{
         {u"man"_s, u"--warnings"_s, u"-E"_s, u"UTF-8"_s, u"-l"_s, u"-Tutf8"_s, u"-Z"_s},

@@ -9,6 +9,10 @@
 #include <QPainter>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextTable>
 
 using namespace Host;
 using namespace PlainLogbook;
@@ -62,6 +66,7 @@ private Q_SLOTS:
     void aBookWithoutFlightsHasOnePage();
     void layingOutCanBeCancelled();
     void paperIsWhiteWithBlackTextWhateverTheWindow();
+    void theFirstColumnStandsWhereOneBeginsToRead();
     void eachPageTakesNoLonger();
 };
 
@@ -307,6 +312,28 @@ void FlightBookTest::paperIsWhiteWithBlackTextWhateverTheWindow()
     }
     QVERIFY2(ink > 2000 && ink < 40'000, qPrintable(QString::number(ink)));
     QGuiApplication::setPalette(QPalette());
+}
+
+void FlightBookTest::theFirstColumnStandsWhereOneBeginsToRead()
+{
+    const auto textAt = [](int row, int column) {
+        FlightBookPages pages(bookOf(2), A4, QLocale::c());
+        pages.layOut();
+        QTextDocument document;
+        pages.fill(document, pages.m_pages.front());
+        const auto *table = qobject_cast<QTextTable *>(document.rootFrame()->childFrames().constFirst());
+        return table->cellAt(row, column).firstCursorPosition().block().text();
+    };
+    QCOMPARE(textAt(0, 0), u"Date"_s);
+    QCOMPARE(textAt(1, 6), u"calm"_s);
+    QCOMPARE(textAt(3, 2), u"00:02:00"_s);
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    QCOMPARE(textAt(0, 6), u"Date"_s);
+    QCOMPARE(textAt(1, 0), u"calm"_s);
+    QCOMPARE(textAt(3, 6), u"This page"_s);
+    QCOMPARE(textAt(3, 4), u"00:02:00"_s);
+    QCOMPARE(textAt(3, 0), u"Flights: 2"_s);
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 void FlightBookTest::eachPageTakesNoLonger()

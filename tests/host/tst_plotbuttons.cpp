@@ -26,6 +26,7 @@ private Q_SLOTS:
     void itIsCopied();
     void itIsPrinted();
     void whatCannotBePrintedIsTold();
+    void withoutAPlotTheTableCanBePrinted();
 
 private:
     std::unique_ptr<ShownPlot> m_shown;
@@ -121,14 +122,14 @@ void PlotButtonsTest::whatCannotBeSavedIsTold()
     QVERIFY(before.open(QFile::WriteOnly));
     before.write("before");
     before.close();
+    before.setPermissions(QFile::Permissions(0x6666)); // the folder alone is in the way
     m_shown->questions.chooseFile(m_shown->file(name));
     if (isFull) {
         const FullDisk disk(600);
         QVERIFY(disk.works());
         m_shown->press(u"Save Plot…"_s);
     } else {
-        const Permissions readOnly(m_shown->folder.path(),
-                                   QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+        const Refusal readOnly(m_shown->folder.path(), 0555);
         QVERIFY(readOnly.works());
         m_shown->press(u"Save Plot…"_s);
     }
@@ -180,6 +181,19 @@ void PlotButtonsTest::whatCannotBePrintedIsTold()
     m_shown->questions.printTo(QString()); // the user does not print
     m_shown->press(u"Print Plot…"_s);
     QCOMPARE(m_shown->questions.told().size(), 1);
+}
+
+void PlotButtonsTest::withoutAPlotTheTableCanBePrinted()
+{
+    const auto button = [this](const QString &caption) { return Panel::button(m_shown->plot, caption); };
+    QVERIFY(button(u"Print Plot…"_s) && button(u"Print Table…"_s));
+    Battery battery = m_shown->flown();
+    battery.discharges.clear();
+    m_shown->show(battery);
+    QVERIFY(!button(u"Save Plot…"_s) && !button(u"Copy Plot"_s) && !button(u"Print Plot…"_s));
+    QVERIFY(button(u"Print Table…"_s));
+    m_shown->show(m_shown->flown());
+    QVERIFY(button(u"Print Plot…"_s));
 }
 
 QTEST_MAIN(PlotButtonsTest)

@@ -34,6 +34,7 @@ private Q_SLOTS:
     void aClockThatRanBackDoesNotPartADischarge();
     void aCounterThatNeverCountsJoinsNothing();
     void theCapacityIsThatOfTheWholeDischarge();
+    void whatASessionMeasuredItselfStays();
 
 private:
     static Session session(const Rows &rows, int file, const QString &model = u"Swift"_s,
@@ -260,6 +261,17 @@ void RadioLogJoinTest::theCapacityIsThatOfTheWholeDischarge()
     QVERIFY(!sessions.last().capacity);
     QVERIFY2(std::abs(sessions.first().capacity.value_or(0) - 2000) < 100,
              qPrintable(QString::number(sessions.first().capacity.value_or(0))));
+}
+
+void RadioLogJoinTest::whatASessionMeasuredItselfStays()
+{
+    QList<Session> sessions{session(steady(101, 36), 0, u"Swift"_s, "Curr(A),mAh(mAh)"),
+                            session(shifted(steady(101, 0.5, 12, 1000), 10 * Minute), 1)};
+    QCOMPARE(sessions.last().cells, 3);
+    joinDischarges(sessions);
+    QCOMPARE(sessions.last().continues, sessions.first().start);
+    QCOMPARE(sessions.last().cells, 3);
+    QVERIFY(!sessions.first().cells);
 }
 
 QTEST_GUILESS_MAIN(RadioLogJoinTest)

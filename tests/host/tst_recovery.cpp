@@ -129,8 +129,7 @@ void RecoveryTest::aFolderThatCannotBeWrittenLeavesAllAsItWas()
     const auto before = m_log->snapshot();
     QFile::setPermissions(m_log->root(), QFile::Permissions(0x7777));
     {
-        const Permissions closed(m_log->path(),
-                                 QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+        const Refusal closed(m_log->path(), 0555);
         QVERIFY(closed.works());
         QCOMPARE(replace(Whole), u"permission denied"_s);
     }
@@ -332,8 +331,7 @@ void RecoveryTest::aReplacementThatIsNeededIsNeverRemoved()
     QFile::setPermissions(m_log->root(), QFile::Permissions(0x7777));
     QVERIFY(Test::write(m_log->file(u"voltbok-new.xml"_s), Whole)); // it cannot be moved to its place
     {
-        const Permissions closed(m_log->path(),
-                                 QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+        const Refusal closed(m_log->path(), 0555);
         Recovery::finishInterrupted(m_log->folder());
     }
     QCOMPARE(m_log->snapshot(), (QMap<QString, QByteArray>{{u"log/voltbok-new.xml"_s, Whole}}));

@@ -256,7 +256,8 @@ void ReportCommandTest::nothingThatExistsIsReplacedUnlessForced()
     QVERIFY(Test::write(m_program->home(u"book.pdf"_s), "mine"));
     const Program::Result refused = report();
     QCOMPARE(refused.status, 1);
-    QCOMPARE(refused.errors, u"voltbok: “book.pdf” exists already; --force replaces it.\n"_s);
+    QCOMPARE(refused.errors,
+             u"voltbok: “book.pdf” exists already. Nothing was written; “--force” replaces it.\n"_s);
     QCOMPARE(Test::contents(m_program->home(u"book.pdf"_s)), QByteArray("mine"));
     QCOMPARE(report({u"--force"_s}).status, 0);
     QVERIFY(Test::contents(m_program->home(u"book.pdf"_s)).startsWith("%PDF"));

@@ -332,8 +332,7 @@ void SaveCareTest::whatTheDiskDidNotGiveBackIsReadAgain()
 
 void SaveCareTest::aFileThatCannotBeReadBackIsNotOverwritten()
 {
-    Fault fault = std::make_shared<Permissions>(window().filePath(),
-                                                QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther);
+    Fault fault = std::make_shared<Refusal>(window().filePath(), 0222);
     window().addLocation(u"Hill"_s);
     QVERIFY(window().gui().batteryList.isEmpty());
     QVERIFY(!window().gui().isEnabled());

@@ -127,6 +127,9 @@ void TableColumnsTest::aColumnIsSortedByWithoutAMouse()
     QCOMPARE(view.horizontalHeader()->sortIndicatorOrder(), Qt::AscendingOrder);
     sort->trigger();
     QCOMPARE(view.horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
+    window.restart();
+    QCOMPARE(table(window).horizontalHeader()->sortIndicatorSection(), 1);
+    QCOMPARE(table(window).horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder);
 }
 
 QTEST_MAIN(TableColumnsTest)

@@ -4,6 +4,7 @@
 #include "tests/support/warnings.h"
 
 #include <QApplication>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStyleFactory>
@@ -21,6 +22,35 @@ const QColor Green(0, 255, 0);
 const QColor LightBlue(85, 170, 255);
 const QColor Red(255, 50, 0);
 const QColor White(255, 255, 255);
+
+/** Counts how often a button asks for its place in a layout. */
+class AskedStyle : public QProxyStyle
+{
+public:
+    AskedStyle()
+        : QProxyStyle(u"Fusion"_s)
+    {
+    }
+    QRect subElementRect(SubElement element, const QStyleOption *option, const QWidget *widget) const override
+    {
+        asked += element == SE_PushButtonLayoutItem ? 1 : 0;
+        return QProxyStyle::subElementRect(element, option, widget);
+    }
+    static inline int asked = 0;
+};
+
+/** Counts how often a widget is painted. */
+class Paints : public QObject
+{
+public:
+    explicit Paints(QObject &watched) { watched.installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int count = 0;
+};
 
 /** Puts style and font of the application back when a test is over. */
 class Look
@@ -139,13 +169,14 @@ private Q_SLOTS:
     void theFocusIsSeen();
     void aPressedButtonIsDarker_data() { addStates(); }
     void aPressedButtonIsDarker();
-    void aButtonBelowThePointerHasAnotherBorder_data() { addStates(); }
+    void aButtonBelowThePointerHasAnotherBorder_data() { addStylesAndStates(); }
     void aButtonBelowThePointerHasAnotherBorder();
     void aDisabledButtonIsPale_data() { addStates(); }
     void aDisabledButtonIsPale();
     void theWholeTextIsPaintedInALargeFont_data();
     void theWholeTextIsPaintedInALargeFont();
     void toEverybodyItIsAPushButton();
+    void anotherStyleIsPaintedAndNotMeasured();
     void aDoubleClickIsOneClick();
     void twoClicksAreTwo();
     void theSecondPressOfADoubleClickElsewhereDoesNothing();
@@ -222,8 +253,10 @@ void ChargeButtonTest::aPressedButtonIsDarker()
 
 void ChargeButtonTest::aButtonBelowThePointerHasAnotherBorder()
 {
+    QFETCH(QString, style);
     QFETCH(bool, charged);
     QFETCH(QColor, background);
+    const Look look(style);
     ShownCard shown(charged);
     QCOMPARE(shown.picture().pixelColor(50, 2), background);
     QTest::mouseMove(shown.card.windowHandle(), shown.button->mapTo(&shown.card, QPoint(50, 17)));
@@ -260,12 +293,28 @@ void ChargeButtonTest::theWholeTextIsPaintedInALargeFont()
     const auto [first, last] = textColumns(shown.picture(), White);
     QVERIFY2(first >= 5 && last <= 94, qPrintable(u"%1 to %2"_s.arg(first).arg(last)));
     QVERIFY(last - first > 50); // smaller where it must be, but never tiny
+    const auto [top, bottom] = textColumns(shown.picture().transformed(QTransform(0, 1, 1, 0, 0, 0)), White);
+    QVERIFY2(top > 6 && bottom < 28, qPrintable(u"%1 to %2"_s.arg(top).arg(bottom))); // nothing is cut off
 }
 
 void ChargeButtonTest::toEverybodyItIsAPushButton()
 {
     ShownCard shown(true);
     QCOMPARE(shown.button->metaObject()->className(), "QPushButton");
+}
+
+void ChargeButtonTest::anotherStyleIsPaintedAndNotMeasured()
+{
+    const Look look(u"Fusion"_s);
+    QApplication::setStyle(new AskedStyle);
+    ShownCard shown(true);
+    QCoreApplication::processEvents();
+    const Paints paints(*shown.button);
+    AskedStyle::asked = 0;
+    QEvent change(QEvent::StyleChange);
+    QCoreApplication::sendEvent(shown.button, &change);
+    QTRY_VERIFY(paints.count > 0);
+    QCOMPARE(AskedStyle::asked, 0);
 }
 
 void ChargeButtonTest::aDoubleClickIsOneClick()

@@ -239,15 +239,15 @@ void DiskFaultsTest::aReadOnlyFileOutlivesChargeAndEdit()
 {
     QFETCH(bool, mounted);
     std::unique_ptr<Mount> mount;
-    std::unique_ptr<Permissions> permissions;
+    std::unique_ptr<Refusal> refusal;
     if (mounted) {
         mount = std::make_unique<Mount>(m_window->folder());
         QVERIFY(mount->works());
         m_window->load(catalogue);
         QVERIFY(mount->setReadOnly(true));
     } else {
-        permissions = std::make_unique<Permissions>(m_window->filePath(), ReadableByAll);
-        QVERIFY(permissions->works());
+        refusal = std::make_unique<Refusal>(m_window->filePath(), 0444);
+        QVERIFY(refusal->works());
     }
 
     clickCard("Pack A");
@@ -258,7 +258,7 @@ void DiskFaultsTest::aReadOnlyFileOutlivesChargeAndEdit()
     QVERIFY(!charged("Pack A"));
     QCOMPARE(m_window->fileBytes(), catalogue);
 
-    permissions.reset();
+    refusal.reset();
     if (mounted)
         QVERIFY(mount->setReadOnly(false));
     clickCard("Pack B");
@@ -268,8 +268,8 @@ void DiskFaultsTest::aReadOnlyFileOutlivesChargeAndEdit()
 void DiskFaultsTest::aReadOnlyFolderIsNoHindranceToAFileThatIsThere()
 {
     QVERIFY(QFile::setPermissions(m_window->filePath(), ReadableByAll | WritableByAll));
-    const Permissions permissions(m_window->folder(), EnterableByAll);
-    QVERIFY(permissions.works());
+    const Refusal refusal(m_window->folder(), 0555);
+    QVERIFY(refusal.works());
     clickCard("Pack A");
     QCOMPARE(batteriesInFile(), QStringList({u"Pack A+"_s, u"Pack B"_s}));
 }
@@ -278,8 +278,8 @@ void DiskFaultsTest::aReadOnlyFolderGetsNoFile()
 {
     QVERIFY(QFile::remove(m_window->filePath()));
     {
-        const Permissions permissions(m_window->folder(), EnterableByAll);
-        QVERIFY(permissions.works());
+        const Refusal refusal(m_window->folder(), 0555);
+        QVERIFY(refusal.works());
         clickCard("Pack A");
         QVERIFY(charged("Pack A"));
         QVERIFY(QDir(m_window->folder()).isEmpty());
@@ -291,8 +291,8 @@ void DiskFaultsTest::aReadOnlyFolderGetsNoFile()
 void DiskFaultsTest::anUnreadableFileLoadsNothingAndIsBackWithItsPermissions()
 {
     {
-        const Permissions permissions(m_window->filePath(), {});
-        QVERIFY(permissions.works());
+        const Refusal refusal(m_window->filePath(), 0);
+        QVERIFY(refusal.works());
         m_window->gui().changeStoragePath(m_window->folder());
         QCOMPARE(batteries(), QStringList());
         QVERIFY(m_window->ui().lbl_welcome->isVisible());

@@ -8,6 +8,7 @@
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -38,6 +39,48 @@ private:
     rlimit m_limit{};
     void (*m_action)(int) = nullptr;
     bool m_works = false;
+};
+
+inline mode_t modeOf(const QString &path)
+{
+    struct stat status = {};
+    stat(QFile::encodeName(path), &status);
+    return status.st_mode & 07777;
+}
+
+/**
+ * While it lives, a file or folder has these permissions, and they hold for every way to ask for them even
+ * when the tests run as root: the process is another user's, who can become root again.
+ */
+class Refusal
+{
+    Q_DISABLE_COPY_MOVE(Refusal)
+
+public:
+    Refusal(const QString &path, mode_t mode)
+        : m_path(QFile::encodeName(path))
+        , m_before(modeOf(path))
+        , m_works(chmod(m_path, mode) == 0)
+    {
+        constexpr uid_t Nobody = 65534;
+        if (m_user == 0)
+            m_works = setresuid(Nobody, Nobody, 0) == 0 && m_works;
+    }
+
+    ~Refusal()
+    {
+        if (m_user == 0 && setresuid(0, 0, 0) != 0)
+            qFatal("the tests cannot become root again");
+        chmod(m_path, m_before);
+    }
+
+    bool works() const { return m_works; }
+
+private:
+    const uid_t m_user = getuid();
+    const QByteArray m_path;
+    const mode_t m_before;
+    bool m_works;
 };
 
 /** While it lives, a file or folder has these permissions, and they hold even when the tests run as root. */

@@ -3,13 +3,13 @@
 #include "host/app/commands/invocation.h"
 #include "host/app/commands/runs.h"
 #include "host/app/console.h"
+#include "host/exchange/exportfilter.h"
 #include "host/exchange/flightbookpages.h"
 #include "host/safety/wholefile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
-#include <algorithm>
 #include <cstdlib>
 
 using namespace Qt::Literals::StringLiterals;
@@ -28,18 +28,6 @@ int refuse(const QString &problem)
     return EXIT_FAILURE;
 }
 
-/** The first of the names that no model has; a null text where there is none. */
-QString unknownModel(const Catalogue &catalogue, const QStringList &names)
-{
-    for (const QString &name : names) {
-        const bool isKnown = std::any_of(catalogue.models.cbegin(), catalogue.models.cend(),
-                                         [&name](const Model &model) { return model.name == name; });
-        if (!isKnown)
-            return name.isNull() ? u""_s : name;
-    }
-    return QString();
-}
-
 QPageSize::PageSizeId paperOf(const Invocation &invocation)
 {
     return invocation.value(u"paper"_s) == "Letter"_L1 ? QPageSize::Letter : QPageSize::A4;
@@ -55,12 +43,12 @@ int Run::report(const Invocation &invocation)
     const QString path = invocation.value(u"output"_s);
     const QFileInfo file(path);
     if ((file.exists() || file.isSymLink()) && !invocation.has(u"force"_s))
-        return refuse(Text::tr("“%1” exists already; --force replaces it.").arg(path));
+        return refuse(Text::tr("“%1” exists already. Nothing was written; “--force” replaces it.").arg(path));
     std::optional<QStringList> models;
     if (invocation.has(u"model"_s))
         models = invocation.values(u"model"_s);
-    if (const QString unknown = unknownModel(*catalogue, models.value_or(QStringList())); !unknown.isNull())
-        return refuse(Text::tr("There is no model “%1”.").arg(unknown));
+    if (const std::optional<QString> name = unknownModel(*catalogue, {{}, {}, models}))
+        return refuse(Text::tr("There is no model “%1” in this logbook. Nothing was written.").arg(*name));
     const QByteArray pdf =
         flightBookPdf(flightBookOf(*catalogue, invocation.range(), models), paperOf(invocation), QLocale());
     const QString problem = WholeFile::write(path, pdf);

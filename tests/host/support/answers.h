@@ -55,6 +55,10 @@ public:
         return QString();
     }
     void print(const QString &, const std::function<void(QPrinter &)> &) override {}
+    std::unique_ptr<Host::Progress> progress(const QString &, int) override
+    {
+        return std::make_unique<Host::UnseenProgress>();
+    }
 
     QList<Asked> asked;
     QStringList told;

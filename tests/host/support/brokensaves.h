@@ -22,8 +22,7 @@ namespace Faults {
 
 inline Fault readOnlyFile(HostWindow &window)
 {
-    const auto readable = QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther;
-    auto fault = std::make_shared<Permissions>(window.filePath(), readable);
+    auto fault = std::make_shared<Refusal>(window.filePath(), 0444);
     return fault->works() ? fault : nullptr;
 }
 

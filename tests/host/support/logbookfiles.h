@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/safety/backups.h"
+#include "tests/support/brokendisk.h"
 #include "tests/support/datafile.h"
 #include "tests/support/files.h"
 #include "tests/support/zone.h"
@@ -11,14 +12,6 @@
 #include <QTest>
 
 #include <sys/stat.h>
-#include <unistd.h>
-
-inline mode_t modeOf(const QString &path)
-{
-    struct stat status = {};
-    stat(QFile::encodeName(path), &status);
-    return status.st_mode & 07777;
-}
 
 /** While it lives, files that this process makes lack these rights. */
 class Umask
@@ -34,41 +27,6 @@ public:
 
 private:
     const mode_t m_before;
-};
-
-/**
- * While it lives, a file or folder has these permissions, and they hold for every way to ask for them even
- * when the tests run as root: the process is another user's, who can become root again.
- */
-class Refusal
-{
-    Q_DISABLE_COPY_MOVE(Refusal)
-
-public:
-    Refusal(const QString &path, mode_t mode)
-        : m_path(QFile::encodeName(path))
-        , m_before(modeOf(path))
-        , m_works(chmod(m_path, mode) == 0)
-    {
-        constexpr uid_t Nobody = 65534;
-        if (m_user == 0)
-            m_works = setresuid(Nobody, Nobody, 0) == 0 && m_works;
-    }
-
-    ~Refusal()
-    {
-        if (m_user == 0 && setresuid(0, 0, 0) != 0)
-            qFatal("the tests cannot become root again");
-        chmod(m_path, m_before);
-    }
-
-    bool works() const { return m_works; }
-
-private:
-    const uid_t m_user = getuid();
-    const QByteArray m_path;
-    const mode_t m_before;
-    bool m_works;
 };
 
 /** A whole logbook, a different one for each number. */
