@@ -151,6 +151,22 @@ QString Edits::addFlight(Catalogue &catalogue, qsizetype model, Flight flight,
     return QString();
 }
 
+QString Edits::addDischarge(Catalogue &catalogue, const QDateTime &time, const NewDischarge &discharge)
+{
+    QString problem = timeProblem(time);
+    if (problem.isEmpty())
+        problem = dischargeProblem({}, discharge.discharged, discharge.current);
+    if (!problem.isEmpty())
+        return problem;
+    const QDateTime free = timeOf(freeMoment(Moments(catalogue), momentOf(time), {discharge.battery}));
+    if (problem = timeProblem(free); !problem.isEmpty())
+        return problem;
+    Battery &battery = catalogue.batteries[discharge.battery];
+    battery.discharges.append({free, discharge.discharged, discharge.current});
+    ++battery.cycles;
+    return QString();
+}
+
 QString Edits::editFlight(Catalogue &catalogue, const FlightPlace &place, Flight flight)
 {
     const Flight before = catalogue.models.at(place.model).log.at(place.flight);

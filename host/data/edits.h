@@ -49,6 +49,9 @@ struct NewDischarge
 QString addFlight(Catalogue &catalogue, qsizetype model, Flight flight,
                   const std::optional<NewDischarge> &discharge = {});
 
+/** Adds a discharge without a flight, and its cycle; where its time is taken, as above. */
+QString addDischarge(Catalogue &catalogue, const QDateTime &time, const NewDischarge &discharge);
+
 /**
  * Gives a flight other values; only those that differ must be possible ones. A new time takes the flight's
  * discharges along, unless another flight stands at the old time: then they stay with that one. Where the new

@@ -25,9 +25,10 @@ QString nameOf(const QByteArray &before, const QByteArray &after)
 
 } // namespace
 
-void UndoHistory::restart(const QByteArray &document)
+void UndoHistory::restart(const QByteArray &document, const QByteArray &beside)
 {
     m_present = document;
+    m_beside = beside;
     m_steps.clear();
     m_done = 0;
 }
@@ -43,15 +44,54 @@ void UndoHistory::add(const QByteArray &document, const QString &name)
     const auto end =
         std::mismatch(m_present.crbegin(), m_present.crbegin() + (shorter - offset), document.crbegin());
     const qsizetype tail = end.first - m_present.crbegin();
-    m_steps.append({name, offset, qCompress(m_present.mid(offset, m_present.size() - tail - offset), Quick),
-                    qCompress(document.mid(offset, document.size() - tail - offset), Quick)});
+    m_steps.append({name,
+                    offset,
+                    qCompress(m_present.mid(offset, m_present.size() - tail - offset), Quick),
+                    qCompress(document.mid(offset, document.size() - tail - offset), Quick),
+                    false,
+                    {},
+                    {}});
     m_present = document;
+    m_done = m_steps.size();
+    forgetTheOldest();
+}
+
+void UndoHistory::setBeside(const QByteArray &beside)
+{
+    if (beside == m_beside)
+        return;
+    if (m_done > 0) {
+        Step &step = m_steps[m_done - 1];
+        if (!step.changesBeside)
+            step.besideBefore = qCompress(m_beside, Quick);
+        step.changesBeside = true;
+        step.besideAfter = qCompress(beside, Quick);
+    }
+    m_beside = beside;
+    if (m_done == m_steps.size())
+        forgetTheOldest();
+}
+
+void UndoHistory::forgetTheOldest()
+{
     qsizetype size = 0;
     for (const Step &step : std::as_const(m_steps))
         size += step.size();
     while (size > MostBytes)
         size -= m_steps.takeFirst().size();
     m_done = m_steps.size();
+}
+
+QByteArray UndoHistory::besideBefore() const
+{
+    const Step &step = m_steps.at(m_done - 1);
+    return step.changesBeside ? qUncompress(step.besideBefore) : m_beside;
+}
+
+QByteArray UndoHistory::besideBehind() const
+{
+    const Step &step = m_steps.at(m_done);
+    return step.changesBeside ? qUncompress(step.besideAfter) : m_beside;
 }
 
 QByteArray UndoHistory::before() const
@@ -69,12 +109,14 @@ QByteArray UndoHistory::behind() const
 void UndoHistory::undone()
 {
     m_present = before();
+    m_beside = besideBefore();
     --m_done;
 }
 
 void UndoHistory::redone()
 {
     m_present = behind();
+    m_beside = besideBehind();
     ++m_done;
 }
 

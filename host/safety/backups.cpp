@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/safety/backups.h"
 
+#include "host/data/measured.h"
 #include "host/safety/wholefile.h"
 
 #include <QCoreApplication>
@@ -90,11 +91,36 @@ QString keep(const StorageFolder &folder, Copy copy)
 {
     if (copy.kept)
         return QString();
+    const QString before = copy.name;
     copy.kept = true;
-    QFile file(folder.backups().filePath(copy.name));
-    return file.rename(folder.backups().filePath(Backups::fileName(copy)))
-               ? QString()
-               : WholeFile::clause(file.errorString());
+    const QString name = Backups::fileName(copy);
+    const QDir backups = folder.backups();
+    QFile file(backups.filePath(before));
+    if (!file.rename(backups.filePath(name)))
+        return WholeFile::clause(file.errorString());
+    QFile::rename(backups.filePath(Backups::measuredName(before)),
+                  backups.filePath(Backups::measuredName(name)));
+    return QString();
+}
+
+/** Copies the measured values, too; those that can be read. */
+void addMeasured(const StorageFolder &folder, const QString &copyName, QFile::Permissions permissions)
+{
+    const WholeFile::Reading reading = WholeFile::read(folder.measuredFile());
+    const QString path = folder.backups().filePath(Backups::measuredName(copyName));
+    const QFileInfo there(path);
+    const bool isFree = !there.isSymLink() && (there.isFile() || !there.exists());
+    if (isFree && reading.problem.isEmpty() && !reading.bytes.isEmpty() &&
+        MeasuredFile::load(reading.bytes).problem.isEmpty() && WholeFile::read(path).bytes != reading.bytes)
+        WholeFile::write(path, reading.bytes, permissions);
+}
+
+void remove(const StorageFolder &folder, const QString &copyName)
+{
+    QFile::remove(folder.backups().filePath(copyName));
+    const QFileInfo measured(folder.backups().filePath(Backups::measuredName(copyName)));
+    if (measured.isFile() && !measured.isSymLink())
+        QFile::remove(measured.filePath());
 }
 
 } // namespace
@@ -116,6 +142,7 @@ std::optional<QList<Copy>> Backups::listed(const StorageFolder &folder)
         if (!copy || !file.isFile() || file.isSymLink()) // what a link leads to is not ours
             continue;
         copy->size = file.size();
+        copy->beside = QFileInfo(folder.backups().filePath(measuredName(name))).size();
         copies.append(*std::move(copy));
     }
     std::sort(copies.begin(), copies.end(), isNewer);
@@ -126,7 +153,7 @@ void Backups::thin(const StorageFolder &folder, const QDateTime &now)
 {
     const QStringList names = superfluous(list(folder), now);
     for (const QString &name : names)
-        QFile::remove(folder.backups().filePath(name));
+        remove(folder, name);
 }
 
 std::optional<Copy> Backups::newestWhole(const StorageFolder &folder, QByteArray *bytes)
@@ -161,8 +188,10 @@ QString Backups::add(const StorageFolder &folder, const QByteArray &document, co
         return QCoreApplication::translate("Backups", "the copies that are there cannot be listed");
     QByteArray before;
     const std::optional<Copy> newest = newestWhole(folder, &before);
-    if (newest && before == document)
+    if (newest && before == document) {
+        addMeasured(folder, newest->name, permissions); // which may be newer
         return QString();
+    }
     if (newest && 2 * document.size() < newest->size)
         problem = keep(folder, *newest);
     if (!problem.isEmpty())
@@ -170,7 +199,10 @@ QString Backups::add(const StorageFolder &folder, const QByteArray &document, co
     Copy copy;
     copy.number = nextNumber(*names);
     copy.time = now;
-    return WholeFile::write(folder.backups().filePath(fileName(copy)), document, permissions);
+    problem = WholeFile::write(folder.backups().filePath(fileName(copy)), document, permissions);
+    if (problem.isEmpty())
+        addMeasured(folder, fileName(copy), permissions);
+    return problem;
 }
 
 void Backups::removeLeftovers(const StorageFolder &folder)
@@ -181,11 +213,13 @@ void Backups::removeLeftovers(const StorageFolder &folder)
     const QStringList names = folder.backups().entryList(RegularFiles);
     for (const QString &name : names) {
         const QRegularExpressionMatch match = pattern.match(name);
-        if (!match.hasMatch() || !parse(match.captured(1)))
+        const QString begun = match.captured(1);
+        const bool isMeasured = begun.endsWith(".json"_L1);
+        if (!match.hasMatch() || !parse(isMeasured ? begun.chopped(5) + u".xml"_s : begun))
             continue;
         const QString path = folder.backups().filePath(name);
         const bool isByHand = match.captured(2) == match.captured(2).toLower();
-        if (!isByHand || !WholeFile::isWhole(WholeFile::read(path).bytes))
+        if (!isByHand || (!isMeasured && !WholeFile::isWhole(WholeFile::read(path).bytes)))
             QFile::remove(path);
     }
 }

@@ -21,6 +21,7 @@ struct Copy
     QDateTime time;     ///< when it was made, by the clock of that moment; in UTC
     qint64 size = 0;    ///< in bytes
     bool kept = false;  ///< never thinned out
+    qint64 beside = 0;  ///< bytes of the measured values that are kept with it; 0 where there are none
 };
 
 /**
@@ -41,6 +42,9 @@ std::optional<Copy> parse(const QString &fileName);
 
 /** The file name that says what @p copy holds; its own name does not count. */
 QString fileName(const Copy &copy);
+
+/** The file that keeps the measured values of a copy: "voltbok-00000042-20261121-195112-123Z.json". */
+QString measuredName(const QString &copyName);
 
 /** The copies, the newest first: by number, those of earlier versions by their time. Only regular files
  * count. */
@@ -75,7 +79,8 @@ QString keepNewestWhole(const StorageFolder &folder);
 
 /**
  * Makes a copy of a whole logbook, unless it equals the newest whole copy. Where it is smaller than half of
- * that one, that one is kept first. Nothing is thinned out.
+ * that one, that one is kept first. Nothing is thinned out. The measured values are copied with it; where
+ * that fails, there is a copy all the same.
  *
  * @return why there is no copy, a clause; empty when there is one.
  */

@@ -54,4 +54,9 @@ QString Backups::fileName(const Copy &copy)
         time.date().toString(DateFormat), time.time().toString(TimeFormat));
 }
 
+QString Backups::measuredName(const QString &copyName)
+{
+    return copyName.chopped(4) + u".json"_s; // instead of ".xml"
+}
+
 } // namespace Host

@@ -10,6 +10,28 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
 
+namespace {
+
+/** The file that a name stands for. */
+QString targetOf(const QString &path)
+{
+    const QString target = QFileInfo(path).canonicalFilePath();
+    return target.isEmpty() ? path : target;
+}
+
+/** A name in a folder that is not taken yet; the form spells a time in UTC. */
+QString freeName(const QDir &folder, const QDateTime &now, QStringView form)
+{
+    for (QDateTime stamp = now.toUTC();; stamp = stamp.addMSecs(1)) {
+        const QString path = folder.filePath(stamp.toString(form));
+        const QFileInfo taken(path);
+        if (!taken.exists() && !taken.isSymLink())
+            return path;
+    }
+}
+
+} // namespace
+
 StorageFolder::StorageFolder(const QString &path)
     : m_folder(QDir::cleanPath(QDir::current().absoluteFilePath(path)))
 {
@@ -37,8 +59,23 @@ QString StorageFolder::dataFile() const
 
 QString StorageFolder::dataFileTarget() const
 {
-    const QString target = QFileInfo(dataFile()).canonicalFilePath();
-    return target.isEmpty() ? dataFile() : target;
+    return targetOf(dataFile());
+}
+
+QString StorageFolder::measuredFile() const
+{
+    return m_folder.filePath(u"voltbok-measured.json"_s);
+}
+
+QString StorageFolder::measuredFileTarget() const
+{
+    return targetOf(measuredFile());
+}
+
+QString StorageFolder::asideOfMeasured(const QDateTime &now) const
+{
+    return freeName(QFileInfo(measuredFileTarget()).dir(), now,
+                    u"'voltbok-measured-broken-'yyyyMMdd-HHmmss-zzz'Z.json'");
 }
 
 QDir StorageFolder::backups() const
@@ -58,13 +95,7 @@ QString StorageFolder::replacement() const
 
 QString StorageFolder::aside(const QDateTime &now) const
 {
-    const QDir folder = QFileInfo(dataFileTarget()).dir();
-    for (QDateTime stamp = now.toUTC();; stamp = stamp.addMSecs(1)) {
-        const QString path = folder.filePath(stamp.toString(u"'voltbok-broken-'yyyyMMdd-HHmmss-zzz'Z.xml'"));
-        const QFileInfo taken(path);
-        if (!taken.exists() && !taken.isSymLink())
-            return path;
-    }
+    return freeName(QFileInfo(dataFileTarget()).dir(), now, u"'voltbok-broken-'yyyyMMdd-HHmmss-zzz'Z.xml'");
 }
 
 QStringList StorageFolder::asides() const

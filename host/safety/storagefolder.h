@@ -29,6 +29,12 @@ public:
      * is put there, so that a link into another folder goes on leading there.
      */
     QString dataFileTarget() const;
+    /** What the logs of radios tell of the discharges: "voltbok-measured.json". */
+    QString measuredFile() const;
+    /** The file that its name stands for, as above. */
+    QString measuredFileTarget() const;
+    /** A name, not taken yet, for a file of measured values that is put aside. */
+    QString asideOfMeasured(const QDateTime &now) const;
     /** The folder of the copies. */
     QDir backups() const;
     QString lock() const;

@@ -104,12 +104,12 @@ QStringList beyondLimit(const QList<Copy> &newestFirst, const QDateTime &now, qi
     const QSet<QString> untouchable = lastResorts(newestFirst, now.toLocalTime().date());
     qint64 total = 0;
     for (const Copy &copy : newestFirst)
-        total += copy.size;
+        total += copy.size + copy.beside;
     QStringList names;
     for (auto copy = newestFirst.crbegin(); copy != newestFirst.crend() && total > limit; ++copy) {
         if (copy->kept || copy->time > now || untouchable.contains(copy->name))
             continue;
-        total -= copy->size;
+        total -= copy->size + copy->beside;
         names.append(copy->name);
     }
     return names;

@@ -129,6 +129,8 @@ void MainWindow::buildPanel()
 {
     m_logbook = std::make_unique<OpenLogbook>(m_folder, m_care.get(), m_questions);
     connect(m_logbook.get(), &OpenLogbook::possibilitiesChanged, this, &MainWindow::updateActions);
+    if (!m_logbook->measuredProblem().isEmpty())
+        tell(u"measured"_s, m_logbook->measuredProblem());
     m_panel = new SidePanel(*m_logbook, m_questions);
     connect(m_panel, &SidePanel::renameRequested, this, &MainWindow::rename);
     m_splitter->addWidget(m_panel);

@@ -40,7 +40,8 @@ OpenLogbook::OpenLogbook(const StorageFolder &folder, SaveCare *care, Questions 
     , m_mayChange(care && care->isInOrder())
 {
     const QByteArray document = WholeFile::read(m_folder.dataFile()).bytes;
-    m_history.restart(document.isEmpty() ? CatalogueFile::emptyDocument() : document);
+    readMeasured();
+    m_history.restart(document.isEmpty() ? CatalogueFile::emptyDocument() : document, m_stored.bytes);
     if (!m_care)
         return;
     connect(m_care, &SaveCare::written, this, &OpenLogbook::versionWritten);
@@ -48,17 +49,36 @@ OpenLogbook::OpenLogbook(const StorageFolder &folder, SaveCare *care, Questions 
     connect(m_care, &SaveCare::orderChanged, this, &OpenLogbook::updatePossibilities);
 }
 
+OpenLogbook::~OpenLogbook()
+{
+    if (!m_followedDocument.isEmpty())
+        catalogue(); // the measured values go along with what the window changed last
+}
+
 std::shared_ptr<const Catalogue> OpenLogbook::catalogue()
 {
     if (!m_catalogue) {
-        const CatalogueFile::Loaded loaded = CatalogueFile::load(m_history.present());
-        if (loaded.problem.isEmpty())
-            m_catalogue = std::make_shared<const Catalogue>(loaded.catalogue);
+        CatalogueFile::Loaded loaded = CatalogueFile::load(m_history.present());
+        if (!loaded.problem.isEmpty())
+            return nullptr;
+        followOthers(loaded.catalogue);
+        MeasuredFile::mark(loaded.catalogue, m_stored.measured);
+        m_catalogue = std::make_shared<const Catalogue>(loaded.catalogue);
     }
     return m_catalogue;
 }
 
 QString OpenLogbook::change(const QString &name, const Change &change)
+{
+    return changeWhole(name, [&](Catalogue &catalogue, Measured &measured) {
+        const Catalogue before = catalogue;
+        const QString problem = change(catalogue);
+        measured = MeasuredFile::followed(measured, before, catalogue);
+        return problem;
+    });
+}
+
+QString OpenLogbook::changeWhole(const QString &name, const WholeChange &change)
 {
     // Each step takes no longer than the window's own reading, and other events may happen after it.
     constexpr int Steps = 6;
@@ -73,10 +93,14 @@ QString OpenLogbook::change(const QString &name, const Change &change)
     if (!progress->step())
         return cancelled();
     Catalogue meant = *present;
-    if (const QString problem = change(meant); !problem.isEmpty())
+    Measured measured = m_stored.measured;
+    if (const QString problem = change(meant, measured); !problem.isEmpty())
         return problem;
+    QByteArray beside = MeasuredFile::save(measured);
+    if (beside == MeasuredFile::save(m_stored.measured))
+        beside = m_stored.bytes;
     if (meant == *present)
-        return QString();
+        return onlyBeside(beside);
     if (!progress->step())
         return cancelled();
     const CatalogueFile::Saved saved = CatalogueFile::save(meant);
@@ -93,23 +117,27 @@ QString OpenLogbook::change(const QString &name, const Change &change)
     if (m_catalogue != present || !isFileStillThis())
         return changedMeanwhile();
     m_stepName = name;
-    m_meant = std::make_shared<const Catalogue>(loaded.catalogue);
-    return put(saved.document, *progress);
+    MeasuredFile::mark(meant, measured);
+    m_meant = std::make_shared<const Catalogue>(meant);
+    return put(saved.document, beside, *progress);
 }
 
 QString OpenLogbook::undo()
 {
-    return move(&UndoHistory::canUndo, &UndoHistory::before, &UndoHistory::undone);
+    return move(&UndoHistory::canUndo, &UndoHistory::before, &UndoHistory::besideBefore,
+                &UndoHistory::undone);
 }
 
 QString OpenLogbook::redo()
 {
-    return move(&UndoHistory::canRedo, &UndoHistory::behind, &UndoHistory::redone);
+    return move(&UndoHistory::canRedo, &UndoHistory::behind, &UndoHistory::besideBehind,
+                &UndoHistory::redone);
 }
 
 /** Puts another version of the history in the place of the present one. */
 QString OpenLogbook::move(bool (UndoHistory::*isPossible)() const,
-                          QByteArray (UndoHistory::*document)() const, void (UndoHistory::*moved)())
+                          QByteArray (UndoHistory::*document)() const,
+                          QByteArray (UndoHistory::*beside)() const, void (UndoHistory::*moved)())
 {
     const std::unique_ptr<Progress> progress = m_questions.progress(tr("The logbook is changed…"), 2);
     const QString problem = obstacle();
@@ -120,7 +148,7 @@ QString OpenLogbook::move(bool (UndoHistory::*isPossible)() const,
     if (!(m_history.*isPossible)() || !isFileStillThis())
         return changedMeanwhile();
     m_move = moved;
-    return put((m_history.*document)(), *progress);
+    return put((m_history.*document)(), (m_history.*beside)(), *progress);
 }
 
 void OpenLogbook::setCapturing(bool capturing)
@@ -152,27 +180,36 @@ bool OpenLogbook::isFileStillThis() const
     return !m_capturing && m_care->isInOrder() && (document.isEmpty() || document == m_history.present());
 }
 
-/** Writes a document in the place of the present version, which stays there if that fails. */
-QString OpenLogbook::put(const QByteArray &document, Progress &progress)
+/** Writes a document in the place of the present version, and what belongs beside it. What was there stays if
+ * either fails. */
+QString OpenLogbook::put(const QByteArray &document, const QByteArray &beside, Progress &progress)
 {
     progress.commit();
     const QByteArray before = m_history.present();
+    const QByteArray besideBefore = m_stored.bytes;
     QString problem = WholeFile::write(m_folder.dataFileTarget(), document);
+    if (problem.isEmpty() && beside != besideBefore) {
+        const QString reason = putBeside(beside);
+        if (!reason.isEmpty()) {
+            WholeFile::write(m_folder.dataFileTarget(), before);
+            forgetStep();
+            return measuredNotWritten(reason);
+        }
+    }
     if (problem.isEmpty()) {
         m_care->readWritten();
         progress.step();
         if (m_care->takeWritten(document))
             return QString();
     }
-    m_stepName.clear();
-    m_meant.reset();
-    m_move = nullptr;
+    forgetStep();
     if (problem.isEmpty()) {
         problem = tr("it cannot be read back");
         WholeFile::write(m_folder.dataFileTarget(), before);
+        putBeside(besideBefore);
         m_care->readWritten();
         m_care->takeWritten(before);
-        m_history.restart(before);
+        m_history.restart(before, m_stored.bytes);
         announce();
     }
     return tr("Nothing was changed: the logbook file cannot be written: %1. See that “%2” can be written, "
@@ -183,17 +220,23 @@ QString OpenLogbook::put(const QByteArray &document, Progress &progress)
 
 void OpenLogbook::versionWritten(const QByteArray &document)
 {
-    if (const auto move = std::exchange(m_move, nullptr))
+    if (const auto move = std::exchange(m_move, nullptr)) {
         (m_history.*move)();
-    else
+        forgetFollowing();
+    } else {
+        expectFollowing();
         m_history.add(document, std::exchange(m_stepName, QString()));
+        m_history.setBeside(m_stored.bytes);
+    }
     announce();
 }
 
 /** Its history ends here. */
 void OpenLogbook::versionOfOthers(const QByteArray &document)
 {
-    m_history.restart(document);
+    readMeasured();
+    forgetFollowing();
+    m_history.restart(document, m_stored.bytes);
     announce();
 }
 

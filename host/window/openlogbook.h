@@ -3,6 +3,7 @@
 
 #include "host/data/catalogue.h"
 #include "host/data/undo.h"
+#include "host/safety/measuredstore.h"
 #include "host/safety/storagefolder.h"
 
 #include <QObject>
@@ -29,12 +30,15 @@ class OpenLogbook final : public QObject
 public:
     /** Changes the catalogue. @return why it cannot be done, in whole sentences; empty when it is. */
     using Change = std::function<QString(Catalogue &)>;
+    /** Changes what is known of measured discharges, too. */
+    using WholeChange = std::function<QString(Catalogue &, Measured &)>;
 
     /**
      * @param care of the same folder, which outlives the logbook; without one it is only looked at.
      * @param questions show how far a change is, and outlive the logbook.
      */
     OpenLogbook(const StorageFolder &folder, SaveCare *care, Questions &questions);
+    ~OpenLogbook() override;
 
     /** What the file holds now, read once for each version of it; null when a full disk does not let it be
      * read. */
@@ -53,6 +57,12 @@ public:
      * @return why it was not done, in whole sentences; empty when it was. All is then as it was before.
      */
     QString change(const QString &name, const Change &change);
+    QString changeWhole(const QString &name, const WholeChange &change);
+
+    /** What radio logs tell of the discharges; their measured ones are marked in the catalogue. */
+    const Measured &measured() const { return m_stored.measured; }
+    /** Why that is not known, in whole sentences; empty when it is. */
+    const QString &measuredProblem() const { return m_stored.problem; }
 
     bool canUndo() const { return m_mayChange && m_history.canUndo(); }
     bool canRedo() const { return m_mayChange && m_history.canRedo(); }
@@ -77,8 +87,16 @@ private:
     void versionOfOthers(const QByteArray &document);
     bool isFileStillThis() const;
     QString move(bool (UndoHistory::*isPossible)() const, QByteArray (UndoHistory::*document)() const,
-                 void (UndoHistory::*moved)());
-    QString put(const QByteArray &document, Progress &progress);
+                 QByteArray (UndoHistory::*beside)() const, void (UndoHistory::*moved)());
+    QString put(const QByteArray &document, const QByteArray &beside, Progress &progress);
+    QString putBeside(const QByteArray &beside);
+    void readMeasured();
+    QString onlyBeside(const QByteArray &beside);
+    QString measuredNotWritten(const QString &problem) const;
+    void expectFollowing();
+    void forgetFollowing();
+    void followOthers(const Catalogue &present);
+    void forgetStep();
     void updatePossibilities();
     void announce();
 
@@ -86,6 +104,9 @@ private:
     SaveCare *m_care;
     Questions &m_questions;
     UndoHistory m_history;
+    MeasuredStore::Stored m_stored;
+    QByteArray m_followedDocument; ///< that the measured values fit to, where that is an earlier one
+    std::shared_ptr<const Catalogue> m_followed;  ///< the same as values; null where it was not read
     std::shared_ptr<const Catalogue> m_catalogue; ///< null when the file has another version since
     std::shared_ptr<const Catalogue> m_meant;     ///< in the version that is being written, where it is known
     QString m_stepName;                           ///< of the version that is being written

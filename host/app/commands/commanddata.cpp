@@ -5,6 +5,7 @@
 #include "host/app/console.h"
 #include "host/data/cataloguefile.h"
 #include "host/demo/demo.h"
+#include "host/safety/measuredstore.h"
 #include "host/safety/recovery.h"
 
 #include <QCoreApplication>
@@ -35,6 +36,15 @@ std::optional<Catalogue> complain(const Invocation &invocation, const QString &p
     Console::complain(tr(QT_TRANSLATE_NOOP("CommandData", "The logbook file “%1” cannot be read: %2."))
                           .arg(invocation.folder.dataFile(), problem));
     return std::nullopt;
+}
+
+Catalogue withMeasured(const StorageFolder &folder, Catalogue catalogue)
+{
+    const MeasuredStore::Stored stored = MeasuredStore::load(folder);
+    if (!stored.problem.isEmpty())
+        Console::complain(stored.problem);
+    MeasuredFile::mark(catalogue, stored.measured);
+    return catalogue;
 }
 
 } // namespace
@@ -76,7 +86,8 @@ std::optional<Catalogue> CommandData::read(const Invocation &invocation)
     if (state.kind != FileState::Whole)
         return complain(invocation, state.problem);
     const CatalogueFile::Loaded loaded = CatalogueFile::load(state.bytes);
-    return loaded.problem.isEmpty() ? std::optional(loaded.catalogue) : complain(invocation, loaded.problem);
+    return loaded.problem.isEmpty() ? std::optional(withMeasured(invocation.folder, loaded.catalogue))
+                                    : complain(invocation, loaded.problem);
 }
 
 } // namespace Host
