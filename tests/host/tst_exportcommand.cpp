@@ -25,6 +25,7 @@ private Q_SLOTS:
     void aNameThatNobodyHasIsRefused_data();
     void aNameThatNobodyHasIsRefused();
     void nothingIsReplacedWithoutForce();
+    void noExportTakesThePlaceOfTheLogbook();
     void aFullDiskIsSaidInOneLine_data();
     void aFullDiskIsSaidInOneLine();
     void textsThatWereCutAreSaid();
@@ -183,6 +184,18 @@ void ExportCommandTest::nothingIsReplacedWithoutForce()
     QCOMPARE(Test::contents(path(u"t/locations.csv"_s)), "mine");
     QCOMPARE(run(order + QStringList(u"--force"_s)).status, 0);
     QCOMPARE(Test::contents(path(u"t/locations.csv"_s)), "Name\r\nMeadow\r\n");
+}
+
+void ExportCommandTest::noExportTakesThePlaceOfTheLogbook()
+{
+    const QByteArray before = Test::contents(path(u"log/voltbok.xml"_s));
+    QVERIFY(!before.isEmpty());
+    const Program::Result refused = run({u"json"_s, u"--output"_s, path(u"log/voltbok.xml"_s), u"--force"_s});
+    QCOMPARE(refused.status, 1);
+    QCOMPARE(refused.errors,
+             u"voltbok: “%1” is a logbook, and nothing takes its place. Choose another name.\n"_s.arg(
+                 path(u"log/voltbok.xml"_s)));
+    QCOMPARE(Test::contents(path(u"log/voltbok.xml"_s)), before);
 }
 
 void ExportCommandTest::aFullDiskIsSaidInOneLine_data()

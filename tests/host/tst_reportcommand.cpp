@@ -50,6 +50,7 @@ private Q_SLOTS:
     void anEmptyLogbookSaysSo();
     void theSampleNeedsNotHaveBeenOpened();
     void nothingThatExistsIsReplacedUnlessForced();
+    void noBookTakesThePlaceOfALogbook();
     void whatCannotBeDoneIsOneLineAndLeavesNothing_data();
     void whatCannotBeDoneIsOneLineAndLeavesNothing();
     void aFolderThatIsNotThereIsNotMade();
@@ -261,6 +262,18 @@ void ReportCommandTest::nothingThatExistsIsReplacedUnlessForced()
     QCOMPARE(Test::contents(m_program->home(u"book.pdf"_s)), QByteArray("mine"));
     QCOMPARE(report({u"--force"_s}).status, 0);
     QVERIFY(Test::contents(m_program->home(u"book.pdf"_s)).startsWith("%PDF"));
+}
+
+void ReportCommandTest::noBookTakesThePlaceOfALogbook()
+{
+    put(flown(3));
+    const QByteArray logbook = Test::contents(m_program->home(u"log/voltbok.xml"_s));
+    QVERIFY(Test::write(m_program->home(u"book.pdf"_s), logbook.chopped(20))); // a broken one, too
+    const Program::Result refused = report({u"--force"_s});
+    QCOMPARE(refused.status, 1);
+    QCOMPARE(refused.errors, u"voltbok: “book.pdf” is a logbook, and nothing takes its place. Choose another "
+                             "name.\n"_s);
+    QCOMPARE(Test::contents(m_program->home(u"book.pdf"_s)), logbook.chopped(20));
 }
 
 void ReportCommandTest::whatCannotBeDoneIsOneLineAndLeavesNothing_data()
