@@ -58,7 +58,7 @@ int Opening::refuse(const QString &problem)
     return EXIT_FAILURE;
 }
 
-Opening::Status Opening::prepareFile()
+Opening::Status Opening::prepareFile(const std::function<bool()> &goOn)
 {
     FileState state = Recovery::examine(m_folder);
     if (state.kind == FileState::Missing || state.kind == FileState::Damaged) {
@@ -69,8 +69,12 @@ Opening::Status Opening::prepareFile()
     if (state.kind != FileState::Whole && state.kind != FileState::New)
         return refuse(describe(state));
     m_isNew = state.kind == FileState::New;
+    if (!goOn())
+        return EXIT_FAILURE;
     const QString problem = keepWhatWouldBeLost(state);
-    return problem.isEmpty() ? Status() : refuse(problem);
+    if (!problem.isEmpty())
+        return refuse(problem);
+    return goOn() ? Status() : EXIT_FAILURE;
 }
 
 Opening::Status Opening::takeFolder(Demo demo, bool raises)

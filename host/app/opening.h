@@ -7,6 +7,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -38,8 +39,10 @@ public:
 
     /** Makes the folder ours, and ready to be looked into. @param raises the window that has it already. */
     Status takeFolder(Demo demo, bool raises = true);
-    /** Sees that its file can be opened, and keeps what would be lost by that. */
-    Status prepareFile();
+    /** Sees that its file can be opened, and keeps what would be lost by that.
+     * @param goOn asked CheckSteps times, after steps that take long; false ends it. */
+    Status prepareFile(const std::function<bool()> &goOn = [] { return true; });
+    static constexpr int CheckSteps = 2;
     /** What came of it, when both have not ended it. */
     Opened opened();
 

@@ -69,12 +69,19 @@ private:
                               .arg(opened.folder.path()));
     }
 
-    /** Where that does not work, the folder before stays open. */
+    /** Where that does not work, or the user has enough of it, the folder before stays open. */
     void openInstead(const StorageFolder &folder)
     {
         Opening opening(folder, m_questions);
-        if (!opening.takeFolder(Demo::None) && !opening.prepareFile())
+        if (!opening.takeFolder(Demo::None) && isReady(opening))
             show(opening.opened(), true);
+    }
+
+    bool isReady(Opening &opening)
+    {
+        const std::unique_ptr<Progress> progress = m_questions.progress(
+            tr(QT_TRANSLATE_NOOP("Startup", "The logbook is checked…")), Opening::CheckSteps);
+        return !opening.prepareFile([&progress] { return progress->step(); });
     }
 
     void serve(const StorageFolder &folder)

@@ -19,6 +19,8 @@ private Q_SLOTS:
     void theLockOfAnotherMachineIsTakenOverOnlyByAnAnswer();
     void aFolderGivenByNameThatHasNoLogbookIsSaid_data();
     void aFolderGivenByNameThatHasNoLogbookIsSaid();
+    void openingAnotherFolderCanBeCancelled_data();
+    void openingAnotherFolderCanBeCancelled();
     void theDemoIsMadeAndOpened();
     void aResetDemoIsKept();
     void aDemoThatCannotBeMadeIsAnError();
@@ -100,6 +102,36 @@ void StartFolderTest::theDemoIsMadeAndOpened()
     QVERIFY(started.batteries > 3);
     QCOMPARE(started.messages, QStringList());
     QVERIFY(Test::contents(line.storagePath + u"/voltbok.xml"_s) == Test::sample());
+}
+
+void StartFolderTest::openingAnotherFolderCanBeCancelled_data()
+{
+    QTest::addColumn<int>("patience");
+    QTest::addColumn<bool>("isOpened");
+    QTest::newRow("before it is compared") << 1 << false;
+    QTest::newRow("before it is shown") << 2 << false;
+    QTest::newRow("never") << -1 << true;
+}
+
+void StartFolderTest::openingAnotherFolderCanBeCancelled()
+{
+    QFETCH(int, patience);
+    QFETCH(bool, isOpened);
+    m_log->save(LogbookFolder::document(u"a"_s));
+    const LogbookFolder other;
+    other.save(LogbookFolder::document(u"b"_s));
+    const QMap<QString, QByteArray> before = other.snapshot();
+    QString title;
+    Started::run(commandLine(), m_answers, [&](MainWindow &window) {
+        title = window.windowTitle();
+        m_answers.patience = patience;
+        Q_EMIT window.folderRequested(other.folder());
+        QCOMPARE(m_answers.works.contains(u"The logbook is checked…"_s), true);
+        QCOMPARE(window.windowTitle() != title || other.snapshot() != before, isOpened);
+        FolderLock lock;
+        QCOMPARE(lock.take(other.folder()).problem.isEmpty(), !isOpened);
+    });
+    QVERIFY(!title.isEmpty());
 }
 
 void StartFolderTest::aResetDemoIsKept()

@@ -55,16 +55,34 @@ public:
         return QString();
     }
     void print(const QString &, const std::function<void(QPrinter &)> &) override {}
-    std::unique_ptr<Host::Progress> progress(const QString &, int) override
+    std::unique_ptr<Host::Progress> progress(const QString &text, int) override
     {
-        return std::make_unique<Host::UnseenProgress>();
+        works.append(text);
+        return std::make_unique<Impatient>(patience);
     }
 
     QList<Asked> asked;
     QStringList told;
     std::function<void()> whenAsked;
+    QStringList works; ///< of which progress was shown
+    int patience = -1; ///< the next works are cancelled after so many steps
 
 private:
+    class Impatient final : public Host::Progress
+    {
+    public:
+        explicit Impatient(int patience)
+            : m_patience(patience)
+        {
+        }
+        bool step() override { return m_isCommitted || --m_patience != 0; }
+        void commit() override { m_isCommitted = true; }
+
+    private:
+        int m_patience;
+        bool m_isCommitted = false;
+    };
+
     static Asked remember(const Host::Question &question)
     {
         Asked result{question, {}, {}};

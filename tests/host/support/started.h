@@ -39,6 +39,7 @@ struct Started
                 if (use)
                     use(*window);
                 window->close();
+                return; // what was on the list may be gone
             }
         });
         closing.start(20);
