@@ -64,7 +64,7 @@ public:
     {
         QStringList texts;
         const QJsonArray values = take(key).toArray();
-        for (const QJsonValue &value : values) {
+        for (const auto &value : values) {
             if (value.isString())
                 texts.append(value.toString());
         }
@@ -144,7 +144,7 @@ std::optional<KnownLog> logFrom(const QJsonObject &object)
     log.skippedRows = reader.count(u"skipped_rows"_s);
     log.beginsWith = reader.text(u"begins_with"_s);
     const QJsonArray sessions = reader.take(u"sessions"_s).toArray();
-    for (const QJsonValue &session : sessions) {
+    for (const auto &session : sessions) {
         if (session.isObject())
             log.sessions.append(session.toObject());
     }
@@ -233,12 +233,12 @@ MeasuredFile::Loaded MeasuredFile::load(const QByteArray &bytes)
         return {{}, tr(QT_TRANSLATE_NOOP("MeasuredFile", "a later version of Voltbok wrote it")), true};
     Loaded loaded;
     const QJsonArray discharges = reader.take(u"discharges"_s).toArray();
-    for (const QJsonValue &value : discharges) {
+    for (const auto &value : discharges) {
         if (std::optional<MeasuredDischarge> discharge = dischargeFrom(value.toObject()))
             loaded.measured.discharges.append(*std::move(discharge));
     }
     const QJsonArray logs = reader.take(u"logs"_s).toArray();
-    for (const QJsonValue &value : logs) {
+    for (const auto &value : logs) {
         if (std::optional<KnownLog> log = logFrom(value.toObject()))
             loaded.measured.logs.append(*std::move(log));
     }

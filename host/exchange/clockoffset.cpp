@@ -8,11 +8,12 @@
 namespace Host {
 namespace {
 
-constexpr qint64 Second = 1000;        // ms, also in the numbers of clocks
-constexpr qint64 HalfAnHour = 30 * 60; // s: the time zones of the world differ by multiples of it, mostly
-constexpr int MostHalves = 28;         // 14 hours
-constexpr qint64 QuickHand = 20 * 60;  // s, within which most flights are recorded
-constexpr int LeastFlights = 2;        // one alone may be chance
+constexpr qint64 Second = 1000; // ms, also in the numbers of clocks
+constexpr qint64 HalfAnHour =
+    qint64(30) * 60;           // s: the time zones of the world differ by multiples of it, mostly
+constexpr int MostHalves = 28; // 14 hours
+constexpr qint64 QuickHand = qint64(20) * 60; // s, within which most flights are recorded
+constexpr int LeastFlights = 2;               // one alone may be chance
 
 /** How many flights were recorded soon after a discharge, if the clock was that far behind; and of how many
  * discharges. */
@@ -50,7 +51,7 @@ std::optional<qint64> clockOffset(const QList<ImportedLog> &logs, const Catalogu
     int most = std::max(LeastFlights - 1, 2 * present - 1); // chance may match some, too
     for (int halves = 1; halves <= MostHalves; ++halves) {  // the smallest that explains as much as any
         for (const int sign : {1, -1}) {
-            const qint64 offset = sign * halves * HalfAnHour * Second;
+            const qint64 offset = qint64(sign) * halves * HalfAnHour * Second;
             const auto [near, all] = matchesAt(offset);
             if (near <= most || 2 * near <= all)
                 continue;

@@ -8,10 +8,10 @@
 namespace Host {
 namespace {
 
-constexpr qint64 Second = 1000;          // ms, also in the numbers of clocks
-constexpr qint64 BeforeStart = 5 * 60;   // s
-constexpr qint64 AfterEnd = 3 * 60 * 60; // s
-constexpr double LeastShare = 0.02;      // of the capacity
+constexpr qint64 Second = 1000;                  // ms, also in the numbers of clocks
+constexpr qint64 BeforeStart = qint64(5) * 60;   // s
+constexpr qint64 AfterEnd = qint64(3) * 60 * 60; // s
+constexpr double LeastShare = 0.02;              // of the capacity
 
 qint64 endOf(const ImportedDischarge &discharge)
 {

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int RowsThatTellTheirWidth = 100;
 constexpr qsizetype MostSessions = 10'000; // a day has 1,440 gaps of a minute
-constexpr qint64 BytesBetweenQuestions = 1024 * 1024;
+constexpr qint64 BytesBetweenQuestions = qint64(1024) * 1024;
 
 /** Reads one log. */
 class Reader

@@ -9,7 +9,7 @@ namespace Host {
 namespace {
 
 constexpr qsizetype BufferSize =
-    64 * 1024; // a line of a log has 200 to 600 bytes; more does not stay in the cache
+    qsizetype(64) * 1024; // a line of a log has 200 to 600 bytes; more does not stay in the cache
 
 } // namespace
 
