@@ -122,6 +122,7 @@ void ImportDialog::buildLayout()
     m_refusedCaption->hide();
     m_refused->setAccessibleName(tr("Files that are not imported"));
     m_refused->setWordWrap(true);
+    m_refused->setSelectionMode(QAbstractItemView::NoSelection);
     m_refused->hide();
     m_message->setWordWrap(true);
     m_message->setTextFormat(Qt::PlainText);
@@ -194,6 +195,10 @@ void ImportDialog::finish(const Reading &reading)
     refresh();
     if (m_model->rowCount() == 0)
         say(tr("There is no discharge in these logs."));
+    else if (m_message->text().isEmpty() && m_model->isAnyNew())
+        say(tr(
+            "What is new is added when you tick it. To choose its model or battery, double-click there, or "
+            "press F2."));
     if (reading.catalogue != m_logbook.catalogue())
         readAgain();
 }

@@ -156,6 +156,12 @@ int ImportModel::chosenLogs() const
         }));
 }
 
+bool ImportModel::isAnyNew() const
+{
+    return std::any_of(m_rows.cbegin(), m_rows.cend(),
+                       [](const Row &row) { return row.session.action == ImportAction::New; });
+}
+
 QStringList ImportModel::choices(const QModelIndex &index) const
 {
     return index.column() == ModelName ? FlightFields::names(m_catalogue->models)

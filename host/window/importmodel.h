@@ -40,6 +40,8 @@ public:
     QList<qsizetype> chosen() const;
     /** How many logs these come from. */
     int chosenLogs() const;
+    /** Whether there are flights that the logbook does not have. */
+    bool isAnyNew() const;
     /** The names that a cell can be given: models, or batteries. */
     QStringList choices(const QModelIndex &index) const;
 

@@ -98,6 +98,7 @@ void ImportDialogTest::whatIsNewIsAddedWithTheBatteryThatIsChosen()
     Flying flying;
     Shown shown(flying, {flying.log(at(10, 0))});
     QVERIFY(!shown.dialog.m_import->isEnabled());
+    QVERIFY(shown.message().startsWith(u"What is new is added when you tick it."_s));
     shown.choose(0, ImportModel::BatteryName, u"B"_s);
     QCOMPARE(shown.outcomes(), QStringList(u"new, with B"_s));
     QVERIFY(!shown.isTicked(0));
