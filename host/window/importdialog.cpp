@@ -123,6 +123,9 @@ void ImportDialog::buildLayout()
     m_refused->setAccessibleName(tr("Files that are not imported"));
     m_refused->setWordWrap(true);
     m_refused->setSelectionMode(QAbstractItemView::NoSelection);
+    m_refused->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    m_refused->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Maximum);
+    m_refused->setMinimumHeight(fontMetrics().lineSpacing() * 3);
     m_refused->hide();
     m_message->setWordWrap(true);
     m_message->setTextFormat(Qt::PlainText);
@@ -233,7 +236,6 @@ void ImportDialog::listRefused(const QList<ImportedLog> &logs)
         else if (log.log.status == LogStatus::Empty)
             m_refused->addItem(tr("“%1” holds no values.").arg(name));
     }
-    m_refused->setCurrentRow(0);
     m_refused->setVisible(m_refused->count() > 0);
     m_refusedCaption->setVisible(m_refused->count() > 0);
 }

@@ -243,8 +243,8 @@ QVariant ImportModel::headerData(int section, Qt::Orientation orientation, int r
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
         return QAbstractTableModel::headerData(section, orientation, role);
-    const QStringList titles{tr("Start"), tr("Model"),     tr("Battery"),          tr("Duration"),
-                             tr("mAh"),   tr("Maximum A"), tr("What will happen"), tr("Log")};
+    const QStringList titles{tr("Start"), tr("What will happen"), tr("Model"), tr("Battery"), tr("Duration"),
+                             tr("mAh"),   tr("Maximum A"),        tr("Log")};
     return titles.value(section);
 }
 

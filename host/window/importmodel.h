@@ -21,7 +21,7 @@ class ImportModel final : public QAbstractTableModel
     Q_DISABLE_COPY_MOVE(ImportModel)
 
 public:
-    enum Column { Start, ModelName, BatteryName, Duration, Discharged, Current, Outcome, Log, ColumnCount };
+    enum Column { Start, Outcome, ModelName, BatteryName, Duration, Discharged, Current, Log, ColumnCount };
 
     explicit ImportModel(QObject *parent = nullptr);
 
