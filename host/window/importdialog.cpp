@@ -73,8 +73,7 @@ ImportDialog::ImportDialog(OpenLogbook &logbook, Questions &questions, QWidget *
            "on. Nothing on a card is ever changed."));
     refresh();
     const QSize most = screen()->availableSize() * 9 / 10;
-    const int character = fontMetrics().averageCharWidth();
-    resize(QSize(character * 160, fontMetrics().lineSpacing() * 28).boundedTo(most));
+    resize(QSize(fontMetrics().averageCharWidth() * 160, fontMetrics().lineSpacing() * 28).boundedTo(most));
 }
 
 ImportDialog::~ImportDialog()
@@ -262,6 +261,7 @@ void ImportDialog::say(const QString &text)
 
 void ImportDialog::accept()
 {
+    m_table->setFocus(); // what is being chosen there counts
     if (!m_import->isEnabled())
         return;
     const QList<qsizetype> chosen = m_model->chosen();

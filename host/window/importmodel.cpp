@@ -258,12 +258,12 @@ Qt::ItemFlags ImportModel::flags(const QModelIndex &index) const
     const bool isNew = row.session.action == ImportAction::New;
     if (index.column() == Start && isTickable(row))
         flags |= Qt::ItemIsUserCheckable;
-    if (!dischargeOf(row) || choices(index).isEmpty())
-        return flags;
-    if (index.column() == ModelName && (isNew || m_models.contains(m_logs.at(row.log).log.model)))
-        flags |= Qt::ItemIsEditable;
-    if (index.column() == BatteryName &&
-        (isNew || (row.session.action == ImportAction::Bench && m_batteries.contains(row.id))))
+    const bool isModel =
+        index.column() == ModelName && (isNew || m_models.contains(m_logs.at(row.log).log.model));
+    const bool isBench = row.session.action == ImportAction::Bench;
+    const bool isBattery =
+        index.column() == BatteryName && (isNew || (isBench && m_batteries.contains(row.id)));
+    if ((isModel || isBattery) && dischargeOf(row) && !choices(index).isEmpty())
         flags |= Qt::ItemIsEditable;
     return flags;
 }

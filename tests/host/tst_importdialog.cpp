@@ -19,6 +19,7 @@ private Q_SLOTS:
     void threeClicksOfADayBecomeMeasured();
     void aCardFillsGuessesOffersFlightsAndLeavesBenchTestsAlone();
     void whatIsNewIsAddedWithTheBatteryThatIsChosen();
+    void aChoiceThatIsStillOpenCounts();
     void withoutABatteryNothingIsAdded();
     void aModelIsChosenForAllLogsOfItsName();
     void enteredValuesAreReplacedOnlyOnRequest();
@@ -111,6 +112,18 @@ void ImportDialogTest::whatIsNewIsAddedWithTheBatteryThatIsChosen()
     QCOMPARE(battery.cycles, 11U);
     QCOMPARE(flying.catalogue().models.at(0).log.size(), 3);
     QVERIFY(shown.dialog.report().contains(u"discharges added: 1."_s));
+}
+
+void ImportDialogTest::aChoiceThatIsStillOpenCounts()
+{
+    Flying flying;
+    Shown shown(flying, {flying.log(at(10, 0))});
+    shown.tick(0);
+    shown.edit(0, ImportModel::BatteryName, u"B"_s);
+    shown.dialog.accept();
+    QCOMPARE(flying.catalogue().batteries.at(1).discharges.size(), 2);
+    Shown other(flying, {flying.log(at(8, 0))});
+    other.edit(0, ImportModel::BatteryName, u"B"_s); // the dialog goes while it is open
 }
 
 void ImportDialogTest::withoutABatteryNothingIsAdded()

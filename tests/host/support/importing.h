@@ -76,15 +76,20 @@ struct Shown
         dialog.m_table->setCurrentIndex(cell(row, 0));
         QTest::keyClick(dialog.m_table, Qt::Key_Space);
     }
-    void choose(int row, int column, const QString &name) const
+    /** Begins to choose a name. */
+    QComboBox *edit(int row, int column, const QString &name) const
     {
         dialog.m_table->setCurrentIndex(cell(row, column));
         QTest::keyClick(dialog.m_table, Qt::Key_F2);
         auto *chooser = dialog.m_table->findChild<QComboBox *>();
-        QVERIFY(chooser);
-        QVERIFY(!chooser->accessibleName().isEmpty());
+        if (!chooser || chooser->accessibleName().isEmpty())
+            qFatal("There is nothing to choose from, or it has no name.");
         chooser->setCurrentText(name);
-        QTest::keyClick(chooser, Qt::Key_Return);
+        return chooser;
+    }
+    void choose(int row, int column, const QString &name) const
+    {
+        QTest::keyClick(edit(row, column, name), Qt::Key_Return);
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
