@@ -4,6 +4,7 @@
 
 #include "host/window/exportdialog.h"
 #include "host/window/flightbookdialog.h"
+#include "host/window/importdialog.h"
 #include "host/window/manualwindow.h"
 #include "host/window/messagebar.h"
 #include "host/window/openlogbook.h"
@@ -44,6 +45,7 @@ void MainWindow::buildLogbookMenu()
     m_recent = menu->addMenu(tr("Open &Recent"));
     connect(m_recent, &QMenu::aboutToShow, this, &MainWindow::listRecentFolders);
     menu->addSeparator();
+    m_import = menu->addAction(tr("&Import Radio Logs…"), this, [this] { importLogs({}); });
     menu->addAction(tr("&Export…"), this, &MainWindow::exportLogbook);
     menu->addAction(tr("&Flight Book (print, PDF)…"), this,
                     [this] { showFlightBook(*m_logbook, m_questions, this); });
@@ -93,6 +95,7 @@ void MainWindow::updateActions()
     m_undo->setEnabled(m_logbook && m_logbook->canUndo());
     m_redo->setEnabled(m_logbook && m_logbook->canRedo());
     m_rename->setEnabled(m_logbook && m_logbook->mayChange());
+    m_import->setEnabled(m_logbook && m_logbook->mayChange());
 }
 
 /** What would be undone and done again; both versions are read for that, so only where somebody looks. */
@@ -163,6 +166,15 @@ void MainWindow::exportLogbook()
         return;
     m_messages->retract(u"export"_s); // the same once more is told once more
     tell(u"export"_s, report);
+}
+
+void MainWindow::importLogs(const QStringList &paths)
+{
+    const QString report = importByDialog(*m_logbook, m_questions, paths, this);
+    if (report.isEmpty())
+        return;
+    m_messages->retract(u"import"_s);
+    tell(u"import"_s, report);
 }
 
 void MainWindow::showPanel(bool visible)

@@ -70,6 +70,7 @@ MainWindow::MainWindow(Questions &questions, QWidget *parent)
     resize(size);
     // The desktop's, where it has one; dialogs take that of the application.
     QGuiApplication::setWindowIcon(QIcon::fromTheme(u"voltbok"_s, QIcon(u":/icons/voltbok.svg"_s)));
+    setAcceptDrops(true);
     buildMenus();
     connectLogbook();
     connect(m_messages, &MessageBar::told, this, &MainWindow::told);

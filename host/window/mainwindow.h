@@ -68,6 +68,8 @@ Q_SIGNALS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     void connectLogbook();
@@ -86,6 +88,7 @@ private:
     void undo();
     void redo();
     void rename();
+    void importLogs(const QStringList &paths);
     void exportLogbook();
     void showPanel(bool visible);
     void showPreferences();
@@ -113,6 +116,7 @@ private:
     MessageBar *m_messages;
     QSplitter *m_splitter;
     QMenu *m_recent = nullptr;
+    QAction *m_import = nullptr;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     QAction *m_rename = nullptr;

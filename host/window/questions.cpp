@@ -191,6 +191,12 @@ QString BoxQuestions::chooseFolder(const QString &caption)
     return QFileDialog::getExistingDirectory(QApplication::activeWindow(), caption);
 }
 
+QStringList BoxQuestions::chooseFiles(const QString &caption, const QStringList &filters)
+{
+    return QFileDialog::getOpenFileNames(QApplication::activeWindow(), caption, QString(),
+                                         filters.join(u";;"_s));
+}
+
 QString BoxQuestions::chooseSaveFile(const QString &caption, const QString &name, const QStringList &filters)
 {
     QFileDialog dialog(QApplication::activeWindow(), caption, folderOfDocuments());

@@ -71,6 +71,13 @@ public:
     virtual void tell(const QString &text) = 0;
     /** Lets the user choose an existing folder; empty when he does not. */
     virtual QString chooseFolder(const QString &caption) = 0;
+    /** Lets the user choose files to read; none when he does not. @param filters as below. */
+    virtual QStringList chooseFiles(const QString &caption, const QStringList &filters)
+    {
+        Q_UNUSED(caption)
+        Q_UNUSED(filters)
+        return QStringList();
+    }
     /**
      * Lets the user choose a file to write, and asks before it is one that exists; empty when he does not.
      *
@@ -97,6 +104,7 @@ public:
     Answer ask(const Question &question) override;
     void tell(const QString &text) override;
     QString chooseFolder(const QString &caption) override;
+    QStringList chooseFiles(const QString &caption, const QStringList &filters) override;
     QString chooseSaveFile(const QString &caption, const QString &name, const QStringList &filters) override;
     void print(const QString &name, const std::function<void(QPrinter &)> &paint) override;
     std::unique_ptr<Progress> progress(const QString &text, int steps) override;
@@ -109,6 +117,7 @@ public:
     Answer ask(const Question &question) override { return {question.refusal, -1}; }
     void tell(const QString &) override {}
     QString chooseFolder(const QString &) override { return QString(); }
+    QStringList chooseFiles(const QString &, const QStringList &) override { return QStringList(); }
     QString chooseSaveFile(const QString &, const QString &, const QStringList &) override
     {
         return QString();

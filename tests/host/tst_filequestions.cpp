@@ -21,6 +21,7 @@ class FileQuestionsTest : public QObject
 
 private Q_SLOTS:
     void aFolderIsChosenOrNot();
+    void severalFilesAreChosenOrNone();
     void aFileToWriteIsChosenOrNot_data();
     void aFileToWriteIsChosenOrNot();
     void onlyWhoWantsToPrintPaints_data();
@@ -37,6 +38,30 @@ void FileQuestionsTest::aFolderIsChosenOrNot()
         dialog->reject();
     });
     QCOMPARE(Host::BoxQuestions().chooseFolder(u"Keep it"_s), QString());
+}
+
+void FileQuestionsTest::severalFilesAreChosenOrNone()
+{
+    const QTemporaryDir folder;
+    const QStringList paths{folder.filePath(u"a.csv"_s), folder.filePath(u"b.csv"_s)};
+    for (const QString &path : paths)
+        QVERIFY(QFile(path).open(QFile::WriteOnly));
+    for (const bool isChosen : {true, false}) {
+        QTimer::singleShot(200, this, [&] {
+            auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            QCOMPARE(dialog->windowTitle(), u"Logs"_s);
+            QCOMPARE(dialog->nameFilters(), (QStringList{u"Logs (*.csv)"_s, u"All (*)"_s}));
+            dialog->setDirectory(folder.path());
+            dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(u"\"a.csv\" \"b.csv\""_s);
+            if (isChosen)
+                dialog->accept();
+            else
+                dialog->reject();
+        });
+        QCOMPARE(Host::BoxQuestions().chooseFiles(u"Logs"_s, {u"Logs (*.csv)"_s, u"All (*)"_s}),
+                 isChosen ? paths : QStringList());
+    }
 }
 
 void FileQuestionsTest::aFileToWriteIsChosenOrNot_data()

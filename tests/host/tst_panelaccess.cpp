@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a screen reader is told of the program around the logbook, and what the keyboard reaches.
 #include "host/window/flightdialog.h"
+#include "host/window/importdialog.h"
 #include "host/window/manualwindow.h"
 #include "host/window/movedialog.h"
 #include "host/window/preferencesdialog.h"
@@ -12,6 +13,7 @@
 #include <QAccessible>
 #include <QMenuBar>
 #include <QScrollArea>
+#include <QThread>
 
 #include <functional>
 #include <memory>
@@ -124,6 +126,20 @@ void PanelAccessTest::addWindows()
         [](HostWindow &window) { return new TidyDialog(*window.logbook().catalogue(), doubles()); });
     QTest::newRow("add a flight") << MakeWindow([](HostWindow &window) {
         return new FlightDialog(window.logbook().catalogue(), window.logbook(), window.questions);
+    });
+    QTest::newRow("import") << MakeWindow([](HostWindow &window) {
+        const QString logs = window.place() + u"/logs"_s;
+        QDir().mkdir(logs);
+        const QByteArray log = "Date,Time,Curr(A),Capa(mAh)\n2026-05-04,10:00:00.000,20,0\n"
+                               "2026-05-04,10:00:30.000,20,170\n";
+        if (!Test::write(logs + u"/table.csv"_s, "a,b\n1,2\n") ||
+            !Test::write(logs + u"/Kestrel-2026-05-04-100000.csv"_s, log))
+            qFatal("The logs are not written.");
+        auto *dialog = new ImportDialog(window.logbook(), window.questions);
+        dialog->add({logs});
+        if (!QTest::qWaitFor([dialog] { return !dialog->m_thread; }))
+            qFatal("The logs are not read.");
+        return dialog;
     });
     QTest::newRow("manual") << MakeWindow([](HostWindow &window) -> QWidget * {
         ManualWindow::showBeside(&window.window());

@@ -22,6 +22,8 @@ public:
 
     /** The next time a file to write is asked for, it is this one; empty: the user does not choose any. */
     void chooseFile(const QString &path) { m_files.append(path); }
+    /** The next time files to read are asked for, it is these; none: the user does not choose any. */
+    void chooseFiles(const QStringList &paths) { m_fileLists.append(paths); }
     /** The next time something is printed, it becomes this PDF; empty: the user does not print. */
     void printTo(const QString &path) { m_prints.append(path); }
 
@@ -35,7 +37,8 @@ public:
     /** Whether every answer was asked for. */
     bool isDone() const
     {
-        return m_answers.isEmpty() && m_folders.isEmpty() && m_files.isEmpty() && m_prints.isEmpty();
+        return m_answers.isEmpty() && m_folders.isEmpty() && m_files.isEmpty() && m_fileLists.isEmpty() &&
+               m_prints.isEmpty();
     }
 
     Host::Answer ask(const Host::Question &question) override
@@ -60,6 +63,14 @@ public:
             return m_folders.takeFirst();
         fail("a folder that nobody expected to be asked for: " + caption);
         return QString();
+    }
+
+    QStringList chooseFiles(const QString &caption, const QStringList &) override
+    {
+        if (!m_fileLists.isEmpty())
+            return m_fileLists.takeFirst();
+        fail("files that nobody expected to be asked for: " + caption);
+        return QStringList();
     }
 
     QString chooseSaveFile(const QString &caption, const QString &name, const QStringList &) override
@@ -152,6 +163,7 @@ private:
     QList<Scripted> m_answers;
     QStringList m_folders;
     QStringList m_files;
+    QList<QStringList> m_fileLists;
     QStringList m_prints;
     QStringList m_proposed;
     QList<Host::Question> m_asked;
