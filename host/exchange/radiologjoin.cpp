@@ -10,9 +10,9 @@
 namespace Host {
 namespace {
 
-constexpr qint64 LongestBreak = 30 * 60'000; // ms, in which a battery may stay plugged in
-constexpr qint64 LongestGap = 60'000;        // ms, within a session; also the shortest pause of a flight
-constexpr double SameCounter = 5;            // mAh
+constexpr qint64 LongestBreak = qint64(30) * 60'000; // ms, in which a battery may stay plugged in
+constexpr qint64 LongestGap = 60'000; // ms, within a session; also the shortest pause of a flight
+constexpr double SameCounter = 5;     // mAh
 
 /** A session, and the one whose discharge it goes on with. */
 struct Link

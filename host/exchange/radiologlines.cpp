@@ -16,9 +16,9 @@ constexpr qsizetype BufferSize =
 LogLines::LogLines(QIODevice &device, qint64 from)
     : m_device(device)
     , m_buffer(BufferSize, Qt::Uninitialized)
+    , m_end(from)
+    , m_hasFailed(!device.seek(from))
 {
-    m_end = from;
-    m_hasFailed = !device.seek(from);
 }
 
 bool LogLines::next()

@@ -73,7 +73,7 @@ QString statusKey(LogStatus status)
 QString fingerprint(QIODevice &device, qint64 bytes)
 {
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    QByteArray buffer(256 * 1024, Qt::Uninitialized);
+    QByteArray buffer(qsizetype(256) * 1024, Qt::Uninitialized);
     if (!device.seek(0))
         return QString();
     qint64 left = std::min(bytes, device.size());
