@@ -281,15 +281,17 @@ void ImportDialogTest::aLogbookThatChangesMeanwhileIsReadAgain()
 {
     Flying flying;
     Shown shown(flying, {flying.log(at(14, 38))});
-    QCOMPARE(flying.window.logbook().change(u"Edited"_s,
-                                            [](Catalogue &catalogue) {
-                                                catalogue.batteries[0].discharges[0].discharged = 1400;
-                                                return QString();
-                                            }),
-             QString());
+    ImportDialog reading(flying.window.logbook(), flying.window.questions);
+    reading.add({flying.card()});
+    const auto enter = [](Catalogue &catalogue) {
+        catalogue.batteries[0].discharges[0].discharged = 1400;
+        return QString();
+    };
+    QCOMPARE(flying.window.logbook().change(u"Edited"_s, enter), QString());
     shown.wait();
     QCOMPARE(shown.outcomes(), QStringList(u"you entered the values of the flight"_s));
     QVERIFY(!shown.dialog.m_import->isEnabled());
+    QTRY_COMPARE(Panel::texts(*reading.m_table, u"What will happen"_s), shown.outcomes());
 }
 
 void ImportDialogTest::nothingIsImportedWhereNothingMayBeChanged()
