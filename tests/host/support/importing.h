@@ -48,6 +48,15 @@ struct Flying
             qFatal("A log cannot be written.");
         return path;
     }
+    /** One that nobody waits for; it takes no room on the disk. */
+    QString endless() const
+    {
+        constexpr qint64 Size = qint64(16) << 30;
+        QFile file(card() + u"/Skylark-2026-05-04-143800.csv"_s);
+        if (!file.open(QFile::WriteOnly) || !file.resize(Size))
+            qFatal("A log cannot be written.");
+        return file.fileName();
+    }
 
     HostWindow window;
 };
