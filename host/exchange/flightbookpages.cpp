@@ -123,7 +123,7 @@ void FlightBookPages::measureColumns()
             flexible.append({needs.at(at), column});
             continue;
         }
-        m_widths.at(at) = qMin(needs.at(at), body().width() / ColumnCount);
+        m_widths.at(at) = qMin(needs.at(at), body().width() / int(ColumnCount));
         left -= m_widths.at(at);
     }
     std::sort(flexible.begin(), flexible.end());

@@ -22,8 +22,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 
-const QDate FirstDay(1900, 1, 1); // a spreadsheet counts from here
-const QDate LastDay(9999, 12, 31);
 constexpr qsizetype ChunkSize = qsizetype(64) * 1024;
 constexpr double SecondsOfADay = 86'400.0;
 
@@ -40,9 +38,10 @@ double serialOf(QDate date)
     return static_cast<double>(date < QDate(1900, 3, 1) ? days - 1 : days);
 }
 
+/** A spreadsheet counts from 1900 on. */
 bool isCountable(QDate date)
 {
-    return date >= FirstDay && date <= LastDay;
+    return date >= QDate(1900, 1, 1) && date <= QDate(9999, 12, 31);
 }
 
 class XlsxWriter final : public TableWriter
