@@ -208,7 +208,7 @@ void ImportDialog::finish(const Reading &reading)
 /** A clock that is off by the same on all days is corrected when the user wants it. */
 void ImportDialog::offerClock(const std::optional<qint64> &offset)
 {
-    constexpr qint64 Minute = 60 * 1000;
+    constexpr qint64 Minute = qint64(60) * 1000;
     constexpr qint64 MinutesOfAnHour = 60;
     const bool isSame = offset.value_or(0) == m_clockOffset;
     m_clockOffset = offset.value_or(0);
