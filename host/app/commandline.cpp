@@ -193,7 +193,8 @@ Invocation invocationOf(const QCommandLineParser &parser, const Command &command
     for (const CommandOption &option : command.options) {
         if (!parser.isSet(option.name))
             continue;
-        QStringList values = parser.values(option.name);
+        // Newer versions of Qt complain when a switch is asked for its values.
+        QStringList values = option.kind == ValueKind::None ? QStringList() : parser.values(option.name);
         if (option.kind == ValueKind::Path)
             std::transform(values.begin(), values.end(), values.begin(), withHome);
         invocation.options.insert(option.name, values);

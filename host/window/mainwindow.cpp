@@ -19,11 +19,13 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QIcon>
+#include <QPainter>
 #include <QPixmap>
 #include <QScreen>
 #include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
+#include <QSvgRenderer>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -40,6 +42,22 @@ QString titleOf(const StorageFolder &folder)
     if (folder.path() == StorageFolder::ofDemo().path())
         return MainWindow::tr("Voltbok - sample logbook");
     return u"Voltbok - %1"_s.arg(QFileInfo(folder.path()).fileName());
+}
+
+/** Drawn here: an icon that Qt makes of the file needs a plugin, which not every system installs with Qt. */
+QIcon ownIcon()
+{
+    QSvgRenderer drawing(u":/icons/voltbok.svg"_s);
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128, 256}) {
+        QPixmap pixmap(size, size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        drawing.render(&painter);
+        painter.end();
+        icon.addPixmap(pixmap);
+    }
+    return icon;
 }
 
 } // namespace
@@ -69,7 +87,7 @@ MainWindow::MainWindow(Questions &questions, QWidget *parent)
     setCentralWidget(content);
     resize(size);
     // The desktop's, where it has one; dialogs take that of the application.
-    QGuiApplication::setWindowIcon(QIcon::fromTheme(u"voltbok"_s, QIcon(u":/icons/voltbok.svg"_s)));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(u"voltbok"_s, ownIcon()));
     setAcceptDrops(true);
     buildMenus();
     connectLogbook();
