@@ -21,8 +21,12 @@ namespace {
 
 CommandLine readCommandLine(int &argc, char **argv)
 {
-    // An application without windows, so that help and mistakes need no display.
+    // An application without windows, so that help and mistakes need no display. Newer versions of Qt say in
+    // four lines that a locale such as C is not UTF-8, and go on with UTF-8: that is what is wanted.
+    const QtMessageHandler before =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     const QCoreApplication application(argc, argv);
+    qInstallMessageHandler(before);
     return Host::readCommandLine(QCoreApplication::arguments());
 }
 
