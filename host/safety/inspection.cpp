@@ -3,6 +3,8 @@
 #include "host/safety/wholefile.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
 #include <QXmlStreamReader>
 
 using namespace Qt::Literals::StringLiterals;
@@ -58,6 +60,13 @@ void count(Contents &contents, QStringView name, int level)
         ++contents.flights;
 }
 
+/** Whether a document may be XML, by its first byte: a bracket, white space, or the mark of an encoding. */
+bool mayBeXml(const QByteArray &document)
+{
+    static const QByteArray Starts("< \t\r\n\0\xEF\xFE\xFF", 9);
+    return !document.isEmpty() && Starts.contains(document.front());
+}
+
 bool isLogbookName(QStringView root)
 {
     return root.contains(u"Voltbok");
@@ -107,8 +116,10 @@ Contents WholeFile::inspect(const QByteArray &document)
 
 bool WholeFile::isLogbook(const QString &path)
 {
-    const Reading reading = read(path);
-    QXmlStreamReader reader(reading.bytes);
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QFile::ReadOnly) || !mayBeXml(file.peek(1)))
+        return false;
+    QXmlStreamReader reader(&file);
     return reader.readNextStartElement() && isLogbookName(reader.name());
 }
 
