@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/exchange/radiologcolumns.h"
 #include "host/exchange/radiologheader.h"
 #include "host/exchange/radiologrow.h"
 #include "tests/host/support/readlog.h"
@@ -20,6 +21,12 @@ private Q_SLOTS:
     void unitsAreConverted();
     void bothHalvesOfARedundantSupplyAreAdded();
     void aChosenMappingIsReadByName();
+    void whatWasChosenCountsBeforeTheRule_data();
+    void whatWasChosenCountsBeforeTheRule();
+    void unitsOfChosenColumnsAreConverted();
+    void aChoiceIsForItsHeaderOnly();
+    void whatMustBeChosenComesWithSamples();
+    void aColumnMayBeWhatItsUnitSays();
     void aMappingIsNeededForUnknownColumnsOnly_data();
     void aMappingIsNeededForUnknownColumnsOnly();
     void theKeyIsThatOfTheHeader();
@@ -33,6 +40,9 @@ private Q_SLOTS:
 private:
     static RadioLog logOf(const QByteArray &sensors, const QList<QByteArray> &rows,
                           const ReadOptions &options = {});
+    /** As it is read by the columns that the user chose for its header. */
+    static RadioLog logBy(const ColumnMapping &chosen, const QByteArray &sensors,
+                          const QList<QByteArray> &rows);
 };
 
 RadioLog RadioLogColumnsTest::logOf(const QByteArray &sensors, const QList<QByteArray> &rows,
@@ -44,6 +54,14 @@ RadioLog RadioLogColumnsTest::logOf(const QByteArray &sensors, const QList<QByte
         bytes += "2026-05-01,14:00:" + QByteArray::number(second++).rightJustified(2, '0') + "," + row +
                  ",0,7.9\n";
     return MadeLogs::readLog(bytes, options);
+}
+
+RadioLog RadioLogColumnsTest::logBy(const ColumnMapping &chosen, const QByteArray &sensors,
+                                    const QList<QByteArray> &rows)
+{
+    ReadOptions options;
+    options.mappings = {{logOf(sensors, rows).headerKey, chosen}};
+    return logOf(sensors, rows, options);
 }
 
 void RadioLogColumnsTest::theFirstKnownColumnThatSaysSomethingIsRead_data()
@@ -106,17 +124,98 @@ void RadioLogColumnsTest::bothHalvesOfARedundantSupplyAreAdded()
 void RadioLogColumnsTest::aChosenMappingIsReadByName()
 {
     const QList<QByteArray> rows{"1,20,12.1,4", "1,20,12.2,5", "1,20,12.3,7"};
-    ReadOptions options;
-    options.mapping = {u"Drawn"_s, u"Amps(A)"_s, u"Pack(V)"_s};
-    const RadioLog log = logOf("Curr(A),Amps(A),Pack(V),Drawn", rows, options);
-    QCOMPARE(log.mapping, options.mapping);
+    const ColumnMapping chosen{u"Drawn"_s, u"Amps(A)"_s, u"Pack(V)"_s};
+    const RadioLog log = logBy(chosen, "Curr(A),Amps(A),Pack(V),Drawn", rows);
+    QCOMPARE(log.mapping, chosen);
+    QVERIFY(!log.needsMapping);
     QCOMPARE(log.sessions.first().maxCurrent, 20);
     QCOMPARE(log.sessions.first().counterLast, 7);
     QCOMPARE(log.sessions.first().maxVoltage, 12.3);
     QCOMPARE(log.columns, QStringList({u"Curr(A)"_s, u"Amps(A)"_s, u"Pack(V)"_s, u"Drawn"_s}));
-    options.mapping = {QString(), u"Amps(A)"_s, u"Gone(V)"_s};
-    QCOMPARE(logOf("Drawn,Amps(A),VFAS(V),Capa(mAh)", rows, options).mapping,
-             (ColumnMapping{u"Capa(mAh)"_s, u"Amps(A)"_s, u"VFAS(V)"_s}));
+}
+
+void RadioLogColumnsTest::whatWasChosenCountsBeforeTheRule_data()
+{
+    QTest::addColumn<ColumnMapping>("chosen");
+    QTest::addColumn<QByteArray>("row"); // of "Drawn(mAh),Amps(A),VFAS(V),Capa(mAh),RxBt(V)"
+    QTest::addColumn<ColumnMapping>("read");
+    const QString known = u"Capa(mAh)"_s;
+    const QString drawn = u"Drawn(mAh)"_s;
+    const QString amps = u"Amps(A)"_s;
+    const QString volts = u"VFAS(V)"_s;
+    const QByteArray full("1,20,12.1,4,7.4");
+    QTest::newRow("another") << ColumnMapping{drawn, amps, volts} << full
+                             << ColumnMapping{drawn, amps, volts};
+    QTest::newRow("none of each") << ColumnMapping{} << full << ColumnMapping{};
+    QTest::newRow("no consumption") << ColumnMapping{{}, amps, {}} << full << ColumnMapping{{}, amps, {}};
+    QTest::newRow("all zero") << ColumnMapping{drawn, amps, volts} << QByteArray("0,20,12.1,4,7.4")
+                              << ColumnMapping{known, amps, volts};
+    QTest::newRow("one that is not there")
+        << ColumnMapping{u"Gone(mAh)"_s, amps, u"Gone(V)"_s} << full << ColumnMapping{known, amps, volts};
+}
+
+void RadioLogColumnsTest::whatWasChosenCountsBeforeTheRule()
+{
+    QFETCH(ColumnMapping, chosen);
+    QFETCH(QByteArray, row);
+    const RadioLog log = logBy(chosen, "Drawn(mAh),Amps(A),VFAS(V),Capa(mAh),RxBt(V)", {row, row, row});
+    QTEST(log.mapping, "read");
+    QVERIFY(!log.needsMapping);
+}
+
+void RadioLogColumnsTest::unitsOfChosenColumnsAreConverted()
+{
+    const QList<QByteArray> rows{"1.5,20000,12100", "1.5,20000,12100", "1.75,20000,12100"};
+    const ColumnMapping chosen{u"Drawn(Ah)"_s, u"Motor(mA)"_s, u"Pack(mV)"_s};
+    const Session session = logBy(chosen, "Drawn(Ah),Motor(mA),Pack(mV)", rows).sessions.first();
+    QCOMPARE(session.counterFirst, 1500);
+    QCOMPARE(session.counterLast, 1750);
+    QCOMPARE(session.maxCurrent, 20);
+    QCOMPARE(session.maxVoltage, 12.1);
+}
+
+void RadioLogColumnsTest::aChoiceIsForItsHeaderOnly()
+{
+    ReadOptions options;
+    options.mappings = {{logOf("Amps(A)", {"1"}).headerKey, {{}, u"Amps(A)"_s, {}}}};
+    QCOMPARE(logOf("Amps(A)", {"1"}, options).mapping.current, u"Amps(A)"_s);
+    QCOMPARE(logOf("Amps(A),RSSI(dB)", {"1,80"}, options).mapping.current, QString());
+    QVERIFY(logOf("Amps(A),RSSI(dB)", {"1,80"}, options).needsMapping);
+}
+
+/** From all over the file, of the columns that can be chosen. */
+void RadioLogColumnsTest::whatMustBeChosenComesWithSamples()
+{
+    QList<QByteArray> rows;
+    for (int i = 0; i < 50; ++i)
+        rows.append("FM" + QByteArray::number(i) + "," + QByteArray::number(10 + i) + ".5");
+    const RadioLog log = logOf("FM,Amps(A)", rows);
+    QCOMPARE(log.columns, QStringList({u"FM"_s, u"Amps(A)"_s}));
+    QCOMPARE(log.samples.size(), 5);
+    QCOMPARE(log.samples.first(), QStringList({u"FM0"_s, u"10.5"_s}));
+    QVERIFY(log.samples.last().last().toDouble() > 45);
+    for (const QStringList &sample : log.samples)
+        QCOMPARE(sample.size(), 2);
+    QCOMPARE(logOf("FM,Amps(A)", {"FM0,1", "FM0,2"}).samples.size(), 2);
+    QVERIFY(logOf("FM,Curr(A),Capa(mAh)", {"FM0,1,2"}).samples.isEmpty());
+}
+
+void RadioLogColumnsTest::aColumnMayBeWhatItsUnitSays()
+{
+    const auto kinds = [](const QString &column) {
+        QString text;
+        for (const LogColumns::Kind kind : {LogColumns::Consumed, LogColumns::Current, LogColumns::Volts})
+            text += LogColumns::mayBe(kind, column) ? u'x' : u'-';
+        return text;
+    };
+    QCOMPARE(kinds(u"a(mAh)"_s), u"x--"_s);
+    QCOMPARE(kinds(u"a(Ah)"_s), u"x--"_s);
+    QCOMPARE(kinds(u"a(MA)"_s), u"-x-"_s);
+    QCOMPARE(kinds(u"a(A)"_s), u"-x-"_s);
+    QCOMPARE(kinds(u"a(V)"_s), u"--x"_s);
+    QCOMPARE(kinds(u"a(mV)"_s), u"--x"_s);
+    QCOMPARE(kinds(u"a(%)"_s), u"---"_s);
+    QCOMPARE(kinds(u"a"_s), u"xxx"_s);
 }
 
 void RadioLogColumnsTest::aMappingIsNeededForUnknownColumnsOnly_data()
@@ -128,6 +227,8 @@ void RadioLogColumnsTest::aMappingIsNeededForUnknownColumnsOnly_data()
     QTest::newRow("an unknown current") << QByteArray("RSSI(dB),Capa(mAh),Amps(A)") << true;
     QTest::newRow("an unknown current in mA") << QByteArray("RSSI(dB),Amps(mA)") << true;
     QTest::newRow("an unknown counter") << QByteArray("RSSI(dB),Used(mAh),Curr(A)") << true;
+    QTest::newRow("the receiver's own battery") << QByteArray("RSSI(dB),BCur(mAh),Curr(A)") << false;
+    QTest::newRow("something without a unit") << QByteArray("RSSI(dB),Motor") << false;
     QTest::newRow("no units anywhere") << QByteArray("Pack,Motor") << true;
     QTest::newRow("old names without units") << QByteArray("A1,Current,Consumption") << false;
 }
