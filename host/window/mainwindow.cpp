@@ -3,6 +3,7 @@
 
 #include "gui/voltbokgui.h"
 #include "host/safety/folderlock.h"
+#include "host/window/cardwatch.h"
 #include "host/window/logbookpages.h"
 #include "host/window/messagebar.h"
 #include "host/window/openlogbook.h"
@@ -176,6 +177,7 @@ void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> l
     buildPanel();
     restoreLayout();
     updateActions();
+    watchCards();
     m_settings.addRecentFolder(folder.path());
     tellAboutSettings();
     Q_EMIT folderTaken(folder);
@@ -192,7 +194,8 @@ void MainWindow::reload()
 
 void MainWindow::closeLogbook()
 {
-    delete std::exchange(m_panel, nullptr); // each of them uses the next
+    m_cards.reset(); // each of them uses the next
+    delete std::exchange(m_panel, nullptr);
     m_logbook.reset();
     m_care.reset();
 }
