@@ -112,7 +112,7 @@ void Evening::import()
     });
     (*action)->trigger();
     m_window.showPage(u"flights"_s);
-    m_window.resize(m_window.sizeHint());
+    m_window.resize(980, 640);
     save(m_window, u"import-result"_s);
 }
 
@@ -121,6 +121,7 @@ void Evening::useDialog(ImportDialog &dialog)
     const auto *table = dialog.findChild<QTableView *>();
     dialog.findChildren<QPushButton *>().at(1)->click(); // the folder or card
     wait([table] { return table->isEnabled() && table->model()->rowCount() > 0; });
+    dialog.resize(900, 320);
     save(dialog, u"import-dialog"_s);
     table->model()->setData(table->model()->index(2, 0), Qt::Checked, Qt::CheckStateRole);
     dialog.accept();

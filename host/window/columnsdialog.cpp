@@ -74,7 +74,6 @@ ColumnsDialog::ColumnsDialog(const RadioLog &log, const QString &name, int other
     m_hint->setWordWrap(true);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     m_use = buttons->addButton(tr("Use &These"), QDialogButtonBox::AcceptRole);
-    m_use->setDefault(true);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     buttons->setFocusProxy(nullptr); // with its own, Tab would leave out what comes before the first button
@@ -85,6 +84,7 @@ ColumnsDialog::ColumnsDialog(const RadioLog &log, const QString &name, int other
     layout->addWidget(samples, 1);
     layout->addWidget(m_hint);
     layout->addWidget(buttons);
+    m_use->setDefault(true);
     refresh();
     const QSize most = screen()->availableSize() * 9 / 10;
     resize(QSize(fontMetrics().averageCharWidth() * 75, fontMetrics().lineSpacing() * 24).boundedTo(most));
@@ -116,7 +116,7 @@ QWidget *ColumnsDialog::makeSamples(const RadioLog &log)
     auto *table = new QTableWidget(rows, samples + 1);
     QStringList titles{tr("Column")};
     for (int sample = 1; sample <= samples; ++sample)
-        titles.append(tr("Row %1").arg(sample));
+        titles.append(tr("Value %1").arg(sample));
     table->setHorizontalHeaderLabels(titles);
     for (int row = 0; row < rows; ++row) {
         table->setItem(row, 0, shown(log.columns.at(row)));

@@ -238,6 +238,7 @@ void ColumnsDialogTest::theKeyboardWillDo()
     for (const QComboBox *choice : dialog.m_choices)
         QVERIFY(named.contains(choice));
     QCOMPARE(dialog.focusWidget(), dialog.m_choices.at(0));
+    QVERIFY(dialog.m_use->isDefault());
     for (const QString &name : {u"Drawn"_s, u"Motor(A)"_s, u"Pack(V)"_s}) {
         QTest::keyClicks(dialog.focusWidget(), name.left(2));
         QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
