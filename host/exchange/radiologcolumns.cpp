@@ -170,12 +170,7 @@ void LogColumns::addLastResorts(const LogHeader &header)
 
 void LogColumns::add(Kind kind, LogColumn column)
 {
-    std::vector<LogColumn> &candidates = m_candidates.at(kind);
-    const bool isThere = std::any_of(candidates.begin(), candidates.end(), [&column](const LogColumn &other) {
-        return other.parts == column.parts;
-    });
-    if (!isThere)
-        candidates.push_back(std::move(column));
+    m_candidates.at(kind).push_back(std::move(column));
 }
 
 /** Whether no column is known, but one may be it; one without a unit only where none has one. */

@@ -32,6 +32,9 @@ private Q_SLOTS:
     void theKeyIsThatOfTheHeader();
     void aHeaderIsSplitAtItsUnits_data();
     void aHeaderIsSplitAtItsUnits();
+    void aHeaderBeginsWithDateAndTime_data();
+    void aHeaderBeginsWithDateAndTime();
+    void aUnitStandsInTheLastBrackets();
     void fieldsAreSplitAtCommasOutsideQuotes_data();
     void fieldsAreSplitAtCommasOutsideQuotes();
     void numbersHaveAPoint_data();
@@ -83,6 +86,9 @@ void RadioLogColumnsTest::theFirstKnownColumnThatSaysSomethingIsRead_data()
     add("capitals", "CURR(A),capa(MAH),vbat(V)", {"1,1,11"}, "capa(MAH)|CURR(A)|vbat(V)");
     add("cells", "Cels(V),ECUR(A)", {"11,1"}, "|ECUR(A)|Cels(V)");
     add("absurd values say nothing", "Curr(A),EscA(A)", {"162752521.4,1", "0,2"}, "|EscA(A)|");
+    add("absurd volts say nothing", "VFAS(V),Vbat(V)", {"9999,0", "0,11"}, "||Vbat(V)");
+    add("a blank before the unit", "Curr (A)", {"5"}, "|Curr (A)|");
+    add("more than half of a pair's label", "RB1Amp(A),RB2Amp(A)", {"1,1"}, "||");
     add("any counter", "Used(mAh),Curr(A)", {"1,1", "5,1"}, "Used(mAh)|Curr(A)|");
     add("falls to 0", "Used(mAh)", {"1", "5", "0", "1", "2"}, "Used(mAh)||");
     add("falls", "Left(mAh),Used(mAh)", {"900,1", "800,2"}, "Used(mAh)||");
@@ -90,6 +96,7 @@ void RadioLogColumnsTest::theFirstKnownColumnThatSaysSomethingIsRead_data()
     add("never this one", "BCur(mAh)", {"1", "5"}, "||");
     add("the receiver's own voltage", "RxBt(V)", {"5.5"}, "||");
     add("the battery at the receiver", "RxBt(V)", {"5.2", "5.6"}, "||RxBt(V)");
+    add("the receiver anywhere", "RSSI(dB),RxBt(V)", {"90,7.4"}, "||RxBt(V)");
     add("another instead of the receiver's", "RxBt(V),VFAS(V)", {"7.4,11"}, "||VFAS(V)");
     add("the receiver's instead of nothing", "RxBt(V),VFAS(V)", {"7.4,0"}, "||RxBt(V)");
     add("equal names", "Curr(A),Curr(A)", {"0,1", "0,2"}, "|Curr(A)|");
@@ -258,6 +265,10 @@ void RadioLogColumnsTest::aHeaderIsSplitAtItsUnits_data()
                                << u"Date|Time|RSSI(dB)|My,Curr(A)|LSW|CH1(us)"_s;
     QTest::newRow("two commas") << QByteArray("Date,Time,A,B,C(V),Rud,SA,TxBat(V)") << 6
                                 << u"Date|Time|A,B,C(V)|Rud|SA|TxBat(V)"_s;
+    QTest::newRow("before one of the radio")
+        << QByteArray("Date,Time,Drawn,TQly,My,Curr(A)") << 5 << u"Date|Time|Drawn|TQly|My,Curr(A)"_s;
+    QTest::newRow("the last without a unit")
+        << QByteArray("Date,Time,My,Curr(A),Drawn") << 4 << u"Date|Time|My,Curr(A)|Drawn"_s;
     QTest::newRow("one without a unit")
         << QByteArray("Date,Time,TQly,Left,Curr(A),Rud") << 5 << u"Date|Time|TQly|Left,Curr(A)|Rud"_s;
     QTest::newRow("no comma in a label") << QByteArray("Date,Time,RSSI(dB),Curr(A),Rud") << 4 << QString();
@@ -274,6 +285,34 @@ void RadioLogColumnsTest::aHeaderIsSplitAtItsUnits()
     for (qsizetype i = 0; i < split.count(); ++i)
         found.append(split.name(i));
     QCOMPARE(found.join(u'|'), names.isEmpty() ? QString::fromLatin1(header).replace(u',', u'|') : names);
+}
+
+void RadioLogColumnsTest::aHeaderBeginsWithDateAndTime_data()
+{
+    QTest::addColumn<QByteArray>("header");
+    QTest::addColumn<bool>("isLog");
+    QTest::newRow("one sensor") << QByteArray("Date,Time,Curr(A)") << true;
+    QTest::newRow("with a mark of UTF-8") << QByteArray("\xEF\xBB\xBF"
+                                                        "Date,Time,Curr(A)")
+                                          << true;
+    QTest::newRow("no sensor") << QByteArray("Date,Time") << false;
+    QTest::newRow("another second") << QByteArray("Date,Place,Curr(A)") << false;
+    QTest::newRow("another first") << QByteArray("Day,Time,Curr(A)") << false;
+}
+
+void RadioLogColumnsTest::aHeaderBeginsWithDateAndTime()
+{
+    QFETCH(QByteArray, header);
+    QTEST(LogHeader(header).isRadioLog(), "isLog");
+}
+
+void RadioLogColumnsTest::aUnitStandsInTheLastBrackets()
+{
+    QCOMPARE(unitOf(u"Curr (main)(A)"_s), u"A"_s);
+    QCOMPARE(labelOf(u"Curr (main)(A)"_s), u"Curr (main)"_s);
+    QCOMPARE(unitOf(u"Cell(1)x"_s), QString());
+    QCOMPARE(labelOf(u"Cell(1)x"_s), u"Cell(1)x"_s);
+    QCOMPARE(labelOf(u"Curr (A)"_s), u"Curr"_s);
 }
 
 void RadioLogColumnsTest::fieldsAreSplitAtCommasOutsideQuotes_data()
