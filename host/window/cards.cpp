@@ -51,8 +51,6 @@ QList<Volume> Cards::mounted()
 QString Cards::logsFolder(const Volume &volume)
 {
     const QString folder = QDir(volume.root).filePath(u"LOGS"_s);
-    if (!QFileInfo(folder).isDir())
-        return QString();
     return QDirIterator(folder, {u"*.csv"_s}, QDir::Files, QDirIterator::Subdirectories).hasNext()
                ? folder
                : QString();

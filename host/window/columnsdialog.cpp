@@ -84,7 +84,6 @@ ColumnsDialog::ColumnsDialog(const RadioLog &log, const QString &name, int other
     layout->addWidget(samples, 1);
     layout->addWidget(m_hint);
     layout->addWidget(buttons);
-    m_use->setDefault(true);
     refresh();
     const QSize most = screen()->availableSize() * 9 / 10;
     resize(QSize(fontMetrics().averageCharWidth() * 75, fontMetrics().lineSpacing() * 24).boundedTo(most));

@@ -33,7 +33,6 @@ private Q_SLOTS:
     void eachCardIsOfferedByItself();
     void theOfferIsGoneWhenItsLogsWereImportedInAnotherWay();
     void theButtonImportsWhatIsOnTheCard();
-    void anOfferCanBeRefused();
     void nothingIsOfferedWhereNothingCanBeImported();
     void nobodyLooksWhileTheWindowIsNotActive();
     void aSlowCardHoldsUpNobody();
@@ -150,8 +149,7 @@ void CardsTest::theSystemsOwnVolumeIsNone()
         QVERIFY(!volume.name.isEmpty());
         ids.insert(volume.id);
     }
-    QVERIFY(!volumes.isEmpty()); // the system mounts some of its own
-    QVERIFY(ids.size() > volumes.size() / 2);
+    QVERIFY(ids.size() > volumes.size() / 2); // the system mounts some of its own
 }
 
 void CardsTest::aLogIsKnownByItsNameAndLengthOrItsBytes()
@@ -167,6 +165,7 @@ void CardsTest::aLogIsKnownByItsNameAndLengthOrItsBytes()
     QVERIFY(!isNew({known(u"a.csv"_s, "Date,Time,B\n")})); // as long: nobody reads it for that
     QVERIFY(isNew({known(u"a.csv"_s, "Date,Time,AB\n")}));
     QVERIFY(isNew({known(u"b.csv"_s, "Date,Time,B\n")}));
+    QVERIFY(isNew({known(u"a.csv"_s, "Date,Time,AB\n"), known(u"b.csv"_s, "Date,Time,B\n")}));
     QVERIFY(!isNew({known(u"b.csv"_s, "Date,Time,A\n")}));
     QVERIFY(!isNew({known(u"c.csv"_s, "Date,Time,C\n"), known(u"b.csv"_s, "Date,Time,A\n")}));
 }
@@ -185,6 +184,9 @@ void CardsTest::lookingCanBeStopped()
         QVERIFY(Test::write(place.filePath(u"%1.csv"_s.arg(i)), "Date,Time\n"));
     QCOMPARE(Cards::unknownLogs(place.path(), {}, {}).size(), 20);
     QVERIFY(Cards::unknownLogs(place.path(), {}, [] { return false; }).isEmpty());
+    int asked = 0; // and when all are found
+    const qsizetype found = Cards::unknownLogs(place.path(), {}, [&asked] { return ++asked <= 30; }).size();
+    QVERIFY(found > 0 && found < 20);
 }
 
 void CardsTest::aCardIsOfferedOnce()
@@ -200,7 +202,11 @@ void CardsTest::aCardIsOfferedOnce()
     watched.look();
     watched.activate();
     QCOMPARE(watched.window.told.count(OneLog), 1);
-    watched.window.press(u"Not Now"_s);
+    QPushButton *refusal = watched.window.button(u"Not Now"_s);
+    QVERIFY(refusal);
+    refusal->setFocus();
+    QTest::keyClick(refusal, Qt::Key_Space);
+    QVERIFY(!watched.window.messages().isVisible());
     watched.look();
     watched.activate();
     QCOMPARE(watched.offer(), QString());
@@ -287,7 +293,8 @@ void CardsTest::theButtonImportsWhatIsOnTheCard()
     *watched.volumes = {watched.volume()};
     const QByteArray before = watched.window.bytes();
     watched.look();
-    QTimer::singleShot(0, &watched.window.window(), [] {
+    QTimer::singleShot(0, &watched.window.window(), [&watched] {
+        QCOMPARE(watched.offer(), QString());
         auto *dialog = qobject_cast<ImportDialog *>(QApplication::activeModalWidget());
         QVERIFY(dialog);
         QVERIFY(QTest::qWaitFor([dialog] { return !dialog->m_thread; }, LongEnough));
@@ -304,20 +311,6 @@ void CardsTest::theButtonImportsWhatIsOnTheCard()
     QCOMPARE(watched.window.bytes(), before);
     watched.activate();
     QCOMPARE(watched.offer(), QString()); // who takes it back need not be asked again
-}
-
-void CardsTest::anOfferCanBeRefused()
-{
-    Watched watched;
-    watched.log(at(14, 38));
-    *watched.volumes = {watched.volume()};
-    watched.look();
-    QPushButton *button = watched.window.button(u"Not Now"_s);
-    QVERIFY(button);
-    button->setFocus();
-    QTest::keyClick(button, Qt::Key_Space);
-    QCOMPARE(watched.offer(), QString());
-    QVERIFY(!watched.window.messages().isVisible());
 }
 
 void CardsTest::nothingIsOfferedWhereNothingCanBeImported()
@@ -368,7 +361,6 @@ void CardsTest::aSlowCardHoldsUpNobody()
     QCoreApplication::processEvents();
     QVERIFY(time.elapsed() < 300);
     QVERIFY(watched.watch().m_thread);
-    time.start();
     watched.window.close(); // while it does not answer
     QVERIFY(time.elapsed() < 6000);
     *answers = true;
