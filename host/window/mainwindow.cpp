@@ -3,6 +3,7 @@
 
 #include "gui/voltbokgui.h"
 #include "host/safety/folderlock.h"
+#include "host/window/cardwatch.h"
 #include "host/window/logbookpages.h"
 #include "host/window/messagebar.h"
 #include "host/window/openlogbook.h"
@@ -177,6 +178,7 @@ void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> l
     buildPanel();
     restoreLayout();
     updateActions();
+    watchCards();
     m_settings.addRecentFolder(folder.path());
     tellAboutSettings();
     greet();
@@ -194,7 +196,8 @@ void MainWindow::reload()
 
 void MainWindow::closeLogbook()
 {
-    delete std::exchange(m_panel, nullptr); // each of them uses the next
+    m_cards.reset(); // each of them uses the next
+    delete std::exchange(m_panel, nullptr);
     m_logbook.reset();
     m_care.reset();
 }

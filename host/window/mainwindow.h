@@ -17,6 +17,7 @@ class VoltbokGui;
 
 namespace Host {
 
+class CardWatch;
 class FolderLock;
 class MessageBar;
 class OpenLogbook;
@@ -89,6 +90,7 @@ private:
     void redo();
     void rename();
     void importLogs(const QStringList &paths);
+    void watchCards();
     void exportLogbook();
     void showPanel(bool visible);
     void showPreferences();
@@ -127,6 +129,7 @@ private:
     std::shared_ptr<FolderLock> m_lock;
     std::unique_ptr<SaveCare> m_care; // before the lock goes, it saves and copies
     std::unique_ptr<OpenLogbook> m_logbook;
+    std::unique_ptr<CardWatch> m_cards;
     SidePanel *m_panel = nullptr; // in the splitter
 };
 

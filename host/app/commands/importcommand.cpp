@@ -123,8 +123,11 @@ int run(const Invocation &invocation, Opening *opening)
     }
     const Measured measured = MeasuredStore::load(invocation.folder).measured;
     const QList<ImportedLog> logs = LogReading::read(LogReading::paths(invocation.arguments), measured);
-    const MatchOptions options{invocation.value(u"model"_s), invocation.value(u"battery"_s),
-                               invocation.has(u"replace-entered"_s), 0};
+    const MatchOptions options{invocation.value(u"model"_s),
+                               invocation.value(u"battery"_s),
+                               invocation.has(u"replace-entered"_s),
+                               0,
+                               {}};
     const ImportPlan plan = matched(logs, *catalogue, measured, options);
     const QList<qsizetype> chosen = chosenOf(plan, invocation.has(u"battery"_s));
     const bool allGood = complainOfFiles(logs);
