@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/window/healthview.h"
+
+#include "host/window/healthmodel.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace Host {
+
+HealthView::HealthView(QWidget *parent)
+    : QWidget(parent)
+    , m_text(new QLabel)
+    , m_table(new QTableView)
+    , m_model(new HealthModel(this))
+{
+    m_text->setWordWrap(true);
+    m_text->setTextFormat(Qt::PlainText);
+    m_text->setAlignment(Qt::AlignTop | Qt::AlignLeading);
+    m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_table->setModel(m_model);
+    m_table->setAccessibleName(tr("Measured values of the battery"));
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setTabKeyNavigation(false);
+    m_table->setAlternatingRowColors(true);
+    m_table->setWordWrap(false);
+    m_table->verticalHeader()->hide();
+    QHeaderView *header = m_table->horizontalHeader();
+    header->setHighlightSections(false);
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(HealthModel::Quantity, QHeaderView::Stretch);
+    m_table->verticalHeader()->setMinimumSectionSize(0);
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    // As high as its rows, which are few.
+    m_table->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    m_table->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_text);
+    layout->addWidget(m_table);
+}
+
+void HealthView::setBattery(const Battery &battery, const Measured &measured)
+{
+    const MeasuredFigures figures = measuredFigures(battery, measured);
+    m_model->setFigures(figures);
+    m_text->setText(healthTexts(battery, figures).join(u'\n'));
+    m_table->setVisible(figures.flights > 0);
+}
+
+} // namespace Host
