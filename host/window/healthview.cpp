@@ -3,12 +3,20 @@
 
 #include "host/window/healthmodel.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace Host {
+namespace {
+
+constexpr int FewestRows = 3; // in a low window
+
+} // namespace
 
 HealthView::HealthView(QWidget *parent)
     : QWidget(parent)
@@ -32,11 +40,8 @@ HealthView::HealthView(QWidget *parent)
     header->setHighlightSections(false);
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setSectionResizeMode(HealthModel::Quantity, QHeaderView::Stretch);
-    m_table->verticalHeader()->setMinimumSectionSize(0);
-    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    // As high as its rows, which are few.
+    m_table->verticalHeader()->setMinimumSectionSize(0); // as low as its text
     m_table->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    m_table->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_text);
@@ -49,6 +54,27 @@ void HealthView::setBattery(const Battery &battery, const Measured &measured)
     m_model->setFigures(figures);
     m_text->setText(healthTexts(battery, figures).join(u'\n'));
     m_table->setVisible(figures.flights > 0);
+    makeRoom();
+}
+
+/** Another width, or another font, asks for another height. */
+bool HealthView::event(QEvent *event)
+{
+    const bool isHandled = QWidget::event(event);
+    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
+        makeRoom();
+    return isHandled;
+}
+
+/** All lines are in sight, which a layout does not see to where a text wraps; and all rows where there is
+ * room for them. */
+void HealthView::makeRoom()
+{
+    m_text->setMinimumHeight(std::max(m_text->heightForWidth(width()), 0));
+    m_table->resizeRowsToContents();
+    const int header = m_table->horizontalHeader()->sizeHint().height() + 2 * m_table->frameWidth();
+    m_table->setMinimumHeight(header + FewestRows * m_table->rowHeight(0));
+    m_table->setMaximumHeight(header + m_table->verticalHeader()->length());
 }
 
 } // namespace Host

@@ -23,7 +23,12 @@ public:
 
     void setBattery(const Battery &battery, const Measured &measured);
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
+    void makeRoom();
+
     QLabel *m_text;
     QTableView *m_table;
     HealthModel *m_model;
