@@ -16,6 +16,9 @@ class PackFitTest : public QObject
 private Q_SLOTS:
     void thePlantedResistanceIsFound_data();
     void thePlantedResistanceIsFound();
+    void theVoltageMayFallAsItLikes();
+    void whereTheCounterBeganDoesNotMatter();
+    void fewSamplesTellNoResistance();
     void singleWrongSamplesDoNotMatter();
     void aSteadyCurrentTellsNoResistance();
     void aFitThatIsFarFromItsSamplesTellsNone();
@@ -83,6 +86,40 @@ void PackFitTest::thePlantedResistanceIsFound()
         QVERIFY2(isNear(session.resistance, ohm * 1000),
                  qPrintable(QString::number(session.resistance.value_or(0))));
     }
+}
+
+void PackFitTest::theVoltageMayFallAsItLikes()
+{
+    // The pilot takes less and less out of the battery, while its voltage falls at both ends, and in between
+    // not.
+    std::vector<PackSample> made;
+    for (int i = 0; i < 400; ++i) {
+        const double q = i / 400.0;
+        const double current = 30 * (1 - q) * (1 - q) * (1 - q) + 2 * std::sin(i * 0.37);
+        const double fall = 4 * (q - 0.5) * (q - 0.5) * (q - 0.5);
+        made.push_back({i * 5.0, current, 12 - fall - current * 0.040});
+    }
+    const std::optional<double> found = packResistance(made);
+    QVERIFY2(isNear(found, 40), qPrintable(QString::number(found.value_or(0))));
+}
+
+void PackFitTest::whereTheCounterBeganDoesNotMatter()
+{
+    std::vector<PackSample> made = samples(2, 20, 0.02);
+    const std::optional<double> found = packResistance(made);
+    for (PackSample &sample : made)
+        sample.charge += 100'000;
+    QVERIFY(isNear(found, 40));
+    QVERIFY(std::abs(packResistance(made).value_or(0) - found.value_or(0)) < 1e-3);
+}
+
+void PackFitTest::fewSamplesTellNoResistance()
+{
+    std::vector<PackSample> made = samples(2, 20, 0.001);
+    made.resize(30);
+    QVERIFY(isNear(packResistance(made), 40));
+    made.pop_back();
+    QVERIFY(!packResistance(made));
 }
 
 void PackFitTest::singleWrongSamplesDoNotMatter()
