@@ -59,7 +59,7 @@ int decimalsOf(int row)
 /** Of a quantity that too few flights tell, the number of these alone. */
 Spread trendOrCount(const std::optional<Trend> &trend, int flights)
 {
-    return trend ? Spread(*trend) : Spread{flights};
+    return trend ? Spread{trend->flights, trend->median, trend->spread} : Spread{flights};
 }
 
 Spread spreadOf(const MeasuredFigures &figures, int row)
