@@ -10,7 +10,6 @@
 namespace Host {
 namespace {
 
-constexpr size_t FewestFlights = 5;
 constexpr size_t MostFlights = 500; // of the newest ones: each is compared with each
 constexpr double Significance = 0.05;
 constexpr double SecondsOfAYear = 365.25 * 86'400;
@@ -101,7 +100,7 @@ bool isTrend(const std::vector<Point> &points, bool isRising)
 
 std::optional<Trend> trendOf(std::vector<Point> points, bool isWorseWhenRising)
 {
-    if (points.size() < FewestFlights)
+    if (static_cast<qsizetype>(points.size()) < FewestFlights)
         return std::nullopt;
     std::stable_sort(points.begin(), points.end(),
                      [](const Point &left, const Point &right) { return left.moment < right.moment; });

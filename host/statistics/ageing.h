@@ -9,6 +9,9 @@
 
 namespace Host {
 
+/** What fewer flights than these tell of resistance and capacity is chance. */
+inline constexpr qsizetype FewestFlights = 5;
+
 /** What a radio's log told about a battery at one flight. */
 struct Measurement
 {

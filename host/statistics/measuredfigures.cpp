@@ -35,7 +35,20 @@ Spread spreadOf(const QList<const MeasuredDischarge *> &entries,
     return Host::spreadOf(values);
 }
 
+QList<Measurement> measurementsOf(const QList<const MeasuredDischarge *> &entries)
+{
+    QList<Measurement> measurements;
+    for (const MeasuredDischarge *entry : entries)
+        measurements.append({timeOf(entry->moment), entry->resistance, entry->capacity});
+    return measurements;
+}
+
 } // namespace
+
+QList<Measurement> measurementsOf(const Battery &battery, const Measured &measured)
+{
+    return measurementsOf(entriesOf(battery, measured));
+}
 
 MeasuredFigures measuredFigures(const Battery &battery, const Measured &measured)
 {
@@ -47,10 +60,7 @@ MeasuredFigures measuredFigures(const Battery &battery, const Measured &measured
     figures.restBefore = spreadOf(entries, &MeasuredDischarge::restBefore);
     figures.restAfter = spreadOf(entries, &MeasuredDischarge::restAfter);
     figures.minVoltage = spreadOf(entries, &MeasuredDischarge::minVoltage);
-    QList<Measurement> measurements;
-    for (const MeasuredDischarge *entry : entries)
-        measurements.append({timeOf(entry->moment), entry->resistance, entry->capacity});
-    figures.health = healthOf(measurements);
+    figures.health = healthOf(measurementsOf(entries));
     return figures;
 }
 

@@ -22,6 +22,9 @@ struct MeasuredFigures
     Health health; ///< mOhm and mAh
 };
 
+/** Of each measured discharge of the battery. */
+QList<Measurement> measurementsOf(const Battery &battery, const Measured &measured);
+
 MeasuredFigures measuredFigures(const Battery &battery, const Measured &measured);
 
 /**

@@ -139,7 +139,7 @@ void BatteriesTab::showChosen()
         return m_plot->setBattery(std::nullopt);
     const Battery &battery = m_catalogue->batteries.at(row);
     m_health->setBattery(battery, m_logbook.measured());
-    m_plot->setBattery(battery);
+    m_plot->setBattery(battery, m_logbook.measured());
 }
 
 void BatteriesTab::print()

@@ -7,6 +7,7 @@
 #include "tests/host/support/panel.h"
 
 #include "host/window/healthview.h"
+#include "host/window/plotview.h"
 
 #include <QScrollBar>
 #include <QTableView>
@@ -88,6 +89,7 @@ private Q_SLOTS:
     void aBatteryWithoutMeasuredFlightsSaysHowToGetThem();
     void aQuantityThatFewFlightsTellIsEmpty();
     void undoAndRenamingAreFollowed();
+    void whatLogsTellIsPlotted();
     void withoutABatteryThereIsNothing();
     void everyCellCanBeReadOut();
     void itIsReachedByKeyboard();
@@ -193,6 +195,30 @@ void HealthTest::undoAndRenamingAreFollowed()
     QCOMPARE(logbook.redo(), QString());
     QTRY_VERIFY(table(tab));
     QCOMPARE(Panel::texts(*table(tab), u"Median"_s), medians);
+}
+
+void HealthTest::whatLogsTellIsPlotted()
+{
+    Flights flights(5);
+    const QWidget &tab = Panel::open(flights.window, SidePanel::Batteries);
+    auto *chooser = Panel::named<QComboBox>(tab, u"What is plotted"_s);
+    QTest::keyClick(chooser, Qt::Key_End);
+    QCOMPARE(chooser->currentText(), u"Measured capacity"_s);
+    const auto *plot = tab.findChild<PlotView *>();
+    QVERIFY(!plot->isVisible());
+    QVERIFY(Panel::said(tab).contains(u"once the radio's logs of five flights with “Pack A” tell it."_s));
+    QCOMPARE(flights.import(), QString());
+    QTRY_VERIFY(plot->isVisible());
+    QCOMPARE(plot->accessibleName(), u"Measured capacity of Pack A"_s);
+    const QString description = plot->accessibleDescription();
+    QVERIFY2(description.contains(u": 5 discharges from "_s) &&
+                 description.contains(u"Measured: 5. Capacity, 2,200 mAh."_s),
+             qPrintable(description));
+#ifdef VOLTBOK_WITH_GSL
+    QTest::keyClick(chooser, Qt::Key_Up);
+    QCOMPARE(plot->accessibleName(), u"Internal resistance of Pack A"_s);
+    QVERIFY2(plot->accessibleDescription().contains(u" mΩ to "_s), qPrintable(plot->accessibleDescription()));
+#endif
 }
 
 void HealthTest::withoutABatteryThereIsNothing()
