@@ -42,6 +42,7 @@ HealthView::HealthView(QWidget *parent)
     header->setSectionResizeMode(HealthModel::Quantity, QHeaderView::Stretch);
     m_table->verticalHeader()->setMinimumSectionSize(0); // as low as its text
     m_table->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    m_table->hide(); // until there is something to show
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_text);
@@ -61,7 +62,8 @@ void HealthView::setBattery(const Battery &battery, const Measured &measured)
 bool HealthView::event(QEvent *event)
 {
     const bool isHandled = QWidget::event(event);
-    if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest)
+    const QEvent::Type type = event->type();
+    if (type == QEvent::Show || type == QEvent::Resize || type == QEvent::LayoutRequest)
         makeRoom();
     return isHandled;
 }
@@ -70,6 +72,8 @@ bool HealthView::event(QEvent *event)
  * room for them. */
 void HealthView::makeRoom()
 {
+    if (!isVisible())
+        return; // its width is none yet
     m_text->setMinimumHeight(std::max(m_text->heightForWidth(width()), 0));
     m_table->resizeRowsToContents();
     const int header = m_table->horizontalHeader()->sizeHint().height() + 2 * m_table->frameWidth();

@@ -146,6 +146,8 @@ void HealthTest::aBatteryWithoutMeasuredFlightsSaysHowToGetThem()
     QVERIFY(
         Panel::said(tab).contains(u"No flight of “Pack A” was measured yet: choose Import Radio Logs…"_s));
     QVERIFY(!table(tab));
+    const auto *view = tab.findChild<HealthView *>();
+    QTRY_COMPARE(view->height(), view->heightForWidth(view->width())); // the rest is the plot's
     QCOMPARE(flights.import(), QString());
     QTRY_VERIFY(table(tab));
     QVERIFY(!Panel::said(tab).contains(u"measured yet"_s));
