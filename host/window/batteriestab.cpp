@@ -134,7 +134,6 @@ int BatteriesTab::rowOf(const QString &name, int nth) const
 void BatteriesTab::showChosen()
 {
     const int row = chosenRow();
-    m_health->setVisible(row >= 0);
     if (row < 0)
         return m_plot->setBattery(std::nullopt);
     const Battery &battery = m_catalogue->batteries.at(row);

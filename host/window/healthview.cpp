@@ -58,12 +58,11 @@ void HealthView::setBattery(const Battery &battery, const Measured &measured)
     makeRoom();
 }
 
-/** Another width, or another font, asks for another height. */
+/** Another width asks for another height. */
 bool HealthView::event(QEvent *event)
 {
     const bool isHandled = QWidget::event(event);
-    const QEvent::Type type = event->type();
-    if (type == QEvent::Show || type == QEvent::Resize || type == QEvent::LayoutRequest)
+    if (event->type() == QEvent::Show || event->type() == QEvent::Resize)
         makeRoom();
     return isHandled;
 }
