@@ -86,7 +86,7 @@ int main(int argc, char *argv[])
         Console::complain(problem);
         return EXIT_FAILURE;
     }
-    QGuiApplication::setDesktopFileName(u"voltbok"_s);
+    QGuiApplication::setDesktopFileName(u"org.voltbok.Voltbok"_s);
     std::optional<DisplayGuard> guard(std::in_place);
     const QApplication application(argc, argv);
     guard.reset();

@@ -39,18 +39,27 @@ public:
      * @param name also the name of the plugin's group in the settings store.
      * @param translationDirectory where the plugin's translation files are looked for first; an empty one
      *        switches language switching off.
+     * @param icon how the host shows the plugin; may be null.
+     * @param description what the plugin does, for people.
+     * @param copyright who may be thanked, for people.
+     * @param parent owns the plugin where it is given.
      */
     RotavexPlugin(const QString &name, const QIcon &icon, const QString &description,
                   const QString &copyright, const QString &translationDirectory, QObject *parent = nullptr);
     ~RotavexPlugin() override;
 
+    /** The name that the plugin was made with. */
     QString name() const;
+    /** The icon that the plugin was made with; may be null. */
     const QIcon &icon() const;
+    /** The description that the plugin was made with, in the language of that moment. */
     QString description() const;
+    /** The copyright that the plugin was made with. */
     QString copyright() const;
 
     /** Keeps the host's orchestrator, which stays the host's; null until the host sets it. */
     void setOrchestrator(RotavexOrchestrator *orchestrator);
+    /** The host's orchestrator; null until the host has set it. */
     RotavexOrchestrator *orchestrator() const;
 
     /** Adds an empty translator for the translation file with this base name, unless there is one already. */

@@ -36,45 +36,61 @@ public:
     };
     Q_ENUM(ViewMode)
 
+    /** An empty battery: without a name, all figures 0, discharged, never used. */
     explicit BatteryWidget(QWidget *parent = nullptr);
     ~BatteryWidget() override;
 
+    /** Any text; the name is compared exactly. It is only read, and not changed. */
     void setBatteryName(QString &name);
+    /** The name, whole; the card shows its first 1,000 characters. */
     QString getBatteryName() const;
     /** Nominal capacity in mAh. */
     void setBatteryCapacity(unsigned int capacity);
+    /** Nominal capacity in mAh; 0 when it was never set. */
     unsigned int getBatteryCapacity() const;
     /** Permitted discharge rate in whole C. */
     void setBatteryRating(unsigned int rating);
+    /** Permitted discharge rate in whole C; 0 when it was never set. */
     unsigned int getBatteryRating() const;
     /** Number of discharge cycles. */
     void setBatteryCycles(unsigned int cycles);
+    /** Number of discharge cycles. */
     unsigned int getBatteryCycles() const;
     /** Capacity taken out in the last discharge, in mAh. */
     void setBatteryLastDischarged(unsigned int discharged);
+    /** Capacity taken out in the last discharge, in mAh. */
     unsigned int getBatteryLastDischarged() const;
     /** Highest current of the last discharge, in hundredths of an ampere. */
     void setBatteryLastMaxCurrent(unsigned int maxCurrent);
+    /** Highest current of the last discharge, in hundredths of an ampere. */
     unsigned int getBatteryLastMaxCurrent() const;
     /** Permitted charge rate in tenths of C; 0 is ignored, so a rate once set cannot be cleared. */
     void setBatteryChargeRate(unsigned int rate);
+    /** Permitted charge rate in tenths of C; 0 for none. */
     unsigned int getBatteryChargeRate() const;
+    /** Any date; an invalid one is shown as none. */
     void setDateOfPurchase(QDate &date);
+    /** Date of purchase; invalid when it is not known. */
     QDate getdateOfPurchase() const;
+    /** When the battery was charged or discharged last, in local time; an invalid time is shown as none. */
     void setLastUpdated(QDateTime when);
+    /** When the battery was charged or discharged last; invalid when it never was. */
     QDateTime getBatteryLastUpdated() const;
 
     /**
      * Sets the charge state and the look of the card's button.
      *
+     * @param charged the new state.
      * @param byUser also stamps the time and emits dataChanged(); a discharge then counts a cycle and leaves
      * a history entry without measurements.
      */
     void setBatteryCharged(bool charged, bool byUser);
+    /** Whether the battery is charged. */
     bool getBatteryCharged() const;
 
     /** Stores any value; only Simple and Complex change what the card shows. */
     void setViewMode(ViewMode mode);
+    /** What setViewMode() was given last. */
     ViewMode getViewMode() const;
 
     /** The history: three lists of equal length in the order of recording, one entry for each discharge. */
@@ -102,6 +118,7 @@ Q_SIGNALS:
     void chargeBatteryClicked();
 
 protected:
+    /** Translates the card anew after a change of language. */
     void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:

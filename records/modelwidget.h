@@ -26,27 +26,41 @@ class VOLTBOK_EXPORT ModelWidget : public QWidget
     Q_DISABLE_COPY_MOVE(ModelWidget)
 
 public:
+    /** An empty model: without a name, without batteries, without flights. */
     explicit ModelWidget(QWidget *parent = nullptr);
     ~ModelWidget() override;
 
+    /** Any text. */
     void setModelName(const QString &name);
+    /** The name; the reference is valid as long as the record. */
     const QString &getModelName() const;
+    /** What kind of model it is, as free text. */
     void setModelType(const QString &type);
+    /** What kind of model it is. */
     const QString &getModelType() const;
     /** The weight as the user counts it; no unit is attached. */
     void setModelWeight(const unsigned int &weight);
+    /** The weight as the user counts it; 0 when it was never set. */
     unsigned int getModelWeight() const;
     /** The size as the user counts it; no unit is attached. */
     void setModelSize(const unsigned int &size);
+    /** The size as the user counts it; 0 when it was never set. */
     unsigned int getModelSize() const;
     /** The number of flights entered by the user; recording a flight does not change it. */
     void setModelFlights(const unsigned int &flights);
+    /** The number of flights entered by the user, not that of the log. */
     unsigned int getModelFlights() const;
+    /** When the record was edited last, in local time. */
     void setLastUpdated(const QDateTime &when);
+    /** When the record was edited last; invalid when it never was. */
     const QDateTime &getLastUpdated() const;
+    /** Any date; an invalid one stands for none. */
     void setDateOfPurchase(const QDate &date);
+    /** Date of purchase; invalid when it is not known. */
     QDate getDateOfPurchase() const;
+    /** Free text of any length, with line breaks. */
     void setAdditionalNotes(const QString &notes);
+    /** The notes, as they were set. */
     const QString &getAdditionalNotes() const;
 
     /** Appends a copy of @p entry: the log keeps the order of recording and is never sorted. */
@@ -72,6 +86,7 @@ public:
 
     /** Assigns a battery by name; a name already assigned is refused. */
     void addBattery(const QString &name);
+    /** Whether a battery of exactly this name is assigned. */
     bool containsBattery(const QString &name) const;
     /** Removes every assigned name that equals @p name. */
     void removeBattery(const QString &name);

@@ -28,6 +28,7 @@ class VOLTBOK_EXPORT DataProcessor : public QObject
     Q_DISABLE_COPY_MOVE(DataProcessor)
 
 public:
+    /** Without a base path: nothing is read or written before setBasePath(). */
     explicit DataProcessor(QObject *parent = nullptr);
     ~DataProcessor() override;
 

@@ -5,7 +5,7 @@
 #include "host/data/sources.h"
 #include "host/exchange/jsonbytes.h"
 
-#include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,18 +20,12 @@ constexpr unsigned int HundredthsOfAmpere = 100;
 
 CatalogueJson::CatalogueJson(const Catalogue &whole, ByteSink sink)
     : m_sink(std::move(sink))
+    , m_flown(whole)
 {
     m_buffer.reserve(2 * PieceSize);
     m_names.reserve(whole.batteries.size());
-    for (const Battery &battery : whole.batteries) {
-        for (const Discharge &discharge : battery.discharges) {
-            if (discharge.time.isValid())
-                m_flown.emplace_back(momentOf(discharge.time), m_names.size());
-        }
+    for (const Battery &battery : whole.batteries)
         m_names.append(JsonBytes::quoted(battery.name));
-    }
-    std::sort(m_flown.begin(), m_flown.end());
-    m_flown.erase(std::unique(m_flown.begin(), m_flown.end()), m_flown.end());
 }
 
 bool CatalogueJson::writeExport(const Catalogue &shown)
@@ -193,11 +187,9 @@ void CatalogueJson::flight(const Flight &flight)
     JsonBytes::text(m_buffer, flight.notes);
     put(", \"batteries\": [");
     const char *separator = "";
-    const qint64 moment = momentOf(flight.time);
-    auto flown = std::lower_bound(m_flown.cbegin(), m_flown.cend(), std::pair(moment, qsizetype(0)));
-    for (; moment != NoMoment && flown != m_flown.cend() && flown->first == moment; ++flown) {
+    for (const FlownBatteries::Entry &flown : m_flown.at(momentOf(flight.time))) {
         put(separator);
-        m_buffer += m_names.at(flown->second);
+        m_buffer += m_names.at(flown.battery);
         separator = ", ";
     }
     put("]}");

@@ -2,14 +2,13 @@
 #pragma once
 
 #include "host/data/catalogue.h"
+#include "host/data/flownbatteries.h"
 
 #include <QByteArray>
 #include <QList>
 #include <QString>
 
 #include <functional>
-#include <utility>
-#include <vector>
 
 namespace Host {
 
@@ -54,8 +53,8 @@ private:
     bool finish();
 
     ByteSink m_sink;
-    std::vector<std::pair<qint64, qsizetype>> m_flown; ///< which battery at which moment; sorted, each once
-    QList<QByteArray> m_names;                         ///< of all batteries, quoted
+    const FlownBatteries m_flown;
+    QList<QByteArray> m_names; ///< of all batteries, quoted
     QByteArray m_buffer;
     bool m_isWanted = true;
 };

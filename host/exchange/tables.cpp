@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/exchange/tables.h"
 
+#include "host/data/flownbatteries.h"
 #include "host/data/moments.h"
 #include "host/data/sources.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -20,7 +22,7 @@ class Rows
 public:
     Rows(const Catalogue &whole, TableWriter &writer, const Proceed &proceed)
         : m_whole(whole)
-        , m_moments(whole)
+        , m_flown(whole)
         , m_writer(writer)
         , m_proceed(proceed)
     {
@@ -117,17 +119,18 @@ private:
 
     QString batteriesOf(const Flight &flight) const
     {
-        const QList<DischargePlace> places = m_moments.firstDischargesAt(momentOf(flight.time));
-        if (places.size() == 1) // nearly always; saves a list of names
-            return m_whole.batteries.at(places.first().battery).name;
-        QStringList names;
-        for (const DischargePlace &place : places)
-            names.append(m_whole.batteries.at(place.battery).name);
-        return names.join(BetweenNames);
+        QString names;
+        bool isFirst = true;
+        for (const FlownBatteries::Entry &flown : m_flown.at(momentOf(flight.time))) {
+            if (!std::exchange(isFirst, false))
+                names += BetweenNames;
+            names += m_whole.batteries.at(flown.battery).name;
+        }
+        return names;
     }
 
     const Catalogue &m_whole;
-    const Moments m_moments;
+    const FlownBatteries m_flown;
     TableWriter &m_writer;
     const Proceed &m_proceed;
     qsizetype m_count = 0;

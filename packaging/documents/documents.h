@@ -2,9 +2,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 
-/** What is installed about the command line, made from the table of commands. */
+/** What is installed beside the program: what the table of commands says, and its icons. */
 namespace Documents {
 
 /** The manual page, in the language of man. */
@@ -12,5 +13,11 @@ QByteArray manualPage(const QString &version);
 
 /** What completes the command line in bash. */
 QByteArray bashCompletion();
+
+/** The sizes in which desktops want an icon, in pixels. */
+inline const QList<int> IconSizes{16, 22, 24, 32, 48, 64, 128, 256};
+
+/** The program's icon of so many pixels, as PNG. */
+QByteArray icon(int size);
 
 } // namespace Documents

@@ -1,8 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Installs BUILD_DIR to a prefix of its own, builds the small host of this directory against it as a stranger would,
-# and runs both programs. WORK_DIR is emptied first.
+# Installs BUILD_DIR to a prefix of its own, builds the hosts in EXAMPLES against it as a stranger would, and runs
+# them and the program. WORK_DIR is emptied first.
 #
-#   cmake -DBUILD_DIR=... -DWORK_DIR=... -DGENERATOR=... -DCXX=... -DCXX_FLAGS=... -DHOST=... -P package_test.cmake
+#   cmake -DBUILD_DIR=... -DWORK_DIR=... -DGENERATOR=... -DCXX=... -DCXX_FLAGS=... -DHOST=... -DEXAMPLES=...
+#         -P package_test.cmake
 cmake_minimum_required(VERSION 3.21)
 
 set(prefix ${WORK_DIR}/prefix)
@@ -35,10 +36,21 @@ expect_installed(
 file(RENAME ${prefix} ${WORK_DIR}/moved)
 set(prefix ${WORK_DIR}/moved)
 
-run(${CMAKE_COMMAND} -S ${CMAKE_CURRENT_LIST_DIR}/host -B ${WORK_DIR}/build -G ${GENERATOR}
-    -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_FLAGS=${CXX_FLAGS} -DCMAKE_BUILD_TYPE=Debug -DCMAKE_PREFIX_PATH=${prefix})
-run(${CMAKE_COMMAND} --build ${WORK_DIR}/build)
-run(${WORK_DIR}/build/smallhost)
+# A host runs until its user ends it.
+function(expect_running)
+    execute_process(COMMAND ${ARGV} TIMEOUT 3 RESULT_VARIABLE result ERROR_VARIABLE errors)
+    if(NOT result MATCHES "timeout" OR NOT errors STREQUAL "")
+        message(FATAL_ERROR "${ARGV} ended by itself: ${result} ${errors}")
+    endif()
+endfunction()
+
+foreach(example IN ITEMS minimal plugin)
+    run(${CMAKE_COMMAND} -S ${EXAMPLES}/${example} -B ${WORK_DIR}/${example} -G ${GENERATOR}
+        -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_FLAGS=${CXX_FLAGS} -DCMAKE_BUILD_TYPE=Debug
+        -DCMAKE_PREFIX_PATH=${prefix})
+    run(${CMAKE_COMMAND} --build ${WORK_DIR}/${example})
+    expect_running(${WORK_DIR}/${example}/${example} ${WORK_DIR}/logbook)
+endforeach()
 
 if(HOST)
     expect_installed(bin/voltbok)

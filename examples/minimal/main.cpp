@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+// A host in ten lines: minimal FOLDER shows the logbook of a folder until the house is clicked.
 #include "gui/voltbokgui.h"
 
 #include <QApplication>
-#include <QTimer>
 
 int main(int argc, char *argv[])
 {
-    QApplication application(argc, argv);
+    const QApplication application(argc, argv);
     VoltbokGui window;
     QObject::connect(&window, &VoltbokGui::closeVoltbokGui, &application, &QApplication::quit);
-    window.changeStoragePath(QStringLiteral("catalogue"));
+    window.changeStoragePath(QApplication::arguments().value(1, QStringLiteral(".")));
     window.show();
-    QTimer::singleShot(0, &window, &VoltbokGui::on_pb_home_clicked);
-    return application.exec();
+    return QApplication::exec();
 }
