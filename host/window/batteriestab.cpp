@@ -3,6 +3,7 @@
 
 #include "host/window/batteriesmodel.h"
 #include "host/window/batteryplot.h"
+#include "host/window/healthview.h"
 #include "host/window/openlogbook.h"
 #include "host/window/tablecolumns.h"
 #include "host/window/tableprinting.h"
@@ -43,11 +44,17 @@ BatteriesTab::BatteriesTab(OpenLogbook &logbook, Questions &questions, QWidget *
     , m_table(new QTableView)
     , m_model(new BatteriesModel(this))
     , m_sorted(new QSortFilterProxyModel(this))
+    , m_health(new HealthView)
     , m_plot(new BatteryPlot(questions))
 {
     buildTable();
+    auto *chosen = new QWidget;
+    auto *ofChosen = new QVBoxLayout(chosen);
+    ofChosen->setContentsMargins(0, 0, 0, 0);
+    ofChosen->addWidget(m_health);
+    ofChosen->addWidget(m_plot, 1);
     m_splitter->addWidget(m_table);
-    m_splitter->addWidget(m_plot);
+    m_splitter->addWidget(chosen);
     m_splitter->setChildrenCollapsible(false);
     m_heading->setWordWrap(true);
     m_heading->setAlignment(Qt::AlignTop | Qt::AlignLeading);
@@ -127,7 +134,11 @@ int BatteriesTab::rowOf(const QString &name, int nth) const
 void BatteriesTab::showChosen()
 {
     const int row = chosenRow();
-    m_plot->setBattery(row < 0 ? std::nullopt : std::optional(m_catalogue->batteries.at(row)));
+    if (row < 0)
+        return m_plot->setBattery(std::nullopt);
+    const Battery &battery = m_catalogue->batteries.at(row);
+    m_health->setBattery(battery, m_logbook.measured());
+    m_plot->setBattery(battery, m_logbook.measured());
 }
 
 void BatteriesTab::print()

@@ -30,7 +30,8 @@ BatteryPlot::BatteryPlot(Questions &questions, QWidget *parent)
 {
     auto *label = new QLabel(tr("Pl&ot:"));
     label->setBuddy(m_quantity);
-    for (const Quantity quantity : {Quantity::CapacityUsed, Quantity::Current, Quantity::Load})
+    for (const Quantity quantity : {Quantity::CapacityUsed, Quantity::Current, Quantity::Load,
+                                    Quantity::Resistance, Quantity::Capacity})
         m_quantity->addItem(nameOf(quantity), static_cast<int>(quantity));
     m_quantity->setAccessibleName(tr("What is plotted"));
     m_asTable->setAccessibleDescription(tr("Shows the discharges of the battery as a table"));
@@ -70,9 +71,10 @@ void BatteryPlot::buildTable()
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
 }
 
-void BatteryPlot::setBattery(const std::optional<Battery> &battery)
+void BatteryPlot::setBattery(const std::optional<Battery> &battery, const Measured &measured)
 {
     m_battery = battery;
+    m_measured = measured;
     m_discharges->setBattery(battery.value_or(Battery()));
     showChosen();
 }
@@ -87,15 +89,23 @@ QString BatteryPlot::obstacle() const
     return QString();
 }
 
+QString BatteryPlot::nothingToPlot(Quantity quantity) const
+{
+    if (isOfLogs(quantity))
+        return tr("This is shown once the radio's logs of five flights with “%1” tell it.")
+            .arg(m_battery->name);
+    return tr("No discharge of “%1” has a time and this figure: there is nothing to plot.")
+        .arg(m_battery->name);
+}
+
 void BatteryPlot::showChosen()
 {
     const auto quantity = static_cast<Quantity>(m_quantity->currentData().toInt());
     QString problem = obstacle();
     const bool isTable = problem.isEmpty() && m_asTable->isChecked();
-    const History history = problem.isEmpty() ? historyOf(*m_battery, quantity) : History();
+    const History history = problem.isEmpty() ? historyOf(*m_battery, quantity, m_measured) : History();
     if (problem.isEmpty() && history.points.isEmpty())
-        problem = tr("No discharge of “%1” has a time and this figure: there is nothing to plot.")
-                      .arg(m_battery->name);
+        problem = nothingToPlot(quantity);
     if (problem.isEmpty())
         m_plot->setPlot(batteryChart(quantity, history),
                         tr("%1 of %2").arg(nameOf(quantity), m_battery->name),
