@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -146,6 +147,13 @@ std::optional<QList<Copy>> Backups::listed(const StorageFolder &folder)
         copies.append(*std::move(copy));
     }
     std::sort(copies.begin(), copies.end(), isNewer);
+    QHash<QString, int> called;
+    for (const Copy &copy : std::as_const(copies))
+        ++called[copy.stamp];
+    for (Copy &copy : copies) {
+        if (called.value(copy.stamp) > 1)
+            copy.stamp = longStamp(copy.name);
+    }
     return copies;
 }
 
