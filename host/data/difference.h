@@ -59,6 +59,9 @@ QString counted(RecordKind kind, qsizetype count);
 /** "12 batteries, 3 models and 120 flights". */
 QString enumerated(const QStringList &parts);
 
+/** How many records of each kind a catalogue has. */
+QString contents(const Catalogue &catalogue);
+
 /** "Flight". */
 QString kindName(RecordKind kind);
 

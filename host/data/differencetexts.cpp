@@ -176,6 +176,20 @@ QString DifferenceTexts::enumerated(const QStringList &parts)
     return Text::tr("%1 and %2").arg(parts.first(parts.size() - 1).join(u", "_s), parts.last());
 }
 
+QString DifferenceTexts::contents(const Catalogue &catalogue)
+{
+    qsizetype discharges = 0;
+    for (const Battery &battery : catalogue.batteries)
+        discharges += battery.discharges.size();
+    qsizetype flights = 0;
+    for (const Model &model : catalogue.models)
+        flights += model.log.size();
+    return enumerated({counted(RecordKind::Battery, catalogue.batteries.size()),
+                       counted(RecordKind::Model, catalogue.models.size()),
+                       counted(RecordKind::Location, catalogue.locations.size()),
+                       counted(RecordKind::Discharge, discharges), counted(RecordKind::Flight, flights)});
+}
+
 QString DifferenceTexts::inWords(const Difference &difference)
 {
     if (difference.isNone())

@@ -82,7 +82,8 @@ struct Held
 {
     QByteArray document;
     QByteArray beside; ///< the measured values that are kept with it; empty where there are none to be read
-    QString problem;   ///< why it is no whole logbook, a clause; empty when it is
+    QString besideProblem; ///< why there are none to be read, a clause; empty where none are there
+    QString problem;       ///< why it is no whole logbook, a clause; empty when it is
 };
 Held held(const StorageFolder &folder, const Copy &copy);
 

@@ -12,14 +12,23 @@
 namespace Host {
 namespace {
 
-/** The measured values beside a copy; a link there, or anything else that is no file, is not ours. */
-QByteArray besideIn(const StorageFolder &folder, const Copy &copy)
+QString translated(const char *text)
+{
+    return QCoreApplication::translate("CopyRestoring", text);
+}
+
+/** The measured values beside a copy. */
+WholeFile::Reading besideIn(const StorageFolder &folder, const Copy &copy)
 {
     const QString path = folder.backups().filePath(Backups::measuredName(copy.name));
-    const WholeFile::Reading reading =
-        QFileInfo(path).isSymLink() ? WholeFile::Reading() : WholeFile::read(path);
-    return reading.problem.isEmpty() && MeasuredFile::load(reading.bytes).problem.isEmpty() ? reading.bytes
-                                                                                            : QByteArray();
+    if (QFileInfo(path).isSymLink()) // what it leads to is not ours
+        return {{}, translated(QT_TRANSLATE_NOOP("CopyRestoring", "it is a link"))};
+    WholeFile::Reading reading = WholeFile::read(path);
+    if (reading.isMissing)
+        return {};
+    if (reading.problem.isEmpty())
+        reading.problem = MeasuredFile::load(reading.bytes).problem;
+    return reading.problem.isEmpty() ? reading : WholeFile::Reading{{}, reading.problem};
 }
 
 } // namespace
@@ -30,8 +39,9 @@ Backups::Held Backups::held(const StorageFolder &folder, const Copy &copy)
     if (reading.problem.isEmpty())
         reading.problem = WholeFile::inspect(reading.bytes).problem;
     if (!reading.problem.isEmpty())
-        return {{}, {}, reading.problem};
-    return {reading.bytes, besideIn(folder, copy), {}};
+        return {{}, {}, {}, reading.problem};
+    const WholeFile::Reading beside = besideIn(folder, copy);
+    return {reading.bytes, beside.bytes, beside.problem, {}};
 }
 
 QByteArray CopyRestoring::besideOf(const Backups::Held &held, const MeasuredStore::Stored &stored,
@@ -50,21 +60,34 @@ QByteArray CopyRestoring::besideOf(const Backups::Held &held, const MeasuredStor
     return bytes == MeasuredFile::save(stored.measured) ? stored.bytes : bytes;
 }
 
+QString CopyRestoring::besideLost(const Backups::Held &held)
+{
+    if (held.besideProblem.isEmpty())
+        return QString();
+    return translated(QT_TRANSLATE_NOOP("CopyRestoring",
+                                        "What radio logs told of this copy cannot be read: %1. What is known "
+                                        "now and fits to it is kept."))
+        .arg(held.besideProblem);
+}
+
 QString CopyRestoring::keepPresent(const StorageFolder &folder, const QByteArray &document,
                                    const MeasuredStore::Stored &stored, const QByteArray &besideThen,
                                    const QDateTime &now)
 {
-    if (document.isEmpty())
-        return QString();
-    const QString problem = Backups::add(folder, document, now);
     // Damaged ones are put aside when others take their place.
-    if (!problem.isEmpty() || besideThen == stored.bytes || !stored.reason.isEmpty())
+    const bool losesBeside = besideThen != stored.bytes && !stored.bytes.isEmpty() && stored.reason.isEmpty();
+    if (document.isEmpty())
+        return losesBeside ? WholeFile::write(folder.asideOfMeasured(now), stored.bytes,
+                                              WholeFile::permissionsOf(folder.measuredFile()))
+                           : QString();
+    const QString problem = Backups::add(folder, document, now);
+    if (!problem.isEmpty() || !losesBeside)
         return problem;
     const std::optional<Copy> copy = Backups::newestWhole(folder);
-    return copy && besideIn(folder, *copy) == stored.bytes
+    return copy && besideIn(folder, *copy).bytes == stored.bytes
                ? QString()
-               : QCoreApplication::translate("CopyRestoring",
-                                             "the values that radio logs tell cannot be copied");
+               : translated(
+                     QT_TRANSLATE_NOOP("CopyRestoring", "the values that radio logs tell cannot be copied"));
 }
 
 QString CopyRestoring::keepWhatIsNotUnderstood(const StorageFolder &folder, const QByteArray &document,

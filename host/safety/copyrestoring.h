@@ -23,10 +23,14 @@ namespace CopyRestoring {
 QByteArray besideOf(const Backups::Held &held, const MeasuredStore::Stored &stored, const Catalogue &present,
                     const Catalogue &then);
 
+/** Says that the measured values of a copy do not come back, in whole sentences; empty where they do. */
+QString besideLost(const Backups::Held &held);
+
 /**
  * Copies the present logbook, before another one takes its place, and the measured values if those go, too.
  *
- * @param document of the data file; one that is not there needs no copy.
+ * @param document of the data file; empty where there is none that is whole: the measured values are then put
+ * aside.
  * @return why it is not copied, a clause; empty when it is.
  */
 QString keepPresent(const StorageFolder &folder, const QByteArray &document,

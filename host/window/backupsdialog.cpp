@@ -3,6 +3,7 @@
 
 #include "host/data/cataloguefile.h"
 #include "host/data/difference.h"
+#include "host/safety/copyrestoring.h"
 #include "host/window/breakable.h"
 #include "host/window/copiesmodel.h"
 #include "host/window/copyreader.h"
@@ -62,22 +63,6 @@ QWidget *part(QLabel *caption, QTableView *table)
     layout->addWidget(caption);
     layout->addWidget(table, 1);
     return widget;
-}
-
-QString contentsOf(const Catalogue &catalogue)
-{
-    qsizetype discharges = 0;
-    for (const Battery &battery : catalogue.batteries)
-        discharges += battery.discharges.size();
-    qsizetype flights = 0;
-    for (const Model &model : catalogue.models)
-        flights += model.log.size();
-    return DifferenceTexts::enumerated(
-        {DifferenceTexts::counted(RecordKind::Battery, catalogue.batteries.size()),
-         DifferenceTexts::counted(RecordKind::Model, catalogue.models.size()),
-         DifferenceTexts::counted(RecordKind::Location, catalogue.locations.size()),
-         DifferenceTexts::counted(RecordKind::Discharge, discharges),
-         DifferenceTexts::counted(RecordKind::Flight, flights)});
 }
 
 QString madeOn(const Copy &copy)
@@ -225,7 +210,8 @@ void BackupsDialog::compare(const Copy &copy, const Backups::Held &held)
     if (m_copies->rowOf(copy.name) != m_table->currentIndex().row())
         return;
     m_shown = copy.name;
-    m_holds->setText(tr("The copy of %1 holds %2.").arg(madeOn(copy), contentsOf(loaded.catalogue)));
+    m_holds->setText(
+        tr("The copy of %1 holds %2.").arg(madeOn(copy), DifferenceTexts::contents(loaded.catalogue)));
     m_differences->show(std::make_shared<const Catalogue>(loaded.catalogue), m_present, difference);
 }
 
@@ -293,6 +279,8 @@ void BackupsDialog::accept()
         return say(restored.problem);
     }
     m_report = tr("The copy of %1 is restored. “Undo” in the menu Edit takes that back.").arg(madeOn(copy));
+    if (const QString lost = CopyRestoring::besideLost(held); !lost.isEmpty())
+        m_report += u' ' + lost;
     QDialog::accept();
 }
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/data/measured.h"
 #include "host/safety/backups.h"
 #include "host/safety/storagefolder.h"
 #include "tests/host/support/faultrun.h"
@@ -72,6 +73,34 @@ Scenario restoreOfAMissingFile()
             Logbook::read(laterLogbook())};
 }
 
+QByteArray measured(const QString &battery)
+{
+    Measured measured;
+    MeasuredDischarge entry;
+    entry.battery = battery;
+    measured.discharges.append(entry);
+    return MeasuredFile::save(measured);
+}
+
+/** A copy with other measured values is restored. */
+Scenario restoreFromTheMenu()
+{
+    return {u"copy from the menu"_s,
+            [](const Home &home) {
+                home.makeLogbook(smallLogbook());
+                const QString beside = home.logbook() + u"/voltbok-measured.json"_s;
+                QVERIFY(Test::write(beside, measured(u"3S A"_s)));
+                addCopies(home);
+                QVERIFY(Test::write(beside, measured(u"3S B"_s)));
+            },
+            {{u"menu"_s, u"Backups…"_s},
+             {u"select"_s, u"1"_s},
+             {u"press"_s, u"Restore"_s},
+             {u"leave"_s},
+             {u"click"_s, u"3S A"_s}},
+            Logbook::read(smallLogbook())};
+}
+
 Scenario emptyStart()
 {
     return {u"empty start"_s,
@@ -139,7 +168,8 @@ void FileFaultsTest::cleanupTestCase()
 void FileFaultsTest::whateverOperationFailsNothingIsLostAndNothingIsSilent_data()
 {
     QTest::addColumn<Scenario>("scenario");
-    for (const Scenario &scenario : {session(), recovery(), restoreOfAMissingFile(), emptyStart()})
+    for (const Scenario &scenario :
+         {session(), recovery(), restoreOfAMissingFile(), restoreFromTheMenu(), emptyStart()})
         QTest::newRow(qPrintable(scenario.name)) << scenario;
 }
 

@@ -95,14 +95,13 @@ QString putBack(const StorageFolder &folder, const QString &aside)
 QString keep(const StorageFolder &folder, const Present &present, const QByteArray &beside)
 {
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    if (!present.isWhole()) {
+    if (!present.isWhole())
         Backups::keepNewestWhole(folder); // a copy made before a damage is never thinned out
-        return QString();
-    }
-    const QString problem =
-        CopyRestoring::keepPresent(folder, present.state.bytes, present.stored, beside, now);
-    return problem.isEmpty() ? CopyRestoring::keepWhatIsNotUnderstood(folder, present.state.bytes, now)
-                             : problem;
+    const QByteArray document = present.isWhole() ? present.state.bytes : QByteArray();
+    const QString problem = CopyRestoring::keepPresent(folder, document, present.stored, beside, now);
+    return problem.isEmpty() && present.isWhole()
+               ? CopyRestoring::keepWhatIsNotUnderstood(folder, present.state.bytes, now)
+               : problem;
 }
 
 /** Puts both files in their places, or neither. @param aside where a file that is not whole is kept. */
@@ -164,6 +163,10 @@ int restore(const StorageFolder &folder, const Chosen &chosen, const Present &pr
     QString problem = keep(folder, present, beside);
     if (!problem.isEmpty())
         return refuse(notRestored(problem));
+    for (const QString &lost : {present.stored.problem, CopyRestoring::besideLost(chosen.held)}) {
+        if (!lost.isEmpty())
+            Console::complain(lost);
+    }
     const std::optional<Copy> before = copyOf(folder, present);
     QString aside;
     problem = isThere ? MeasuredStore::put(folder, beside) : put(folder, present, document, beside, &aside);

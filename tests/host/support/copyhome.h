@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/data/cataloguefile.h"
+#include "host/data/moments.h"
 #include "host/safety/backups.h"
 #include "host/safety/measuredstore.h"
 #include "host/safety/wholefile.h"

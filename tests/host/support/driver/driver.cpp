@@ -60,6 +60,14 @@ const QHash<QString, Action> &actions()
          }},
         {u"type"_s, ofTwo(Hands::type)},
         {u"choose"_s, ofTwo(Hands::choose)},
+        {u"menu"_s, of(Hands::chooseFromMenu)},
+        {u"select"_s,
+         [](const QStringList &words, QStringList *) { return Hands::select(words.value(0).toInt()); }},
+        {u"leave"_s,
+         [](const QStringList &, QStringList *) {
+             Hands::leaveBox();
+             return true;
+         }},
         {u"add-location"_s, of(Hands::addLocation)},
         {u"delete-location"_s, of(Hands::deleteLocation)},
         {u"add-battery"_s, of(Hands::addBattery)},
