@@ -163,7 +163,7 @@ void BackupsDialogTest::nothingIsRestoredWhileAFlightIsEntered()
             QVERIFY(!action->isEnabled());
     }
     const QByteArray before = window.bytes();
-    QVERIFY(!window.logbook().restore({other(), {}, {}}).problem.isEmpty());
+    QVERIFY(!window.logbook().restore({other(), {}, {}, {}}).problem.isEmpty());
     QCOMPARE(window.bytes(), before);
     window.logbook().setCapturing(false);
     QVERIFY(shown.button(u"Restore"_s)->isEnabled());

@@ -195,8 +195,7 @@ int restoreCopy(const Invocation &invocation, const QString &stamp)
     const std::optional<Chosen> chosen = choose(folder, stamp);
     if (!chosen)
         return EXIT_FAILURE;
-    const Present present{CommandData::settled([&folder] { return Recovery::examine(folder); }),
-                          MeasuredStore::load(folder)};
+    const Present present{Recovery::examine(folder), MeasuredStore::load(folder)};
     if (present.state.kind == FileState::Unreadable)
         return refuse(opening.describe(present.state));
     return restore(folder, *chosen, present);
