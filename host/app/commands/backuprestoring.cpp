@@ -142,6 +142,15 @@ std::optional<Copy> copyOf(const StorageFolder &folder, const Present &present)
     return present.isWhole() && bytes == present.state.bytes ? whole : std::nullopt;
 }
 
+/** The newest copy is that of the newest state. One that is that already keeps its measured values. */
+QString copyRestored(const StorageFolder &folder, const QByteArray &document)
+{
+    QByteArray bytes;
+    return Backups::newestWhole(folder, &bytes) && bytes == document
+               ? QString()
+               : Backups::add(folder, document, QDateTime::currentDateTimeUtc());
+}
+
 int restore(const StorageFolder &folder, const Chosen &chosen, const Present &present)
 {
     const QByteArray &document = chosen.held.document;
@@ -172,7 +181,7 @@ int restore(const StorageFolder &folder, const Chosen &chosen, const Present &pr
     problem = isThere ? MeasuredStore::put(folder, beside) : put(folder, present, document, beside, &aside);
     if (!problem.isEmpty())
         return refuse(notRestored(problem));
-    problem = Backups::add(folder, document, QDateTime::currentDateTimeUtc());
+    problem = copyRestored(folder, document);
     if (!problem.isEmpty())
         Console::complain(Text::tr("No copy of the logbook can be kept in “%1”: %2.")
                               .arg(folder.backups().path(), problem));
