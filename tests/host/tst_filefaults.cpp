@@ -95,7 +95,7 @@ Scenario restoreFromTheMenu()
             },
             {{u"menu"_s, u"Backups…"_s},
              {u"select"_s, u"1"_s},
-             {u"press"_s, u"Restore"_s},
+             {u"answer"_s, u"Restore"_s},
              {u"leave"_s},
              {u"click"_s, u"3S A"_s}},
             Logbook::read(smallLogbook())};

@@ -58,6 +58,7 @@ const QHash<QString, Action> &actions()
              *result = Hands::messages();
              return Hands::press(words.value(0));
          }},
+        {u"answer"_s, of([](const QString &button) { return Hands::seesBox() && Hands::press(button); })},
         {u"type"_s, ofTwo(Hands::type)},
         {u"choose"_s, ofTwo(Hands::choose)},
         {u"menu"_s, of(Hands::chooseFromMenu)},

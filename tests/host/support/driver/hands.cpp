@@ -198,6 +198,11 @@ bool Hands::select(int row)
     return view->currentIndex().row() == row;
 }
 
+bool Hands::seesBox()
+{
+    return QApplication::activeModalWidget() != nullptr;
+}
+
 void Hands::leaveBox()
 {
     if (auto *box = qobject_cast<QDialog *>(QApplication::activeModalWidget()))

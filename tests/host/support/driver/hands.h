@@ -17,6 +17,8 @@ bool choose(const QString &chooser, const QString &text);
 bool chooseFromMenu(const QString &text);
 /** Chooses a row of the table in a box that has the focus. */
 bool select(int row);
+/** Whether a box keeps the input from the window. */
+bool seesBox();
 /** Closes a box, if there is one. */
 void leaveBox();
 
