@@ -10,6 +10,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Host;
 using namespace Qt::Literals::StringLiterals;
 
@@ -98,7 +100,8 @@ Scenario restoreFromTheMenu()
              {u"answer"_s, u"Restore"_s},
              {u"leave"_s},
              {u"click"_s, u"3S A"_s}},
-            Logbook::read(smallLogbook())};
+            Logbook::read(smallLogbook()),
+            u"voltbok-measured.json"_s};
 }
 
 Scenario emptyStart()
@@ -186,6 +189,11 @@ void FileFaultsTest::whateverOperationFailsNothingIsLostAndNothingIsSilent()
         QVERIFY(over.wait(30'000));
         QVERIFY2(faultless.problems().isEmpty(), qPrintable(faultless.problems().join(u"; "_s)));
         operations = faultless.operations();
+        const bool isWritten =
+            std::any_of(operations.cbegin(), operations.cend(), [&](const Operation &operation) {
+                return operation.flags.contains(u'c') && operation.path == scenario.written;
+            });
+        QCOMPARE(isWritten, !scenario.written.isEmpty());
     }
     const QList<Fault> faults = faultsFor(operations);
 
