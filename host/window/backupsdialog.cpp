@@ -165,6 +165,7 @@ void BackupsDialog::list()
         return; // the dialog goes
     const QString chosen = m_shown;
     m_shown.clear();
+    m_holds->clear();
     m_differences->clear();
     m_present = m_logbook.catalogue();
     const std::optional<QList<Copy>> copies = Backups::listed(m_folder);
@@ -191,7 +192,7 @@ void BackupsDialog::take(const Copy &copy, const Backups::Held &held)
     else
         m_copies->setProblem(copy.name, held.problem);
     if (!held.problem.isEmpty() && isCurrent)
-        m_holds->setText(tr("This copy cannot be restored: %1.").arg(held.problem));
+        choose(m_copies->rowOf(copy.name));
     m_reader->goOn();
     refresh();
 }
@@ -218,8 +219,10 @@ void BackupsDialog::compare(const Copy &copy, const Backups::Held &held)
 void BackupsDialog::choose(int row)
 {
     m_shown.clear();
-    m_holds->clear();
     m_differences->clear();
+    m_holds->setText(row < 0 || m_copies->isWhole(row)
+                         ? QString()
+                         : tr("This copy cannot be restored: %1.").arg(m_copies->problem(row)));
     if (row >= 0 && m_present && m_copies->isWhole(row))
         m_reader->readNext(m_copies->copy(row));
     refresh();

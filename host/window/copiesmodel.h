@@ -28,7 +28,9 @@ public:
     void setProblem(const QString &name, const QString &problem);
 
     const Copy &copy(int row) const { return m_rows.at(row).copy; }
-    bool isWhole(int row) const { return m_rows.at(row).problem.isEmpty(); }
+    /** Why it is not whole, a clause; empty when it is, or when nobody has looked yet. */
+    const QString &problem(int row) const { return m_rows.at(row).problem; }
+    bool isWhole(int row) const { return problem(row).isEmpty(); }
     /** How many were looked at. */
     int known() const;
     int rowOf(const QString &name) const;
