@@ -195,6 +195,7 @@ void BackupsCommandTest::aFolderThatDoesNotExistIsAnError()
         QVERIFY2(result.errors.startsWith(u"voltbok: There is no folder"_s), qPrintable(result.errors));
         // The user's own, before its first use.
         QCOMPARE(m_home->program().run(arguments).status, arguments.size() == 1 ? 0 : 1);
+        QVERIFY(!QFileInfo::exists(m_home->file(u"data"_s)));
     }
     QCOMPARE(m_home->snapshot(), before);
 }
