@@ -2,6 +2,7 @@
 // The menus of the main window, and what their actions do.
 #include "host/window/mainwindow.h"
 
+#include "host/window/backupsdialog.h"
 #include "host/window/exportdialog.h"
 #include "host/window/flightbookdialog.h"
 #include "host/window/importdialog.h"
@@ -49,6 +50,7 @@ void MainWindow::buildLogbookMenu()
     menu->addAction(tr("&Export…"), this, &MainWindow::exportLogbook);
     menu->addAction(tr("&Flight Book (print, PDF)…"), this,
                     [this] { showFlightBook(*m_logbook, m_questions, this); });
+    m_backups = menu->addAction(tr("&Backups…"), this, &MainWindow::restoreCopy);
     menu->addSeparator();
     QAction *quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q)); // QKeySequence::Quit is empty on some desktops
@@ -96,6 +98,7 @@ void MainWindow::updateActions()
     m_redo->setEnabled(m_logbook && m_logbook->canRedo());
     m_rename->setEnabled(m_logbook && m_logbook->mayChange());
     m_import->setEnabled(m_logbook && m_logbook->mayChange());
+    m_backups->setEnabled(m_logbook && m_logbook->mayChange());
 }
 
 /** What would be undone and done again; both versions are read for that, so only where somebody looks. */
@@ -166,6 +169,15 @@ void MainWindow::exportLogbook()
         return;
     m_messages->retract(u"export"_s); // the same once more is told once more
     tell(u"export"_s, report);
+}
+
+void MainWindow::restoreCopy()
+{
+    const QString report = restoreByDialog(*m_logbook, m_folder, this);
+    if (report.isEmpty())
+        return;
+    m_messages->retract(u"backups"_s);
+    tell(u"backups"_s, report);
 }
 
 void MainWindow::importLogs(const QStringList &paths)

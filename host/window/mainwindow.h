@@ -92,6 +92,7 @@ private:
     void importLogs(const QStringList &paths);
     void watchCards();
     void exportLogbook();
+    void restoreCopy();
     void showPanel(bool visible);
     void showPreferences();
     void showManual();
@@ -121,6 +122,7 @@ private:
     QSplitter *m_splitter;
     QMenu *m_recent = nullptr;
     QAction *m_import = nullptr;
+    QAction *m_backups = nullptr;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     QAction *m_rename = nullptr;

@@ -3,6 +3,7 @@
 
 #include "host/data/catalogue.h"
 #include "host/data/undo.h"
+#include "host/safety/backups.h"
 #include "host/safety/measuredstore.h"
 #include "host/safety/storagefolder.h"
 
@@ -59,6 +60,15 @@ public:
     QString change(const QString &name, const Change &change);
     QString changeWhole(const QString &name, const WholeChange &change);
 
+    /** What restore() came to. */
+    struct Restored
+    {
+        QString problem;      ///< why it was not done, in whole sentences; all is then as it was before
+        bool isThere = false; ///< there was nothing to do
+    };
+    /** Puts a copy in the place of the logbook, which is copied before; one step that can be undone. */
+    Restored restore(const Backups::Held &copy);
+
     /** What radio logs tell of the discharges; their measured ones are marked in the catalogue. */
     const Measured &measured() const { return m_stored.measured; }
     /** Why that is not known, in whole sentences; empty when it is. */
@@ -86,6 +96,7 @@ private:
     void versionWritten(const QByteArray &document);
     void versionOfOthers(const QByteArray &document);
     bool isFileStillThis() const;
+    QString prepareRestoring(const Backups::Held &copy, Progress &progress, QByteArray *beside);
     QString move(bool (UndoHistory::*isPossible)() const, QByteArray (UndoHistory::*document)() const,
                  QByteArray (UndoHistory::*beside)() const, void (UndoHistory::*moved)());
     QString put(const QByteArray &document, const QByteArray &beside, Progress &progress);

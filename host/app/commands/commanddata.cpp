@@ -31,10 +31,13 @@ bool mayBecomeWhole(const FileState &state)
     return state.kind == FileState::Damaged || state.kind == FileState::Missing;
 }
 
-std::optional<Catalogue> complain(const Invocation &invocation, const QString &problem)
+std::optional<Catalogue> complain(const Invocation &invocation, const QString &problem,
+                                  const std::function<QString()> &advice)
 {
-    Console::complain(tr(QT_TRANSLATE_NOOP("CommandData", "The logbook file “%1” cannot be read: %2."))
-                          .arg(invocation.folder.dataFile(), problem));
+    const QString text = tr(QT_TRANSLATE_NOOP("CommandData", "The logbook file “%1” cannot be read: %2."))
+                             .arg(invocation.folder.dataFile(), problem);
+    const QString more = advice ? advice() : QString();
+    Console::complain(more.isEmpty() ? text : text + u' ' + more);
     return std::nullopt;
 }
 
@@ -71,7 +74,8 @@ FileState CommandData::settled(const std::function<FileState()> &look)
     return state;
 }
 
-std::optional<Catalogue> CommandData::read(const Invocation &invocation)
+std::optional<Catalogue> CommandData::read(const Invocation &invocation,
+                                           const std::function<QString()> &advice)
 {
     const QString problem = folderProblem(invocation);
     if (!problem.isEmpty()) {
@@ -84,10 +88,10 @@ std::optional<Catalogue> CommandData::read(const Invocation &invocation)
     if (state.kind == FileState::New)
         state = {FileState::Whole, {}, sampleLogbook()};
     if (state.kind != FileState::Whole)
-        return complain(invocation, state.problem);
+        return complain(invocation, state.problem, advice);
     const CatalogueFile::Loaded loaded = CatalogueFile::load(state.bytes);
     return loaded.problem.isEmpty() ? std::optional(withMeasured(invocation.folder, loaded.catalogue))
-                                    : complain(invocation, loaded.problem);
+                                    : complain(invocation, loaded.problem, {});
 }
 
 } // namespace Host

@@ -21,11 +21,6 @@ int refuse(const Invocation &invocation)
 
 } // namespace
 
-int Run::backups(const Invocation &invocation)
-{
-    return refuse(invocation);
-}
-
 int Run::merge(const Invocation &invocation)
 {
     return refuse(invocation);
