@@ -19,6 +19,7 @@ const QString Restored = u"restored"_s; // what a message is about
 void SaveCare::readWritten()
 {
     m_logbook.reload();
+    m_showsPart = false;
     takeForOurs();
 }
 
@@ -106,8 +107,10 @@ QString SaveCare::keepIn(const StorageFolder &folder, FolderLock &lock) const
 bool SaveCare::save()
 {
     const QByteArray held = heldByWindow();
+    if (!mayOverwrite())
+        return false;
     m_logbook.save();
-    const bool changed = m_watch.isChanged();
+    const bool changed = m_watch.file().isWritten();
     takeForOurs();
     const QByteArray document = heldByFile();
     return held.isEmpty() ? changed && WholeFile::isWhole(document) : document == held;
