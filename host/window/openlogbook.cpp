@@ -203,7 +203,7 @@ QString OpenLogbook::put(const QByteArray &document, const QByteArray &beside, P
         }
     }
     if (problem.isEmpty()) {
-        m_care->readWritten();
+        m_care->readWritten(document);
         progress.step();
         if (m_care->takeWritten(document))
             return QString();
@@ -213,7 +213,7 @@ QString OpenLogbook::put(const QByteArray &document, const QByteArray &beside, P
         problem = tr("it cannot be read back");
         WholeFile::write(m_folder.dataFileTarget(), before);
         putBeside(besideBefore);
-        m_care->readWritten();
+        m_care->readWritten(before);
         m_care->takeWritten(before);
         m_history.restart(before, m_stored.bytes);
         announce();

@@ -17,6 +17,7 @@
 namespace Host {
 
 class FolderLock;
+class Progress;
 class Questions;
 
 /** What the care for a logbook's file needs of its window. */
@@ -55,8 +56,8 @@ public:
     bool isInOrder() const;
     /** Saves what is not saved yet. @return whether all is in order now, so that the file may be written. */
     bool makeFileCurrent();
-    /** The program has written the file in the window's stead, and has the window read it. */
-    void readWritten();
+    /** The program has written this document in the window's stead, and has the window read it. */
+    void readWritten(const QByteArray &document);
     /** @return whether the window holds now what was written. */
     bool takeWritten(const QByteArray &document);
 
@@ -109,7 +110,7 @@ private:
     void preferTheirs();
     void preferOurs();
     void takeOver();
-    bool isShown(const QByteArray &document);
+    bool isShown(const QByteArray &document, Progress &progress);
     void haveTaken(const QByteArray &theirs, const QString &change);
     void keepWhatIsDropped(const QByteArray &theirs);
     void tellOverwritten(const QByteArray &theirs);

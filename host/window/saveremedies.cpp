@@ -16,20 +16,26 @@ namespace {
 const QString Restored = u"restored"_s; // what a message is about
 }
 
-void SaveCare::readWritten()
+void SaveCare::readWritten(const QByteArray &document)
 {
     m_logbook.reload();
     m_showsPart = false;
-    takeForOurs();
+    m_watch.accept();
+    m_watch.file().acceptAs(document); // somebody else may have written meanwhile
+    setOthers(Others::Nothing);
+    m_keeper.look(document);
+    m_keeper.look();
 }
 
 bool SaveCare::takeWritten(const QByteArray &document)
 {
+    m_watch.file().look();
+    // The window has then read what is followed like any other version of somebody else's.
+    m_showsPart = m_watch.file().state() != FileWatch::Known;
     m_openedAs = heldByWindow();
     settle();
     Q_EMIT written(document);
-    return heldByFile() == document &&
-           (m_openedAs == document || m_openedAs == CatalogueFile::loadAndSave(document).document);
+    return m_openedAs == document || m_openedAs == CatalogueFile::loadAndSave(document).document;
 }
 
 void SaveCare::tryAgain()
@@ -62,7 +68,7 @@ void SaveCare::restoreLastState()
                 .arg(problem));
         return;
     }
-    readWritten();
+    readWritten(state);
     takeWritten(state);
     m_messages.tell(
         Restored,

@@ -144,14 +144,14 @@ void SaveCare::preferOurs()
 
 void SaveCare::takeOver()
 {
-    constexpr int Steps = 4;
+    constexpr int Steps = 5;    // none takes longer than the window's own reading
     constexpr int Attempts = 3; // it may be written again while it is read
     const QScopedValueRollback reading(m_isReading, true);
     const std::unique_ptr<Progress> progress = m_questions.progress(tr("The logbook is read again…"), Steps);
     progress->commit();
     const QByteArray ours = m_watch.file().known();
-    const Contents before = WholeFile::inspect(ours);
     progress->step();
+    const Contents before = WholeFile::inspect(ours);
     for (int attempt = 0; attempt < Attempts && m_watch.file().state() == FileWatch::Other; ++attempt) {
         const QByteArray theirs = m_theirs;
         const Contents now = WholeFile::inspect(theirs);
@@ -160,7 +160,7 @@ void SaveCare::takeOver()
         progress->step();
         m_logbook.reload();
         progress->step();
-        if (isShown(theirs))
+        if (isShown(theirs, *progress))
             return haveTaken(theirs, changeInWords(before, now));
         m_watch.file().look();
     }
@@ -169,12 +169,14 @@ void SaveCare::takeOver()
 }
 
 /** Whether the window holds what it reads from a version, and nothing else. */
-bool SaveCare::isShown(const QByteArray &document)
+bool SaveCare::isShown(const QByteArray &document, Progress &progress)
 {
     m_showsPart = false;
     const QByteArray held = heldByWindow();
+    progress.step();
     if (held.isEmpty() || (held != document && held != CatalogueFile::loadAndSave(document).document))
         return false;
+    progress.step();
     m_openedAs = held;
     return true;
 }
