@@ -220,6 +220,19 @@ QString Backups::add(const StorageFolder &folder, const QByteArray &document, co
     return problem;
 }
 
+QString Backups::ensure(const StorageFolder &folder, const QByteArray &document, const QDateTime &now,
+                        bool forGood)
+{
+    const QList<Copy> copies = list(folder);
+    for (const Copy &copy : copies) {
+        if (copy.size == document.size() &&
+            WholeFile::read(folder.backups().filePath(copy.name)).bytes == document)
+            return forGood ? keep(folder, copy) : QString();
+    }
+    const QString problem = add(folder, document, now);
+    return problem.isEmpty() && forGood ? keepNewestWhole(folder) : problem;
+}
+
 void Backups::removeLeftovers(const StorageFolder &folder)
 {
     // The name of a copy and six letters. In small letters alone it may be one that a person put aside as

@@ -103,6 +103,14 @@ QString keepNewestWhole(const StorageFolder &folder);
  */
 QString add(const StorageFolder &folder, const QByteArray &document, const QDateTime &now);
 
+/**
+ * Sees to it that one of the copies, whichever, is this whole logbook.
+ *
+ * @param forGood that copy is never thinned out.
+ * @return why there is no such copy, a clause; empty when there is one.
+ */
+QString ensure(const StorageFolder &folder, const QByteArray &document, const QDateTime &now, bool forGood);
+
 /** Deletes what copies that were cut off while they were written left behind. Only for who has the lock. */
 void removeLeftovers(const StorageFolder &folder);
 

@@ -152,6 +152,8 @@ void MainWindow::buildPanel()
     connect(m_logbook.get(), &OpenLogbook::changed, this, &MainWindow::greet);
     if (!m_logbook->measuredProblem().isEmpty())
         tell(u"measured"_s, m_logbook->measuredProblem());
+    connect(m_logbook.get(), &OpenLogbook::measuredByOthers, this,
+            [this](const QString &text) { tell(u"measured"_s, text); });
     m_panel = new SidePanel(*m_logbook, m_questions);
     connect(m_panel, &SidePanel::renameRequested, this, &MainWindow::rename);
     m_splitter->addWidget(m_panel);
@@ -170,7 +172,9 @@ void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> l
     lookInto(folder);
     progress->step();
     m_care = std::make_unique<SaveCare>(
-        folder, LogbookAccess{m_gui, [this] { m_gui->writeDataWithDataprocessor(); }, [this] { reload(); }},
+        folder,
+        LogbookAccess{m_gui, [this] { m_gui->writeDataWithDataprocessor(); }, [this] { reload(); },
+                      [this] { return m_pending->isInUse(); }, [this] { leadHome(); }},
         *m_messages, m_questions);
     // Queued: the care ends with the folder that it speaks of.
     connect(m_care.get(), &SaveCare::keptElsewhere, this, &MainWindow::goOnIn, Qt::QueuedConnection);

@@ -4,6 +4,7 @@
 #include "host/data/catalogue.h"
 #include "host/data/undo.h"
 #include "host/safety/backups.h"
+#include "host/safety/filewatch.h"
 #include "host/safety/measuredstore.h"
 #include "host/safety/storagefolder.h"
 
@@ -88,6 +89,8 @@ public:
 Q_SIGNALS:
     /** The file holds another version: what catalogue() gives has changed. */
     void changed();
+    /** Another program has changed what stands beside the logbook; says so in whole sentences. */
+    void measuredByOthers(const QString &text);
     /** What can be changed, undone and done again has changed. */
     void possibilitiesChanged();
 
@@ -102,6 +105,7 @@ private:
     QString put(const QByteArray &document, const QByteArray &beside, Progress &progress);
     QString putBeside(const QByteArray &beside);
     void readMeasured();
+    void takeMeasuredOfOthers();
     QString onlyBeside(const QByteArray &beside);
     QString measuredNotWritten(const QString &problem) const;
     void expectFollowing();
@@ -115,6 +119,7 @@ private:
     SaveCare *m_care;
     Questions &m_questions;
     UndoHistory m_history;
+    FileWatch m_measuredWatch;
     MeasuredStore::Stored m_stored;
     QByteArray m_followedDocument; ///< that the measured values fit to, where that is an earlier one
     std::shared_ptr<const Catalogue> m_followed;  ///< the same as values; null where it was not read
