@@ -26,9 +26,4 @@ int Run::backups(const Invocation &invocation)
     return refuse(invocation);
 }
 
-int Run::merge(const Invocation &invocation)
-{
-    return refuse(invocation);
-}
-
 } // namespace Host
