@@ -63,12 +63,12 @@ public:
         }
         for (const Entry *entry : std::as_const(newHere))
             m_pairs.insert(entry, {entry, nullptr, nullptr});
-        if (!isGoneThere) { // both have it, if not as often
+        if (!isGoneThere || !newHere.isEmpty()) { // what is gone there is gone as a whole, or not at all
             for (const Entry *entry : std::as_const(oldHere))
                 m_pairs.insert(entry, {entry, nullptr, entry});
         }
         m_added = newThere;
-        if (!isGoneHere)
+        if (!isGoneHere || !newThere.isEmpty())
             m_added += oldThere;
     }
 
