@@ -3,6 +3,7 @@
 
 #include "gui/voltbokgui.h"
 #include "host/safety/folderlock.h"
+#include "host/window/conflictoffer.h"
 #include "host/window/logbookpages.h"
 #include "host/window/messagebar.h"
 #include "host/window/openlogbook.h"
@@ -174,6 +175,7 @@ void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> l
     connect(m_care.get(), &SaveCare::keptElsewhere, this, &MainWindow::goOnIn, Qt::QueuedConnection);
     progress->step();
     buildPanel();
+    m_conflicts = std::make_unique<ConflictOffer>(folder, *m_logbook, *m_messages, m_questions, this);
     restoreLayout();
     updateActions();
     m_settings.addRecentFolder(folder.path());
@@ -193,6 +195,7 @@ void MainWindow::reload()
 void MainWindow::closeLogbook()
 {
     delete std::exchange(m_panel, nullptr); // each of them uses the next
+    m_conflicts.reset();
     m_logbook.reset();
     m_care.reset();
 }

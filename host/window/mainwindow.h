@@ -17,6 +17,7 @@ class VoltbokGui;
 
 namespace Host {
 
+class ConflictOffer;
 class FolderLock;
 class MessageBar;
 class OpenLogbook;
@@ -125,6 +126,7 @@ private:
     std::shared_ptr<FolderLock> m_lock;
     std::unique_ptr<SaveCare> m_care; // before the lock goes, it saves and copies
     std::unique_ptr<OpenLogbook> m_logbook;
+    std::unique_ptr<ConflictOffer> m_conflicts;
     SidePanel *m_panel = nullptr; // in the splitter
 };
 
