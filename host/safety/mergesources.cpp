@@ -65,7 +65,7 @@ QStringList measuredFilesOf(const StorageFolder &folder, const QString &version)
     if (QFileInfo(sameName).isFile())
         return {sameName};
     if (ConflictFiles::ofLogbook(folder).contains(file.absoluteFilePath()))
-        return ConflictFiles::ofMeasured(folder);
+        return ConflictFiles::ofMeasured(folder) + QStringList(folder.measuredFile()); // it may be theirs
     return {StorageFolder(file.absolutePath()).measuredFile()};
 }
 

@@ -29,7 +29,8 @@ std::optional<Catalogue> ancestor(
     const std::function<bool()> &step = [] { return true; });
 
 /** What the logs of radios tell of another version's discharges: from the file beside it; beside a copy that
- * a synchroniser left in the folder that is the copies that it left of that file. */
+ * a synchroniser left in the folder that is the copies that it left of that file, and the file itself, which
+ * it may have replaced. */
 Measured measuredOf(const StorageFolder &folder, const QString &version);
 
 /** Whether a version with these bytes was merged before. */
