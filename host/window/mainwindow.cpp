@@ -4,6 +4,7 @@
 #include "gui/voltbokgui.h"
 #include "host/safety/folderlock.h"
 #include "host/window/cardwatch.h"
+#include "host/window/conflictoffer.h"
 #include "host/window/logbookpages.h"
 #include "host/window/messagebar.h"
 #include "host/window/openlogbook.h"
@@ -180,6 +181,7 @@ void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> l
     connect(m_care.get(), &SaveCare::keptElsewhere, this, &MainWindow::goOnIn, Qt::QueuedConnection);
     progress->step();
     buildPanel();
+    m_conflicts = std::make_unique<ConflictOffer>(folder, *m_logbook, *m_messages, m_questions, this);
     restoreLayout();
     updateActions();
     watchCards();
@@ -202,6 +204,7 @@ void MainWindow::closeLogbook()
 {
     m_cards.reset(); // each of them uses the next
     delete std::exchange(m_panel, nullptr);
+    m_conflicts.reset();
     m_logbook.reset();
     m_care.reset();
 }

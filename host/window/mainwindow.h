@@ -18,6 +18,7 @@ class VoltbokGui;
 namespace Host {
 
 class CardWatch;
+class ConflictOffer;
 class FolderLock;
 class MessageBar;
 class OpenLogbook;
@@ -132,6 +133,7 @@ private:
     std::unique_ptr<SaveCare> m_care; // before the lock goes, it saves and copies
     std::unique_ptr<OpenLogbook> m_logbook;
     std::unique_ptr<CardWatch> m_cards;
+    std::unique_ptr<ConflictOffer> m_conflicts;
     SidePanel *m_panel = nullptr; // in the splitter
 };
 

@@ -7,6 +7,7 @@
 #include "host/demo/demo.h"
 #include "host/safety/measuredstore.h"
 #include "host/safety/recovery.h"
+#include "host/safety/wholefile.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -72,6 +73,18 @@ FileState CommandData::settled(const std::function<FileState()> &look)
         state = look();
     }
     return state;
+}
+
+FileState CommandData::stateOf(const QString &path)
+{
+    return settled([&path]() -> FileState {
+        const WholeFile::Reading reading = WholeFile::read(path);
+        if (!reading.problem.isEmpty())
+            return {FileState::Unreadable, reading.problem, {}};
+        const Contents contents = WholeFile::inspect(reading.bytes);
+        return {contents.problem.isEmpty() ? FileState::Whole : FileState::Damaged, contents.problem,
+                reading.bytes, !contents.declaresEntities};
+    });
 }
 
 std::optional<Catalogue> CommandData::read(const Invocation &invocation,

@@ -31,5 +31,8 @@ QString folderProblem(const Invocation &invocation);
 /** The state of a file: one that is not whole, or missing, is looked at again for up to two seconds. */
 FileState settled(const std::function<FileState()> &look);
 
+/** The same of a file that may be anywhere; one that is missing is not waited for. */
+FileState stateOf(const QString &path);
+
 } // namespace CommandData
 } // namespace Host
