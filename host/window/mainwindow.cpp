@@ -225,18 +225,6 @@ void MainWindow::tellAboutSettings()
              .arg(isSharedWritable ? m_settings.fileName() : RotavexPlugin::rotavexSettings->fileName()));
 }
 
-void MainWindow::goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock)
-{
-    open(folder, std::move(lock));
-    tell(u"moved"_s,
-         tr("The logbook is now kept in “%1”. Open this folder the next time, too.").arg(folder.path()));
-}
-
-void MainWindow::tell(const QString &matter, const QString &text)
-{
-    m_messages->tell(matter, text);
-}
-
 void MainWindow::raiseAndActivate()
 {
     setWindowState(windowState() & ~Qt::WindowMinimized);

@@ -167,8 +167,8 @@ void TakingOverTest::whatHasChangedIsSaidInWords_data()
     row("a flight", one, u"1 flight more"_s);
     row("two flights and a location",
         HostWindow::withLocation(u"Hill"_s, QByteArray(sample).replace("</Model>", flight + "</Model>")),
-        u"2 flights more, 1 location more"_s);
-    row("fewer", HostWindow::theirs(u"Pack A"_s), u"1 battery fewer, 2 models fewer, 1 location fewer"_s);
+        u"2 flights and 1 location more"_s);
+    row("fewer", HostWindow::theirs(u"Pack A"_s), u"1 battery, 2 models and 1 location fewer"_s);
     row("other values", QByteArray(sample).replace("Pack A", "Pack C"),
         u"as many entries as before, with other contents"_s);
 }
