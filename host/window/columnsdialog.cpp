@@ -22,7 +22,7 @@ namespace Host {
 namespace {
 
 /** Whether a column of the log can be of this kind: by its unit or, without one, because it holds numbers. */
-bool isOffered(const RadioLog &log, qsizetype column, int kind)
+bool isOffered(const RadioLog &log, qsizetype column, size_t kind)
 {
     const QString &name = log.columns.at(column);
     if (name.isEmpty() || !LogColumns::mayBe(static_cast<LogColumns::Kind>(kind), name))
@@ -64,7 +64,7 @@ ColumnsDialog::ColumnsDialog(const RadioLog &log, const QString &name, int other
     form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     const std::array present{log.mapping.consumed, log.mapping.current, log.mapping.volts};
     const std::array captions{tr("C&onsumption (mAh):"), tr("C&urrent (A):"), tr("&Volts of the battery:")};
-    for (int kind = 0; kind < static_cast<int>(m_choices.size()); ++kind) {
+    for (size_t kind = 0; kind < m_choices.size(); ++kind) {
         m_choices.at(kind) = makeChoice(log, kind, present.at(kind));
         form->addRow(captions.at(kind), m_choices.at(kind)); // makes the caption its buddy, and its name
     }
@@ -89,7 +89,7 @@ ColumnsDialog::ColumnsDialog(const RadioLog &log, const QString &name, int other
     resize(QSize(fontMetrics().averageCharWidth() * 75, fontMetrics().lineSpacing() * 24).boundedTo(most));
 }
 
-QComboBox *ColumnsDialog::makeChoice(const RadioLog &log, int kind, const QString &present)
+QComboBox *ColumnsDialog::makeChoice(const RadioLog &log, size_t kind, const QString &present)
 {
     auto *choice = new QComboBox;
     QStringList names;
@@ -139,7 +139,7 @@ QWidget *ColumnsDialog::makeSamples(const RadioLog &log)
     return table;
 }
 
-QString ColumnsDialog::chosen(int kind) const
+QString ColumnsDialog::chosen(size_t kind) const
 {
     return m_choices.at(kind)->currentData().toString();
 }
@@ -153,7 +153,7 @@ ColumnMapping ColumnsDialog::mapping() const
 void ColumnsDialog::refresh()
 {
     QStringList names;
-    for (int kind = 0; kind < static_cast<int>(m_choices.size()); ++kind) {
+    for (size_t kind = 0; kind < m_choices.size(); ++kind) {
         if (m_choices.at(kind) && !chosen(kind).isEmpty())
             names.append(chosen(kind));
     }

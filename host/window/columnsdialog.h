@@ -26,9 +26,9 @@ public:
     ColumnMapping mapping() const;
 
 private:
-    QComboBox *makeChoice(const RadioLog &log, int kind, const QString &present);
+    QComboBox *makeChoice(const RadioLog &log, size_t kind, const QString &present);
     QWidget *makeSamples(const RadioLog &log);
-    QString chosen(int kind) const;
+    QString chosen(size_t kind) const;
     void refresh();
 
     std::array<QComboBox *, 3> m_choices{}; ///< for the kinds of columns, in their order

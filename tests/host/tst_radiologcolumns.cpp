@@ -254,6 +254,10 @@ void RadioLogColumnsTest::theKeyIsThatOfTheHeader()
     QCOMPARE(logOf("Curr(A)", {"2", "3"}).headerKey, key);
     QVERIFY(logOf("Curr(A),VFAS(V)", {"1,11"}).headerKey != key);
     QVERIFY(!key.isEmpty());
+    QCOMPARE(LogHeader("\xEF\xBB\xBF"
+                       "Date,Time,Curr(A)")
+                 .key(),
+             LogHeader("Date,Time,Curr(A)").key());
 }
 
 void RadioLogColumnsTest::aHeaderIsSplitAtItsUnits_data()
