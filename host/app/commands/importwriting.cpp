@@ -16,16 +16,15 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("ImportWriting", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(ImportWriting)
+};
 
 QString sentence(const QString &path, const QString &reason)
 {
-    return tr(QT_TRANSLATE_NOOP("ImportWriting",
-                                "Nothing was imported: “%1” cannot be written: %2. See that it can be "
-                                "written, and try again."))
+    return Text::tr("Nothing was imported: “%1” cannot be written: %2. See that it can be "
+                    "written, and try again.")
         .arg(path, reason);
 }
 
@@ -38,8 +37,7 @@ QString documentOf(const Catalogue &meant, QByteArray &document)
     if (!saved.problem.isEmpty() || !loaded.problem.isEmpty())
         return sentence(QDir::tempPath(), saved.problem.isEmpty() ? loaded.problem : saved.problem);
     if (loaded.catalogue != meant)
-        return tr(QT_TRANSLATE_NOOP("ImportWriting",
-                                    "Nothing was imported: the logbook file cannot hold what the logs say."));
+        return Text::tr("Nothing was imported: the logbook file cannot hold what the logs say.");
     return QString();
 }
 
@@ -52,9 +50,8 @@ QString ImportWriting::write(const StorageFolder &folder, const Catalogue &prese
     if (!before.problem.isEmpty())
         return sentence(folder.dataFile(), before.problem);
     if (CatalogueFile::load(before.bytes).catalogue != present)
-        return tr(QT_TRANSLATE_NOOP("ImportWriting",
-                                    "Nothing was imported: another program has changed the logbook file "
-                                    "meanwhile. Try again."));
+        return Text::tr("Nothing was imported: another program has changed the logbook file "
+                        "meanwhile. Try again.");
     QByteArray document = before.bytes;
     if (meant != present) {
         QString problem = documentOf(meant, document);
@@ -76,9 +73,8 @@ QString ImportWriting::write(const StorageFolder &folder, const Catalogue &prese
     }
     const QString problem = Backups::add(folder, document, QDateTime::currentDateTimeUtc());
     if (!problem.isEmpty())
-        Console::complain(
-            tr(QT_TRANSLATE_NOOP("ImportWriting", "No copy of the logbook can be kept in “%1”: %2."))
-                .arg(folder.backups().path(), problem));
+        Console::complain(Text::tr("No copy of the logbook can be kept in “%1”: %2.")
+                              .arg(folder.backups().path(), problem));
     return QString();
 }
 
