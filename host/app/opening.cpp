@@ -34,7 +34,7 @@ QString firstFew(const QStringList &losses)
     constexpr qsizetype Few = 3;
     const QString first = losses.first(qMin(Few, losses.size())).join(u", ");
     const qsizetype more = losses.size() - Few;
-    return more <= 0 ? first : Text::tr("%1 and %2 more").arg(first, QString::number(more));
+    return more <= 0 ? first : Text::tr("%1 and %n more", nullptr, static_cast<int>(more)).arg(first);
 }
 
 } // namespace

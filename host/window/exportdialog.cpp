@@ -115,7 +115,8 @@ void ExportDialog::buildFields()
     choices->addWidget(m_models, 1);
     auto *preview = new QVBoxLayout;
     columns->addLayout(preview, 2);
-    auto *caption = new QLabel(tr("&Preview: the first %1 rows of each table").arg(ExportPreview::MostRows));
+    auto *caption =
+        new QLabel(tr("&Preview: the first %n rows of each table", nullptr, ExportPreview::MostRows));
     caption->setBuddy(m_preview);
     preview->addWidget(caption);
     preview->addWidget(m_preview, 1);
