@@ -4,6 +4,7 @@
 #include "host/app/commandline.h"
 #include "host/app/console.h"
 #include "host/app/opening.h"
+#include "host/preferences/languages.h"
 #include "host/safety/instanceserver.h"
 #include "host/window/mainwindow.h"
 #include "host/window/questions.h"
@@ -40,9 +41,9 @@ class Program final : public QObject
     Q_DISABLE_COPY_MOVE(Program)
 
 public:
-    explicit Program(Questions &questions)
+    Program(Questions &questions, Languages &languages)
         : m_questions(questions)
-        , m_window(questions)
+        , m_window(questions, &languages)
     {
         connect(&m_window, &MainWindow::told, &Console::complain);
         connect(&m_window, &MainWindow::folderRequested, this, &Program::openInstead);
@@ -125,6 +126,8 @@ bool mustMakeDemo(const CommandLine &commandLine)
 
 int start(const CommandLine &commandLine, Questions &questions)
 {
+    Languages languages;
+    languages.speakChosen();
     const bool drawsOnly = !commandLine.screenshot.isEmpty();
     const Demo demo = commandLine.resetDemo ? Demo::Reset : commandLine.demo ? Demo::Make : Demo::None;
     Opening opening(StorageFolder(commandLine.storagePath), questions);
@@ -136,7 +139,7 @@ int start(const CommandLine &commandLine, Questions &questions)
         return draw(opening, commandLine);
     if (const Opening::Status ended = opening.prepareFile())
         return *ended;
-    return Program(questions).run(opening.opened(), commandLine);
+    return Program(questions, languages).run(opening.opened(), commandLine);
 }
 
 } // namespace Host

@@ -37,12 +37,17 @@ Q_SIGNALS:
     /** The user wants the table of the batteries on paper. */
     void tablePrintRequested();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void retranslate();
     void buildTable();
     void showChosen();
     QString obstacle() const;
 
     std::optional<Battery> m_battery;
+    QLabel *m_quantityLabel;
     QComboBox *m_quantity;
     QCheckBox *m_asTable;
     QStackedWidget *m_pages;
