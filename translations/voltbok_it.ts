@@ -1623,6 +1623,14 @@
     </message>
 </context>
 <context>
+    <name>Host::Languages</name>
+    <message>
+        <source>English</source>
+        <comment>this language, in itself</comment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Host::MainWindow</name>
     <message>
         <source>&amp;Logbook</source>
@@ -1756,6 +1764,14 @@ This logbook is kept in “%1”.</source>
     </message>
     <message>
         <source>The logbook is now kept in “%1”. Open this folder the next time, too.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;System Language</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

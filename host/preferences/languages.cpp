@@ -82,6 +82,7 @@ void Languages::speakChosen()
 
 void Languages::speak(const QString &code)
 {
+    m_spoken = code;
     const QLocale locale(code);
     speakQt(locale);
     switchLanguage(locale);

@@ -34,6 +34,8 @@ public:
     /** Speaks a language from now on, and at the next start, too; with an empty code the system's. */
     void choose(const QString &code);
 
+    /** The code of the language that is spoken. */
+    QString spoken() const { return m_spoken; }
     /** Speaks what the user has chosen. */
     void speakChosen();
     /** Speaks a language, without remembering it. */
@@ -46,6 +48,7 @@ private:
     void speakQt(const QLocale &locale);
 
     QTranslator m_qt;
+    QString m_spoken;
 };
 
 } // namespace Host

@@ -3,6 +3,7 @@
 #include "host/window/mainwindow.h"
 
 #include "host/preferences/languages.h"
+#include "host/window/manualwindow.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -45,6 +46,12 @@ void MainWindow::chooseLanguage(const QString &code)
     tellAboutSettings();
 }
 
+/** Empty where none can be chosen. */
+QString MainWindow::language() const
+{
+    return m_languages ? m_languages->spoken() : QString();
+}
+
 void MainWindow::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -63,6 +70,7 @@ void MainWindow::retranslate()
     m_panelShown->setChecked(isPanelShown);
     updateActions();
     showTitle();
+    ManualWindow::switchBeside(this, language());
 }
 
 void MainWindow::showTitle()

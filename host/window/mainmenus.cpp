@@ -198,7 +198,7 @@ void MainWindow::showPreferences()
 
 void MainWindow::showManual()
 {
-    ManualWindow::showBeside(this);
+    ManualWindow::showBeside(this, language());
 }
 
 void MainWindow::showAbout()

@@ -85,6 +85,7 @@ private:
     void buildKeys();
     void buildLanguageMenu(QMenu *view);
     void chooseLanguage(const QString &code);
+    QString language() const;
     void retranslate();
     void showTitle();
     void updateActions();
