@@ -105,7 +105,8 @@ void ExportDialog::buildFields()
     form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     form->addRow(tr("&Format"), m_format);
     m_format->setAccessibleName(tr("Format"));
-    m_format->setMinimumContentsLength(26);
+    m_format->setSizeAdjustPolicy(QComboBox::AdjustToContents); // these names are read to their ends
+    m_format->setMinimumContentsLength(0);
     m_explanation->setWordWrap(true);
     m_explanation->setTextFormat(Qt::PlainText);
     form->addRow(m_explanation);

@@ -94,7 +94,6 @@ StatisticsTab::StatisticsTab(OpenLogbook &logbook, Questions &questions, QWidget
     content->addWidget(splitter, 1);
     connect(m_buttons, &PlotButtons::tablePrintRequested, this, &StatisticsTab::print);
     retranslate();
-    offerMeasures();
     connect(m_grouping, &QComboBox::currentIndexChanged, this, &StatisticsTab::showGroups);
     connect(m_measure, &QComboBox::currentIndexChanged, this, &StatisticsTab::showPlot);
 }
@@ -137,6 +136,7 @@ void StatisticsTab::retranslate()
     nameDay(m_isFrom, m_from, tr("&From:"), tr("First day"));
     nameDay(m_isTo, m_to, tr("&To:"), tr("Last day"));
     m_table->setAccessibleName(tr("Flights, added up"));
+    offerMeasures();
 }
 
 /** A day that limits the range where its box is ticked. */

@@ -27,6 +27,9 @@ QStringList english(const QList<std::pair<QString, QString>> &texts)
 {
     QStringList found;
     for (const auto &[where, text] : texts) {
+        // The preview of an export shows the names of files and columns, which are the same everywhere.
+        if (where.startsWith(u"QTableWidget") || (where.startsWith(u"QTabBar") && text.contains(u" (")))
+            continue;
         if (!PseudoLanguage::leftOver(text).isEmpty() && !found.contains(where + u": "_s + text))
             found.append(where + u": "_s + text);
     }
@@ -215,8 +218,10 @@ void LanguagesTest::noTextOfTheWindowStaysEnglish()
 
 void LanguagesTest::noTextOfADialogStaysEnglish()
 {
-    SpokenWindow window(PseudoLanguage::Code);
+    SpokenWindow window(u"en"_s);
     const PseudoQt qt;
+    window.choose(PseudoLanguage::Code);
+    window.user.texts.clear();
     QStringList found;
     const DialogReader reader([&](QWidget &dialog) { found += english(ShownTexts(dialog).all()); });
     useEverything(window);
@@ -241,15 +246,24 @@ void LanguagesTest::anotherLanguageAndBackIsAsBefore()
         all.sort();
         return all;
     };
+    texts(); // every tab has been on show: until then it is as before
     const QStringList before = texts();
     QVERIFY(before.size() > 100);
     window.choose(PseudoLanguage::Code);
     QVERIFY(texts() != before);
     window.choose(u"en"_s);
+    texts();
     const QStringList after = texts();
-    for (qsizetype i = 0; i < qMin(before.size(), after.size()); ++i)
-        QCOMPARE(after.at(i), before.at(i));
-    QCOMPARE(after.size(), before.size());
+    QStringList changed;
+    for (const QString &text : after) {
+        if (!before.contains(text))
+            changed.append(u"now: "_s + text);
+    }
+    for (const QString &text : before) {
+        if (!after.contains(text))
+            changed.append(u"no more: "_s + text);
+    }
+    QVERIFY2(changed.isEmpty(), qPrintable(changed.join(u'\n')));
 }
 
 void LanguagesTest::whatWasEnteredOutlivesTheSwitch()

@@ -65,11 +65,11 @@ public:
     /** The words of a text that are not in this language, which has no plain vowels. */
     static QStringList leftOver(QString text)
     {
-        // Units, the dates of the cards, endings of files, names; and what the logbook's own form fixes.
+        // Units, the dates of the cards, endings of files and names; and what the logbook's own form fixes.
         static const QRegularExpression ours(
-            u"\\bmAh\\b|\\b[AC]\\b|\\b(Mon|Tue|Wed|Thu|Fri|Sat|Sun|Jan|Feb|Mar|Apr|May|Jun|Jul|Aug|Sep|Oct|"
-            u"Nov|"
-            "Dec)\\b|\\*\\.\\w+|Voltbok|Rotavex 15.7.0 64-bit|\\bMyLocation\\b|/[\\w/.-]+"_s);
+            u"(?<![A-Za-z])(mAh|[AC]|Mon|Tue|Wed|Thu|Fri|Sat|Sun|Jan|Feb|Mar|Apr|May|Jun|Jul|Aug|Sep|Oct|Nov|"
+            u"Dec|"
+            "Voltbok|English|MyLocation)(?![A-Za-z])|\\*\\.\\w+|Rotavex 15.7.0 64-bit|/[\\w/.-]+"_s);
         text.remove(ours);
         static const QRegularExpression word(u"[A-Za-z]*[aeiouAEIOU][A-Za-z]*"_s);
         QStringList words;
@@ -148,6 +148,6 @@ public:
     {
         const bool isText = context[0] == 'Q' && qstrcmp(context, "QGuiApplication") != 0 &&
                             qstrcmp(context, "QShortcut") != 0;
-        return isText ? u'«' + QString::fromUtf8(source) + u'»' : QString();
+        return isText ? PseudoLanguage::said(QString::fromUtf8(source)) : QString();
     }
 };

@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QMetaProperty>
 #include <QPushButton>
@@ -41,6 +42,11 @@ public:
 private:
     void add(const QObject &object)
     {
+        if (object.objectName().startsWith(u"Scroll")) // buttons of Qt, named once and for all
+            return;
+        const auto *former = qobject_cast<const QChartView *>(&object);
+        if (former && former->isHidden()) // the logbook keeps its charts of before
+            return;
         const QString name =
             u"%1 %2 "_s.arg(QLatin1StringView(object.metaObject()->className()), object.objectName());
         for (const char *property :
@@ -55,6 +61,8 @@ private:
         } else if (const auto *tabs = qobject_cast<const QTabBar *>(&object)) {
             for (int i = 0; i < tabs->count(); ++i)
                 say(name + u"tab"_s, tabs->tabText(i));
+        } else if (qobject_cast<const QHeaderView *>(&object)) {
+            return; // its titles are those of its table
         } else if (const auto *view = qobject_cast<const QAbstractItemView *>(&object)) {
             addModel(name, view->model());
         } else if (const auto *plot = qobject_cast<const QChartView *>(&object)) {
@@ -142,9 +150,10 @@ private:
             return true;
         const QRect room = label.contentsRect();
         if (label.wordWrap()) {
-            const QRect needed = label.fontMetrics().boundingRect(QRect(0, 0, room.width(), 10000),
-                                                                  Qt::TextWordWrap, label.text());
-            return needed.height() <= room.height() && needed.width() <= room.width();
+            const QRect needed =
+                label.fontMetrics().boundingRect(QRect(0, 0, room.width(), QWIDGETSIZE_MAX),
+                                                 Qt::TextWordWrap | Qt::TextShowMnemonic, label.text());
+            return label.heightForWidth(label.width()) <= label.height() && needed.width() <= room.width();
         }
         return widthOf(label, label.text()) <= room.width() &&
                label.fontMetrics().height() <= room.height() + 2;

@@ -14,6 +14,7 @@
 #include "tests/support/warnings.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -67,10 +68,11 @@ public:
         Test::failOnWarnings();
         RotavexPlugin::rotavexSettings->clear();
         Host::Settings().clear();
-        QVERIFY(Test::write(m_place.filePath(u"voltbok.xml"_s), logbook()));
+        const QString path = m_place.filePath(u"Ημερολογιο"_s);
+        QVERIFY(QDir().mkdir(path) && Test::write(path + u"/voltbok.xml"_s, logbook()));
         languages.choose(language);
         window = std::make_unique<Host::MainWindow>(user, &languages);
-        const Host::StorageFolder folder(m_place.path());
+        const Host::StorageFolder folder(path);
         auto lock = std::make_shared<Host::FolderLock>();
         QCOMPARE(lock->take(folder).problem, QString());
         window->open(folder, std::move(lock));
