@@ -1774,6 +1774,22 @@ This logbook is kept in “%1”.</source>
         <source>&amp;System Language</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>This logbook is empty. Add your first battery, look around in the sample, or choose the folder of a logbook that you have already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a Battery</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the Sample</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a Folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Host::ManualWindow</name>

@@ -74,7 +74,8 @@ private:
     void openInstead(const StorageFolder &folder)
     {
         Opening opening(folder, m_questions);
-        if (!opening.takeFolder(Demo::None) && isReady(opening))
+        const bool isDemo = folder.path() == StorageFolder::ofDemo().path();
+        if (!opening.takeFolder(isDemo ? Demo::Make : Demo::None) && isReady(opening))
             show(opening.opened(), true);
     }
 

@@ -4,6 +4,7 @@
 
 #include "host/preferences/languages.h"
 #include "host/window/manualwindow.h"
+#include "host/window/openlogbook.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -70,6 +71,8 @@ void MainWindow::retranslate()
     m_panelShown->setChecked(isPanelShown);
     updateActions();
     showTitle();
+    if (m_logbook)
+        greet();
     ManualWindow::switchBeside(this, language());
 }
 

@@ -80,7 +80,7 @@ MainWindow::MainWindow(Questions &questions, Languages *languages, QWidget *pare
     setCentralWidget(content);
     resize(size);
     // The desktop's, where it has one; dialogs take that of the application.
-    QGuiApplication::setWindowIcon(QIcon::fromTheme(u"voltbok"_s, ownIcon()));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(u"org.voltbok.Voltbok"_s, ownIcon()));
     setAcceptDrops(true);
     buildMenus();
     buildKeys();
@@ -142,6 +142,7 @@ void MainWindow::buildPanel()
 {
     m_logbook = std::make_unique<OpenLogbook>(m_folder, m_care.get(), m_questions);
     connect(m_logbook.get(), &OpenLogbook::possibilitiesChanged, this, &MainWindow::updateActions);
+    connect(m_logbook.get(), &OpenLogbook::changed, this, &MainWindow::greet);
     if (!m_logbook->measuredProblem().isEmpty())
         tell(u"measured"_s, m_logbook->measuredProblem());
     m_panel = new SidePanel(*m_logbook, m_questions);
@@ -172,6 +173,7 @@ void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> l
     updateActions();
     m_settings.addRecentFolder(folder.path());
     tellAboutSettings();
+    greet();
     Q_EMIT folderTaken(folder);
 }
 

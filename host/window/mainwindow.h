@@ -112,6 +112,8 @@ private:
 
     void tellAboutSettings();
     void reload();
+    void greet();
+    void addFirstBattery();
     void closeLogbook();
     void goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock);
 

@@ -3,6 +3,7 @@
 // followed on the spot.
 #include "host/window/filterbar.h"
 #include "host/window/flightstab.h"
+#include "host/window/manualwindow.h"
 #include "host/window/statisticstab.h"
 #include "tests/host/support/pseudolanguage.h"
 #include "tests/host/support/showntexts.h"
@@ -103,7 +104,10 @@ private Q_SLOTS:
     void cleanupTestCase() { m_pseudo.reset(); }
     void languagesThatAreCompiledInAreThere();
     void theSystemsLanguageIsSpokenUntilAnotherIsChosen();
+    void qtsOwnTextsAreTranslated();
+    void theManualFollowsTheLanguage();
     void theMenuNamesAndKeepsTheLanguage();
+    void noTextOfTheWindowStaysEnglish_data();
     void noTextOfTheWindowStaysEnglish();
     void noTextOfADialogStaysEnglish();
     void anotherLanguageAndBackIsAsBefore();
@@ -168,6 +172,38 @@ void LanguagesTest::theSystemsLanguageIsSpokenUntilAnotherIsChosen()
     QCOMPARE(window.languages.spoken(), u"en"_s);
 }
 
+void LanguagesTest::qtsOwnTextsAreTranslated()
+{
+    const auto cancel = [] { return QCoreApplication::translate("QPlatformTheme", "Cancel"); };
+    Languages languages;
+    languages.speak(u"de"_s);
+    QCOMPARE(cancel(), u"Abbrechen"_s);
+    languages.speak(u"en"_s);
+    QCOMPARE(cancel(), u"Cancel"_s);
+}
+
+void LanguagesTest::theManualFollowsTheLanguage()
+{
+    SpokenWindow window(u"en"_s);
+    const auto manual = [&] { return window.window->findChild<ManualWindow *>(); };
+    QTest::keyClick(window.window.get(), Qt::Key_F1);
+    QVERIFY(manual());
+    const QString english = manual()->toPlainText();
+    QVERIFY(english.contains(u"Voltbok: the manual"_s));
+    window.choose(PseudoLanguage::Code);
+    QCOMPARE(manual()->toPlainText(), u"Mánúál"_s);
+    QCOMPARE(manual()->windowTitle(), PseudoLanguage::said(u"Voltbok Manual"_s));
+    manual()->close();
+    window.settle();
+    QVERIFY(!manual());
+    window.window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window.window.get()));
+    QTest::keyClick(window.window.get(), Qt::Key_F1);
+    QCOMPARE(manual()->toPlainText(), u"Mánúál"_s);
+    window.choose(u"en"_s); // for which there is none of its own
+    QCOMPARE(manual()->toPlainText(), english);
+}
+
 void LanguagesTest::theMenuNamesAndKeepsTheLanguage()
 {
     SpokenWindow window({});
@@ -201,9 +237,17 @@ void LanguagesTest::theMenuNamesAndKeepsTheLanguage()
     QCOMPARE(window.window->menuBar()->actions().constFirst()->text(), PseudoLanguage::said(u"&Logbook"_s));
 }
 
+void LanguagesTest::noTextOfTheWindowStaysEnglish_data()
+{
+    QTest::addColumn<QByteArray>("logbook");
+    QTest::newRow("with everything") << SpokenWindow::logbook();
+    QTest::newRow("empty") << Test::document({});
+}
+
 void LanguagesTest::noTextOfTheWindowStaysEnglish()
 {
-    SpokenWindow window(u"en"_s);
+    QFETCH(const QByteArray, logbook);
+    SpokenWindow window(u"en"_s, logbook);
     const PseudoQt qt;
     window.choose(PseudoLanguage::Code);
     QStringList found;

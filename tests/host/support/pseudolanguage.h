@@ -30,8 +30,10 @@ public:
     {
         const QString name = u"voltbok_"_s + Code;
         write(name + u".ts"_s, translated(translation));
+        write(u"manual_"_s + Code + u".md"_s, "Mánúál\n");
         write(u"pseudo.qrc"_s, "<RCC><qresource prefix=\"/Resources/Translations\"><file>" + name.toUtf8() +
-                                   ".qm</file></qresource></RCC>");
+                                   ".qm</file></qresource><qresource prefix=\"/manual\"><file>manual_" +
+                                   QString(Code).toUtf8() + ".md</file></qresource></RCC>");
         run(QStringLiteral(LRELEASE), {u"-silent"_s, path(name + u".ts"_s), u"-qm"_s, path(name + u".qm"_s)});
         run(QStringLiteral(RCC), {u"--binary"_s, path(u"pseudo.qrc"_s), u"-o"_s, path(u"pseudo.rcc"_s)});
         QVERIFY(QResource::registerResource(path(u"pseudo.rcc"_s)));

@@ -63,13 +63,13 @@ public:
 class SpokenWindow
 {
 public:
-    explicit SpokenWindow(const QString &language)
+    explicit SpokenWindow(const QString &language, const QByteArray &document = logbook())
     {
         Test::failOnWarnings();
         RotavexPlugin::rotavexSettings->clear();
         Host::Settings().clear();
         const QString path = m_place.filePath(u"Ημερολογιο"_s);
-        QVERIFY(QDir().mkdir(path) && Test::write(path + u"/voltbok.xml"_s, logbook()));
+        QVERIFY(QDir().mkdir(path) && Test::write(path + u"/voltbok.xml"_s, document));
         languages.choose(language);
         window = std::make_unique<Host::MainWindow>(user, &languages);
         const Host::StorageFolder folder(path);
@@ -108,7 +108,6 @@ public:
     ReadingUser user;
     Host::Languages languages;
 
-private:
     /** With advice of every kind, values of every source, and flights that stand twice. */
     static QByteArray logbook()
     {
@@ -133,6 +132,7 @@ private:
         return Test::document({{worn, {packs.last()}}, {model}, {u"Λιβαδι"_s}});
     }
 
+private:
     QTemporaryDir m_place;
 
 public:
