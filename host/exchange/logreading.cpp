@@ -24,14 +24,14 @@ namespace {
 
 constexpr qsizetype PieceSize = qsizetype(256) * 1024;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("LogReading", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(LogReading)
+};
 
 QString sentence(const QString &reason)
 {
-    return tr(QT_TRANSLATE_NOOP("LogReading", "It cannot be read: %1.")).arg(reason);
+    return Text::tr("It cannot be read: %1.").arg(reason);
 }
 
 /** Logs whose bytes have been read already, by their SHA-256. */
@@ -125,14 +125,14 @@ ImportedLog readOne(const QString &path, const Measured &measured, const Earlier
     if (!info.exists())
         return refused(path, sentence(WholeFile::clause(qt_error_string(ENOENT))));
     if (!info.isFile()) // nothing else is opened: a pipe would be waited for
-        return refused(path, tr(QT_TRANSLATE_NOOP("LogReading", "It is not a regular file.")));
+        return refused(path, Text::tr("It is not a regular file."));
     QFile file(path);
     if (!file.open(QFile::ReadOnly))
         return refused(path, sentence(WholeFile::clause(file.errorString())));
     const Prints prints = printsOf(file, earlier, options);
     if (prints.whole.isEmpty())
         return refused(path, options.goOn && !options.goOn()
-                                 ? tr(QT_TRANSLATE_NOOP("LogReading", "The reading was cancelled."))
+                                 ? Text::tr("The reading was cancelled.")
                                  : sentence(WholeFile::clause(file.errorString())));
     ImportedLog result{path, prints.whole, false, {}, {}};
     if (const KnownLog *known = measured.logOf(prints.whole)) {

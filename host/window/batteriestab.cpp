@@ -38,8 +38,7 @@ BatteriesTab::BatteriesTab(OpenLogbook &logbook, Questions &questions, QWidget *
     : PanelTab(parent)
     , m_logbook(logbook)
     , m_questions(questions)
-    , m_heading(
-          new QLabel(tr("There is no battery yet. Add your first one: press the menu button, then Edit.")))
+    , m_heading(new QLabel)
     , m_splitter(new QSplitter(Qt::Vertical))
     , m_table(new QTableView)
     , m_model(new BatteriesModel(this))
@@ -62,6 +61,13 @@ BatteriesTab::BatteriesTab(OpenLogbook &logbook, Questions &questions, QWidget *
     layout->addWidget(m_heading);
     layout->addWidget(m_splitter, 1);
     connect(m_plot, &BatteryPlot::tablePrintRequested, this, &BatteriesTab::print);
+    retranslate();
+}
+
+void BatteriesTab::retranslate()
+{
+    m_heading->setText(tr("There is no battery yet. Add your first one: press the menu button, then Edit."));
+    m_table->setAccessibleName(tr("Batteries and their figures"));
 }
 
 void BatteriesTab::buildTable()
@@ -70,7 +76,6 @@ void BatteriesTab::buildTable()
     m_sorted->setSortRole(BatteriesModel::SortRole);
     m_sorted->setSortLocaleAware(true);
     m_table->setModel(m_sorted);
-    m_table->setAccessibleName(tr("Batteries and their figures"));
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setTabKeyNavigation(false);

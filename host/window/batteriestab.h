@@ -34,6 +34,9 @@ public:
     /** Shows the first battery of this name. */
     void select(const QString &name);
 
+protected:
+    void retranslate() override;
+
 private:
     void buildTable();
     int chosenRow() const;

@@ -39,7 +39,11 @@ Q_SIGNALS:
     /** The user wants the table of the batteries on paper. */
     void tablePrintRequested();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void retranslate();
     void buildTable();
     void showChosen();
     QString obstacle() const;
@@ -47,6 +51,7 @@ private:
 
     std::optional<Battery> m_battery;
     Measured m_measured;
+    QLabel *m_quantityLabel;
     QComboBox *m_quantity;
     QCheckBox *m_asTable;
     QStackedWidget *m_pages;

@@ -32,6 +32,10 @@ void MainWindow::buildMenus()
     buildEditMenu();
     buildViewMenu();
     buildHelpMenu();
+}
+
+void MainWindow::buildKeys()
+{
     for (const QKeySequence &key : {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::ALT | Qt::Key_Left)}) {
         auto *shortcut = new QShortcut(key, this);
         connect(shortcut, &QShortcut::activated, this, &MainWindow::back);
@@ -81,6 +85,7 @@ void MainWindow::buildViewMenu()
     m_panelShown->setCheckable(true);
     connect(m_panelShown, &QAction::triggered, this, &MainWindow::showPanel);
     connect(m_panelShown, &QAction::triggered, this, [this](bool shown) { m_settings.setPanelOpen(shown); });
+    buildLanguageMenu(menu);
 }
 
 void MainWindow::buildHelpMenu()
@@ -205,7 +210,7 @@ void MainWindow::showPreferences()
 
 void MainWindow::showManual()
 {
-    ManualWindow::showBeside(this);
+    ManualWindow::showBeside(this, language());
 }
 
 void MainWindow::showAbout()

@@ -18,7 +18,6 @@
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QPainter>
@@ -39,13 +38,6 @@ namespace {
 
 constexpr int RoomForThePanel = 1000; // pixels of the screen, from which on the side panel is shown at first
 
-QString titleOf(const StorageFolder &folder)
-{
-    if (folder.path() == StorageFolder::ofDemo().path())
-        return MainWindow::tr("Voltbok - sample logbook");
-    return u"Voltbok - %1"_s.arg(QFileInfo(folder.path()).fileName());
-}
-
 /** Drawn here: an icon that Qt makes of the file needs a plugin, which not every system installs with Qt. */
 QIcon ownIcon()
 {
@@ -64,9 +56,10 @@ QIcon ownIcon()
 
 } // namespace
 
-MainWindow::MainWindow(Questions &questions, QWidget *parent)
+MainWindow::MainWindow(Questions &questions, Languages *languages, QWidget *parent)
     : QMainWindow(parent)
     , m_questions(questions)
+    , m_languages(languages)
     , m_gui(new VoltbokGui)
     , m_pages(m_gui->findChild<QStackedWidget *>(u"stackedWidget"_s))
     , m_models(m_gui->findChild<QComboBox *>(u"cb_select_model"_s))
@@ -92,6 +85,7 @@ MainWindow::MainWindow(Questions &questions, QWidget *parent)
     QGuiApplication::setWindowIcon(QIcon::fromTheme(u"org.voltbok.Voltbok"_s, ownIcon()));
     setAcceptDrops(true);
     buildMenus();
+    buildKeys();
     connectLogbook();
     connect(m_messages, &MessageBar::told, this, &MainWindow::told);
 }
@@ -142,7 +136,7 @@ void MainWindow::showPage(const QString &name)
 void MainWindow::lookInto(const StorageFolder &folder)
 {
     m_folder = folder;
-    setWindowTitle(titleOf(folder));
+    showTitle();
     m_gui->changeStoragePath(folder.path());
 }
 

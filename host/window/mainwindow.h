@@ -20,6 +20,7 @@ namespace Host {
 class CardWatch;
 class ConflictOffer;
 class FolderLock;
+class Languages;
 class MessageBar;
 class OpenLogbook;
 class PendingInput;
@@ -35,8 +36,8 @@ class MainWindow final : public QMainWindow
     Q_DISABLE_COPY_MOVE(MainWindow)
 
 public:
-    /** @param questions outlives the window. */
-    explicit MainWindow(Questions &questions, QWidget *parent = nullptr);
+    /** @param questions @param languages outlive the window; without the second none can be chosen. */
+    explicit MainWindow(Questions &questions, Languages *languages = nullptr, QWidget *parent = nullptr);
     ~MainWindow() override;
 
     /**
@@ -69,6 +70,7 @@ Q_SIGNALS:
     void folderTaken(const Host::StorageFolder &folder);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -82,6 +84,12 @@ private:
     void buildEditMenu();
     void buildViewMenu();
     void buildHelpMenu();
+    void buildKeys();
+    void buildLanguageMenu(QMenu *view);
+    void chooseLanguage(const QString &code);
+    QString language() const;
+    void retranslate();
+    void showTitle();
     void updateActions();
     void nameSteps();
     void listRecentFolders();
@@ -114,6 +122,7 @@ private:
     void goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock);
 
     Questions &m_questions;
+    Languages *m_languages;
     Settings m_settings;
     VoltbokGui *m_gui;
     QStackedWidget *m_pages; ///< of the logbook

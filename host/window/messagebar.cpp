@@ -20,14 +20,19 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 
+void nameClosing(QToolButton *closing)
+{
+    closing->setAccessibleName(MessageBar::tr("Close this message"));
+    closing->setToolTip(MessageBar::tr("Close this message"));
+}
+
 QToolButton *makeClosing(QWidget *message)
 {
     auto *closing = new QToolButton(message);
     closing->setText(u"×"_s); // a style's own icon may be dark on a dark palette
     closing->setAutoRaise(true);
     closing->setFocusPolicy(Qt::StrongFocus); // a tool button could not be reached by keyboard
-    closing->setAccessibleName(MessageBar::tr("Close this message"));
-    closing->setToolTip(MessageBar::tr("Close this message"));
+    nameClosing(closing);
     QObject::connect(closing, &QToolButton::clicked, message, &QWidget::hide);
     return closing;
 }
@@ -55,6 +60,17 @@ bool MessageBar::eventFilter(QObject *watched, QEvent *event)
     if (watched == widget() && event->type() == QEvent::LayoutRequest)
         fit();
     return handled;
+}
+
+/** A message stays as it was said. */
+void MessageBar::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        const QList<QToolButton *> closings = findChildren<QToolButton *>();
+        for (QToolButton *closing : closings)
+            nameClosing(closing);
+    }
+    QScrollArea::changeEvent(event);
 }
 
 void MessageBar::resizeEvent(QResizeEvent *event)

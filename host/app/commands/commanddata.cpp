@@ -22,10 +22,10 @@ namespace {
 constexpr int LongestSave = 2000; // ms that a file is waited for
 constexpr unsigned long Pause = 100;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("CommandData", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CommandData)
+};
 
 bool mayBecomeWhole(const FileState &state)
 {
@@ -35,7 +35,7 @@ bool mayBecomeWhole(const FileState &state)
 std::optional<Catalogue> complain(const Invocation &invocation, const QString &problem,
                                   const std::function<QString()> &advice)
 {
-    const QString text = tr(QT_TRANSLATE_NOOP("CommandData", "The logbook file “%1” cannot be read: %2."))
+    const QString text = Text::tr("The logbook file “%1” cannot be read: %2.")
                              .arg(invocation.folder.dataFile(), problem);
     const QString more = advice ? advice() : QString();
     Console::complain(more.isEmpty() ? text : text + u' ' + more);
@@ -57,9 +57,9 @@ QString CommandData::folderProblem(const Invocation &invocation)
 {
     const QFileInfo folder(invocation.folder.path());
     if (folder.exists() && !folder.isDir())
-        return tr(QT_TRANSLATE_NOOP("CommandData", "“%1” is not a folder.")).arg(folder.filePath());
+        return Text::tr("“%1” is not a folder.").arg(folder.filePath());
     if (!folder.exists() && (invocation.isDataGiven || folder.isSymLink()))
-        return tr(QT_TRANSLATE_NOOP("CommandData", "There is no folder “%1”.")).arg(folder.filePath());
+        return Text::tr("There is no folder “%1”.").arg(folder.filePath());
     return QString();
 }
 

@@ -17,15 +17,15 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("LogbookWriting", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(LogbookWriting)
+};
 
 QString sentence(const QString &notDone, const QString &path, const QString &reason)
 {
-    return tr(QT_TRANSLATE_NOOP("LogbookWriting", "%1: “%2” cannot be written: %3. See that it can be "
-                                                  "written, and try again."))
+    return Text::tr("%1: “%2” cannot be written: %3. See that it can be "
+                    "written, and try again.")
         .arg(notDone, path, reason);
 }
 
@@ -38,9 +38,7 @@ QString documentOf(const Catalogue &meant, const QString &notDone, QByteArray &d
     if (!saved.problem.isEmpty() || !loaded.problem.isEmpty())
         return sentence(notDone, QDir::tempPath(), saved.problem.isEmpty() ? loaded.problem : saved.problem);
     if (loaded.catalogue != meant)
-        return tr(QT_TRANSLATE_NOOP("LogbookWriting",
-                                    "%1: the logbook file cannot hold what would be in it."))
-            .arg(notDone);
+        return Text::tr("%1: the logbook file cannot hold what would be in it.").arg(notDone);
     return QString();
 }
 
@@ -63,8 +61,7 @@ QString LogbookWriting::write(const StorageFolder &folder, const Catalogue &pres
     if (!before.problem.isEmpty() && !isNew)
         return sentence(notDone, folder.dataFile(), before.problem);
     if (!isNew && CatalogueFile::load(before.bytes).catalogue != present)
-        return tr(QT_TRANSLATE_NOOP("LogbookWriting",
-                                    "%1: another program has changed the logbook file meanwhile. Try again."))
+        return Text::tr("%1: another program has changed the logbook file meanwhile. Try again.")
             .arg(notDone);
     QByteArray document = before.bytes;
     if (meant != present) {
@@ -89,9 +86,8 @@ QString LogbookWriting::write(const StorageFolder &folder, const Catalogue &pres
                                 ? QString() // there is still no logbook
                                 : Backups::add(folder, document, QDateTime::currentDateTimeUtc());
     if (!problem.isEmpty())
-        Console::complain(
-            tr(QT_TRANSLATE_NOOP("LogbookWriting", "No copy of the logbook can be kept in “%1”: %2."))
-                .arg(folder.backups().path(), problem));
+        Console::complain(Text::tr("No copy of the logbook can be kept in “%1”: %2.")
+                              .arg(folder.backups().path(), problem));
     return QString();
 }
 
