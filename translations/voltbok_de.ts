@@ -5,147 +5,147 @@
     <name>Advice</name>
     <message numerus="yes">
         <source>Bring “%1” to storage charge: it has been charged, and not used, for %n days.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Bringen Sie „%1“ auf Lagerspannung: Der Akku ist seit %n Tag geladen und wurde nicht benutzt.</numerusform>
+            <numerusform>Bringen Sie „%1“ auf Lagerspannung: Der Akku ist seit %n Tagen geladen und wurde nicht benutzt.</numerusform>
         </translation>
     </message>
     <message>
         <source>Land earlier with “%1”: one of its last discharges took %2 of its capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Landen Sie mit „%1“ früher: Eine der letzten Entladungen entnahm %2 der Kapazität.</translation>
     </message>
     <message>
         <source>Load “%1” less: one of its last discharges reached %2 C, and its label allows %3 C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belasten Sie „%1“ weniger: Eine der letzten Entladungen erreichte %2 C, das Etikett erlaubt %3 C.</translation>
     </message>
     <message>
         <source>Warm “%1” before you fly: its last flight was at %2 °C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wärmen Sie „%1“ vor dem Flug an: Beim letzten Flug waren es %2 °C.</translation>
     </message>
     <message numerus="yes">
         <source>Check the voltage of “%1”: it has not been used for %n days.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Prüfen Sie die Spannung von „%1“: Der Akku wurde seit %n Tag nicht benutzt.</numerusform>
+            <numerusform>Prüfen Sie die Spannung von „%1“: Der Akku wurde seit %n Tagen nicht benutzt.</numerusform>
         </translation>
     </message>
     <message>
         <source>Watch how “%1” performs: it was bought on %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Achten Sie auf die Leistung von „%1“: Der Akku wurde am %2 gekauft.</translation>
     </message>
     <message>
         <source>Set the timer of “%1” to %2 for “%3”: its flights on this battery show how much it needs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stellen Sie den Timer von „%1“ auf %2, wenn Sie mit „%3“ fliegen: Die Flüge mit diesem Akku zeigen, wie viel das Modell verbraucht.</translation>
     </message>
 </context>
 <context>
     <name>AdviceLimits</name>
     <message>
         <source>Charged and not used, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Geladen und unbenutzt, Hinweis nach</translation>
     </message>
     <message numerus="yes">
         <source> days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> Tag</numerusform>
+            <numerusform> Tagen</numerusform>
         </translation>
     </message>
     <message>
         <source>Charged and not used, warning after</source>
-        <translation type="unfinished"></translation>
+        <translation>Geladen und unbenutzt, Warnung nach</translation>
     </message>
     <message>
         <source>Deep discharge, notice over</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiefe Entladung, Hinweis über</translation>
     </message>
     <message numerus="yes">
         <source> % of the capacity</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> % der Kapazität</numerusform>
+            <numerusform> % der Kapazität</numerusform>
         </translation>
     </message>
     <message>
         <source>Deep discharges, warning over</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiefe Entladungen, Warnung über</translation>
     </message>
     <message>
         <source>Deep discharges, warning from</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiefe Entladungen, Warnung ab</translation>
     </message>
     <message numerus="yes">
         <source> of them</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> davon</numerusform>
+            <numerusform> davon</numerusform>
         </translation>
     </message>
     <message>
         <source>Newest discharges that are looked at</source>
-        <translation type="unfinished"></translation>
+        <translation>Betrachtete letzte Entladungen</translation>
     </message>
     <message numerus="yes">
         <source> discharges</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> Entladung</numerusform>
+            <numerusform> Entladungen</numerusform>
         </translation>
     </message>
     <message>
         <source>Cold flight, below</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalter Flug, unter</translation>
     </message>
     <message numerus="yes">
         <source> °C</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> °C</numerusform>
+            <numerusform> °C</numerusform>
         </translation>
     </message>
     <message>
         <source>Cold flight, within the last</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalter Flug, in den letzten</translation>
     </message>
     <message>
         <source>Not used, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbenutzt, Hinweis nach</translation>
     </message>
     <message>
         <source>Old battery, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Alter Akku, Hinweis nach</translation>
     </message>
     <message numerus="yes">
         <source> years</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> Jahr</numerusform>
+            <numerusform> Jahren</numerusform>
         </translation>
     </message>
     <message>
         <source>Timer, for a discharge of</source>
-        <translation type="unfinished"></translation>
+        <translation>Timer, für eine Entladung von</translation>
     </message>
     <message>
         <source>Timer, from so many flights on</source>
-        <translation type="unfinished"></translation>
+        <translation>Timer, ab so vielen Flügen</translation>
     </message>
     <message numerus="yes">
         <source> flights</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> Flug</numerusform>
+            <numerusform> Flüge</numerusform>
         </translation>
     </message>
     <message>
         <source>Timer, rounded down to</source>
-        <translation type="unfinished"></translation>
+        <translation>Timer, abgerundet auf</translation>
     </message>
     <message numerus="yes">
         <source> seconds</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> Sekunde</numerusform>
+            <numerusform> Sekunden</numerusform>
         </translation>
     </message>
 </context>
@@ -153,90 +153,90 @@
     <name>BackupKeeper</name>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. Rename or remove it; the program tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ kann keine Kopie des Logbuchs abgelegt werden: %2. Entfernen Sie, was dort im Weg ist, oder benennen Sie es um; das Programm versucht es von selbst wieder.</translation>
     </message>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. Free some space; the program tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ kann keine Kopie des Logbuchs abgelegt werden: %2. Schaffen Sie Platz; das Programm versucht es von selbst wieder.</translation>
     </message>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. See that the program can write there; it tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ kann keine Kopie des Logbuchs abgelegt werden: %2. Sorgen Sie dafür, dass das Programm dort schreiben kann; es versucht es von selbst wieder.</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei fehlt</translation>
     </message>
 </context>
 <context>
     <name>Backups</name>
     <message>
         <source>it is a link that leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist ein Link, der ins Leere führt</translation>
     </message>
     <message>
         <source>it is not a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist kein Ordner</translation>
     </message>
     <message>
         <source>the copies that are there cannot be listed</source>
-        <translation type="unfinished"></translation>
+        <translation>Die vorhandenen Kopien lassen sich nicht auflisten</translation>
     </message>
 </context>
 <context>
     <name>BatteryChart</name>
     <message>
         <source>Capacity, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapazität, %1</translation>
     </message>
     <message>
         <source>Permitted by the rating, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Laut C-Rate zulässig, %1</translation>
     </message>
     <message>
         <source>%1 (%2 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 %)</translation>
     </message>
     <message>
         <source>Capacity used</source>
-        <translation type="unfinished"></translation>
+        <translation>Entnommene Kapazität</translation>
     </message>
     <message>
         <source>Maximum current</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximalstrom</translation>
     </message>
     <message>
         <source>Highest load</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchste Last</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>A</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>C</source>
-        <translation type="unfinished"></translation>
+        <translation>C</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2: %Ln discharges from %3 to %4, %5 to %6.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 von %2: %Ln Entladung vom %3 bis %4, %5 bis %6.</numerusform>
+            <numerusform>%1 von %2: %Ln Entladungen vom %3 bis %4, %5 bis %6.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln discharges without a time are in the table alone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Entladung ohne Zeit steht nur in der Tabelle.</numerusform>
+            <numerusform>%Ln Entladungen ohne Zeit stehen nur in der Tabelle.</numerusform>
         </translation>
     </message>
 </context>
@@ -244,1382 +244,1382 @@
     <name>BatteryWidget</name>
     <message>
         <source>BatteryWidget</source>
-        <translation type="unfinished"></translation>
+        <translation>BatteryWidget</translation>
     </message>
     <message>
         <source>Last use:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt:</translation>
     </message>
     <message>
         <source>Discharged:</source>
-        <translation type="unfinished"></translation>
+        <translation>Entnommen:</translation>
     </message>
     <message>
         <source>Max. Current:</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. Strom:</translation>
     </message>
     <message>
         <source>Cycles:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zyklen:</translation>
     </message>
     <message>
         <source>Charged</source>
-        <translation type="unfinished"></translation>
+        <translation>Geladen</translation>
     </message>
     <message>
         <source>Discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>Entladen</translation>
     </message>
     <message>
         <source>%1: charged; press when discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: geladen; drücken, wenn entladen</translation>
     </message>
     <message>
         <source>%1: discharged; press when charged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: entladen; drücken, wenn geladen</translation>
     </message>
 </context>
 <context>
     <name>CatalogueFile</name>
     <message>
         <source>the disk took only a part of it</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger nahm nur einen Teil davon auf</translation>
     </message>
 </context>
 <context>
     <name>Changes</name>
     <message>
         <source>Battery %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku %1 umbenannt</translation>
     </message>
     <message>
         <source>Charged %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geladen</translation>
     </message>
     <message>
         <source>Discharged %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 entladen</translation>
     </message>
     <message>
         <source>Battery %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku %1 bearbeitet</translation>
     </message>
     <message>
         <source>Model %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell %1 umbenannt</translation>
     </message>
     <message>
         <source>Batteries of %1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Akkus von %1 geändert</translation>
     </message>
     <message>
         <source>Flight of %1 recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug von %1 erfasst</translation>
     </message>
     <message>
         <source>Flight of %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug von %1 gelöscht</translation>
     </message>
     <message>
         <source>Flight of %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug von %1 bearbeitet</translation>
     </message>
     <message>
         <source>Model %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell %1 bearbeitet</translation>
     </message>
     <message>
         <source>Battery %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku %1 hinzugefügt</translation>
     </message>
     <message>
         <source>Battery %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku %1 gelöscht</translation>
     </message>
     <message>
         <source>Model %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell %1 hinzugefügt</translation>
     </message>
     <message>
         <source>Model %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell %1 gelöscht</translation>
     </message>
     <message>
         <source>Location %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort %1 hinzugefügt</translation>
     </message>
     <message>
         <source>Location %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort %1 gelöscht</translation>
     </message>
     <message>
         <source>Change of the logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderung am Logbuch</translation>
     </message>
 </context>
 <context>
     <name>DateMark</name>
     <message>
         <source>Not a valid date: no date will be stored</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein gültiges Datum: Es wird keins gespeichert</translation>
     </message>
 </context>
 <context>
     <name>Demo</name>
     <message>
         <source>The sample logbook “%1” cannot be written: %2. Free some space, or check the rights of its folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Beispiel-Logbuch „%1“ kann nicht geschrieben werden: %2. Schaffen Sie Platz oder prüfen Sie die Rechte des Ordners.</translation>
     </message>
 </context>
 <context>
     <name>Edits</name>
     <message>
         <source>There is no such time: the clock leaves it out, as it does where summer time begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Zeit gibt es nicht: Die Uhr überspringt sie, wie zu Beginn der Sommerzeit.</translation>
     </message>
     <message>
         <source>The year must be from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Jahr muss zwischen %1 und %2 liegen.</translation>
     </message>
     <message>
         <source>The temperature must be from %1 to %2 °C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Temperatur muss zwischen %1 und %2 °C liegen.</translation>
     </message>
     <message>
         <source>The duration must be less than 24 hours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Dauer muss unter 24 Stunden liegen.</translation>
     </message>
     <message>
         <source>The discharge must be from 0 to %1 mAh.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Entladung muss zwischen 0 und %1 mAh liegen.</translation>
     </message>
     <message>
         <source>The current must be from 0 to %1 A.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Strom muss zwischen 0 und %1 A liegen.</translation>
     </message>
     <message>
         <source>The text holds a control character, or half a character, which the logbook file cannot hold. Leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Text enthält ein Steuerzeichen oder ein halbes Zeichen, das die Logbuchdatei nicht aufnehmen kann. Lassen Sie es weg.</translation>
     </message>
     <message>
         <source>The flight of %1 has a discharge of the battery “%2” already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Flug vom %1 hat schon eine Entladung des Akkus „%2“.</translation>
     </message>
     <message>
         <source>None of these flights has a discharge of the battery “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keiner dieser Flüge hat eine Entladung des Akkus „%1“.</translation>
     </message>
     <message>
         <source>The name must not be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name darf nicht leer sein.</translation>
     </message>
     <message>
         <source>There is “%1” already. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ gibt es schon. Wählen Sie einen anderen Namen.</translation>
     </message>
 </context>
 <context>
     <name>ExportFormats</name>
     <message>
         <source>Workbook for spreadsheets (XLSX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeitsmappe für Tabellenprogramme (XLSX)</translation>
     </message>
     <message>
         <source>Tables for your spreadsheet (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabellen für Ihr Tabellenprogramm (CSV)</translation>
     </message>
     <message>
         <source>Tables for other programs (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabellen für andere Programme (CSV)</translation>
     </message>
     <message>
         <source>Everything for scripts (JSON)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles für Skripte (JSON)</translation>
     </message>
     <message>
         <source>One file with five sheets, with real numbers and dates. The best choice for LibreOffice, Excel and other spreadsheets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei mit fünf Blättern, mit echten Zahlen und Datumswerten. Die beste Wahl für LibreOffice, Excel und andere Tabellenprogramme.</translation>
     </message>
     <message>
         <source>Five files in a folder, with the decimal sign of your country. A text that looks like a formula gets an apostrophe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fünf Dateien in einem Ordner, mit dem Dezimalzeichen Ihres Landes. Ein Text, der wie eine Formel aussieht, bekommt einen Apostroph.</translation>
     </message>
     <message>
         <source>Five files in a folder, the same on every computer, for databases and other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fünf Dateien in einem Ordner, auf jedem Rechner gleich, für Datenbanken und andere Programme.</translation>
     </message>
     <message>
         <source>One file that holds everything with its relations, for programs of your own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei mit allem und den Beziehungen dazwischen, für eigene Programme.</translation>
     </message>
 </context>
 <context>
     <name>Exporting</name>
     <message>
         <source>“%1” cannot be put in its place: %2. Export again.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht an seinen Platz gebracht werden: %2. Exportieren Sie noch einmal.</translation>
     </message>
     <message>
         <source>“%1” cannot be written: %2. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht geschrieben werden: %2. Es wurde nichts exportiert.</translation>
     </message>
     <message>
         <source>This build of Voltbok cannot write XLSX. Choose csv-local for your spreadsheet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Fassung von Voltbok kann kein XLSX schreiben. Wählen Sie csv-local für Ihr Tabellenprogramm.</translation>
     </message>
     <message>
         <source>“%1” exists already. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ gibt es schon. Es wurde nichts exportiert.</translation>
     </message>
     <message>
         <source>“%1” is there already, and is no file that could be replaced. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist schon da und ist keine Datei, die sich ersetzen ließe. Es wurde nichts exportiert.</translation>
     </message>
     <message>
         <source>“%1” is a logbook, and nothing takes its place. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist ein Logbuch und wird durch nichts ersetzt. Wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>“%1” is not a folder. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Ordner. Es wurde nichts exportiert.</translation>
     </message>
     <message>
         <source>There is no folder “%1”. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einen Ordner „%1“ gibt es nicht. Es wurde nichts exportiert.</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be made. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ kann nicht angelegt werden. Es wurde nichts exportiert.</translation>
     </message>
 </context>
 <context>
     <name>Findings</name>
     <message>
         <source>%1 (line %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Zeile %2)</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>model “%1”: no battery has a discharge at the time of the flight of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell „%1“: Kein Akku hat eine Entladung zur Zeit des Flugs vom %2</translation>
     </message>
     <message>
         <source>model “%1”: a flight has no time, so that no discharge belongs to it</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell „%1“: Ein Flug hat keine Zeit, deshalb gehört keine Entladung dazu</translation>
     </message>
     <message>
         <source>battery “%1”: no model has a flight at the time of the discharge of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku „%1“: Kein Modell hat einen Flug zur Zeit der Entladung vom %2</translation>
     </message>
     <message>
         <source>battery “%1”: a discharge has no time, so that no flight belongs to it</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku „%1“: Eine Entladung hat keine Zeit, deshalb gehört kein Flug dazu</translation>
     </message>
     <message>
         <source>several batteries are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Akkus heißen „%1“ (Zeilen %2)</translation>
     </message>
     <message>
         <source>several models are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Modelle heißen „%1“ (Zeilen %2)</translation>
     </message>
     <message>
         <source>several locations are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Orte heißen „%1“ (Zeilen %2)</translation>
     </message>
 </context>
 <context>
     <name>FlightBook</name>
     <message>
         <source>Flight book</source>
-        <translation type="unfinished"></translation>
+        <translation>Flugbuch</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bis %2</translation>
     </message>
     <message>
         <source>from %1 on</source>
-        <translation type="unfinished"></translation>
+        <translation>ab %1</translation>
     </message>
     <message>
         <source>until %1</source>
-        <translation type="unfinished"></translation>
+        <translation>bis %1</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Akkus</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notizen</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1 von %2</translation>
     </message>
     <message>
         <source>Page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite %1</translation>
     </message>
     <message>
         <source>Place and date</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort und Datum</translation>
     </message>
     <message>
         <source>Signature</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschrift</translation>
     </message>
     <message>
         <source>This page</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Seite</translation>
     </message>
     <message>
         <source>Brought forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Übertrag</translation>
     </message>
     <message>
         <source>In all</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt</translation>
     </message>
     <message>
         <source>Carried forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Übertrag</translation>
     </message>
     <message>
         <source>Flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge: %1</translation>
     </message>
     <message>
         <source>There are no flights within these limits.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesen Grenzen gibt es keine Flüge.</translation>
     </message>
     <message>
         <source>There are no flights in this logbook yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesem Logbuch gibt es noch keine Flüge.</translation>
     </message>
 </context>
 <context>
     <name>FlightEdits</name>
     <message numerus="yes">
         <source>Enter a figure for each of the %n batteries, with a semicolon between them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Geben Sie für %n Akku eine Zahl ein, mehrere durch Semikolon getrennt.</numerusform>
+            <numerusform>Geben Sie für jeden der %n Akkus eine Zahl ein, durch Semikolon getrennt.</numerusform>
         </translation>
     </message>
     <message>
         <source>The logbook has changed meanwhile. Look at the table again, and repeat what you did.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch hat sich inzwischen geändert. Sehen Sie die Tabelle noch einmal an und wiederholen Sie, was Sie getan haben.</translation>
     </message>
 </context>
 <context>
     <name>FolderLock</name>
     <message>
         <source>The folder “%1” cannot be made: %2. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ kann nicht angelegt werden: %2. Wählen Sie einen anderen Ordner.</translation>
     </message>
     <message>
         <source>The folder “%1”, which keeps two windows from one logbook, cannot be made: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“, der verhindert, dass zwei Fenster dasselbe Logbuch öffnen, kann nicht angelegt werden: %2.</translation>
     </message>
     <message>
         <source>Another program keeps the folder “%1” locked. Wait until it is done, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hält den Ordner „%1“ gesperrt. Warten Sie, bis es fertig ist, und versuchen Sie es dann noch einmal.</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: the lock file “%2” was left behind and cannot be removed (%3). Ask the owner of the file or of its folder to remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch in „%1“ kann nicht gesperrt werden: Die Sperrdatei „%2“ ist übrig geblieben und lässt sich nicht entfernen (%3). Bitten Sie den Eigentümer der Datei oder ihres Ordners, sie zu entfernen.</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: the lock file “%2” cannot be written (%3).</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch in „%1“ kann nicht gesperrt werden: Die Sperrdatei „%2“ lässt sich nicht schreiben (%3).</translation>
     </message>
     <message>
         <source>somebody else writes it</source>
-        <translation type="unfinished"></translation>
+        <translation>jemand anders schreibt sie gerade</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: “%2” is in the way, and is not a regular file. Remove or rename it, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch in „%1“ kann nicht gesperrt werden: „%2“ ist im Weg und ist keine gewöhnliche Datei. Entfernen Sie es oder benennen Sie es um und versuchen Sie es dann noch einmal.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is locked by the user “%2”, whose lock file “%3” cannot be read. Ask “%2” to close it first. If “%2” does not have it open, you can take it over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch in „%1“ ist vom Benutzer „%2“ gesperrt; seine Sperrdatei „%3“ lässt sich nicht lesen. Bitten Sie „%2“, es zuerst zu schließen. Hat „%2“ es nicht geöffnet, können Sie es übernehmen.</translation>
     </message>
     <message>
         <source>unknown program</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekanntes Programm</translation>
     </message>
     <message>
         <source>%1, process %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, Prozess %2</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open on the computer “%2” (%3), says the lock file “%4”. Close it there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch in „%1“ ist laut Sperrdatei „%4“ auf dem Rechner „%2“ geöffnet (%3). Schließen Sie es zuerst dort.</translation>
     </message>
     <message>
         <source>If that computer was switched off without closing it, you can take the logbook over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wurde dieser Rechner ausgeschaltet, ohne das Logbuch zu schließen, können Sie es übernehmen.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open already: the user “%2” has it (%3), says the lock file “%4”. It must be closed there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch in „%1“ ist schon geöffnet: Laut Sperrdatei „%4“ hat es der Benutzer „%2“ (%3). Es muss zuerst dort geschlossen werden.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open already (%2). Use the window that shows it, or close that first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch in „%1“ ist schon geöffnet (%2). Benutzen Sie das Fenster, das es zeigt, oder schließen Sie dieses zuerst.</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteriesModel</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Entladungen</translation>
     </message>
     <message>
         <source>Measured or entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Gemessen/eingegeben</translation>
     </message>
     <message>
         <source>Full cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollzyklen</translation>
     </message>
     <message>
         <source>Median depth (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Median-Tiefe (%)</translation>
     </message>
     <message>
         <source>Deepest (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Größte Tiefe (%)</translation>
     </message>
     <message>
         <source>Highest load (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchste Last (C)</translation>
     </message>
     <message>
         <source>Age (years)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alter (Jahre)</translation>
     </message>
     <message>
         <source>Days since use</source>
-        <translation type="unfinished"></translation>
+        <translation>Tage unbenutzt</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuten</translation>
     </message>
     <message>
         <source>mAh per minute</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh pro Minute</translation>
     </message>
     <message>
         <source>Total (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamt (mAh)</translation>
     </message>
     <message>
         <source>The name of the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name des Akkus.</translation>
     </message>
     <message>
         <source>How many discharges are recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Entladungen erfasst sind.</translation>
     </message>
     <message>
         <source>How many of the discharges were measured by a radio or entered by you: medians, means and maxima are taken from these alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele der Entladungen von einem Sender gemessen oder von Ihnen eingegeben wurden: Mediane, Mittel- und Höchstwerte stammen nur aus diesen.</translation>
     </message>
     <message>
         <source>Everything that was ever drawn from the battery, divided by its capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles, was dem Akku je entnommen wurde, geteilt durch seine Kapazität.</translation>
     </message>
     <message>
         <source>Half of the discharges used less of the capacity than this, half of them more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hälfte der Entladungen verbrauchte weniger der Kapazität als dies, die andere Hälfte mehr.</translation>
     </message>
     <message>
         <source>The largest part of the capacity that one discharge used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der größte Teil der Kapazität, den eine Entladung verbrauchte.</translation>
     </message>
     <message>
         <source>The highest current, divided by the capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der höchste Strom, geteilt durch die Kapazität.</translation>
     </message>
     <message>
         <source>The time since the battery was bought.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit seit dem Kauf des Akkus.</translation>
     </message>
     <message>
         <source>The days since the battery was last used or discharged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tage, seit der Akku zuletzt benutzt oder entladen wurde.</translation>
     </message>
     <message>
         <source>The flights of all models at the times of its discharges.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Flüge aller Modelle zu den Zeiten seiner Entladungen.</translation>
     </message>
     <message>
         <source>How long these flights took together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie lange diese Flüge zusammen dauerten.</translation>
     </message>
     <message>
         <source>What a minute of flight draws from the battery on average.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was eine Flugminute dem Akku im Mittel entnimmt.</translation>
     </message>
     <message>
         <source>Everything that was ever drawn from the battery, guessed values included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles, was dem Akku je entnommen wurde, geschätzte Werte eingeschlossen.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>%1 (%2 guessed)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 geschätzt)</translation>
     </message>
     <message>
         <source>%1 measured or entered</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 gemessen oder eingegeben</translation>
     </message>
     <message numerus="yes">
         <source>%n days old</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Tag alt</numerusform>
+            <numerusform>%n Tage alt</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>The date of purchase is still to come.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kaufdatum liegt noch in der Zukunft.</translation>
     </message>
     <message>
         <source>No date of purchase was entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde kein Kaufdatum eingegeben.</translation>
     </message>
     <message>
         <source>No use before today is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Benutzung vor heute bekannt.</translation>
     </message>
     <message>
         <source>The battery was not used yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Akku wurde noch nicht benutzt.</translation>
     </message>
     <message>
         <source>The battery was not discharged yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Akku wurde noch nicht entladen.</translation>
     </message>
     <message>
         <source>The capacity of the battery is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kapazität des Akkus ist nicht bekannt.</translation>
     </message>
     <message>
         <source>No discharge was measured or entered: what was guessed does not count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Entladung wurde gemessen oder eingegeben: Geschätztes zählt nicht.</translation>
     </message>
     <message>
         <source>No discharge that was measured or entered has a flight with a duration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine gemessene oder eingegebene Entladung hat einen Flug mit einer Dauer.</translation>
     </message>
     <message>
         <source>No current was measured or entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde kein Strom gemessen oder eingegeben.</translation>
     </message>
     <message>
         <source>No used capacity was measured or entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde keine entnommene Kapazität gemessen oder eingegeben.</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteriesTab</name>
     <message>
         <source>There is no battery yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch keinen Akku. Legen Sie Ihren ersten an: Drücken Sie den Menüknopf, dann „Bearbeiten“.</translation>
     </message>
     <message>
         <source>Batteries and their figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Akkus und ihre Werte</translation>
     </message>
     <message>
         <source>Batteries, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Akkus, %1</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteryPlot</name>
     <message>
         <source>As a &amp;table</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Tab&amp;elle</translation>
     </message>
     <message>
         <source>Pl&amp;ot:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dia&amp;gramm:</translation>
     </message>
     <message>
         <source>What is plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>Was das Diagramm zeigt</translation>
     </message>
     <message>
         <source>Shows the discharges of the battery as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt die Entladungen des Akkus als Tabelle</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Entladungen</translation>
     </message>
     <message>
         <source>Choose a battery to see what became of it over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen Akku, um zu sehen, wie er sich über die Zeit entwickelt hat.</translation>
     </message>
     <message>
         <source>“%1” was never discharged. Record a flight with it: click its card.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ wurde noch nie entladen. Erfassen Sie einen Flug damit: Klicken Sie auf die Karte des Akkus.</translation>
     </message>
     <message>
         <source>No discharge of “%1” has a time and this figure: there is nothing to plot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Entladung von „%1“ hat eine Zeit und diesen Wert: Es gibt nichts zu zeichnen.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
 </context>
 <context>
     <name>Host::DischargesModel</name>
     <message>
         <source>Not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht eingegeben</translation>
     </message>
     <message>
         <source>Guessed</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschätzt</translation>
     </message>
     <message>
         <source>Entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingegeben</translation>
     </message>
     <message>
         <source>Measured</source>
-        <translation type="unfinished"></translation>
+        <translation>Gemessen</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Used (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Entnommen (mAh)</translation>
     </message>
     <message>
         <source>Used (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Entnommen (%)</translation>
     </message>
     <message>
         <source>Current (A)</source>
-        <translation type="unfinished"></translation>
+        <translation>Strom (A)</translation>
     </message>
     <message>
         <source>Load (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Last (C)</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle</translation>
     </message>
 </context>
 <context>
     <name>Host::ExportDialog</name>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch kann gerade nicht gelesen werden. Schaffen Sie Platz und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>Only these &amp;batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur diese &amp;Akkus</translation>
     </message>
     <message>
         <source>Only these &amp;models</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur diese &amp;Modelle</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportieren</translation>
     </message>
     <message>
         <source>Progress of the export</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt des Exports</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportieren…</translation>
     </message>
     <message>
         <source>&amp;Format</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Format</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>F&amp;rom</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Von</translation>
     </message>
     <message>
         <source>&amp;To</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bis</translation>
     </message>
     <message numerus="yes">
         <source>&amp;Preview: the first %n rows of each table</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>V&amp;orschau: die erste %n Zeile jeder Tabelle</numerusform>
+            <numerusform>V&amp;orschau: die ersten %n Zeilen jeder Tabelle</numerusform>
         </translation>
     </message>
     <message>
         <source>The first day is later than the last one. Change one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der erste Tag liegt nach dem letzten. Ändern Sie einen davon.</translation>
     </message>
     <message>
         <source>Export the Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Logbuch exportieren</translation>
     </message>
     <message>
         <source>Workbook (*.xlsx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arbeitsmappe (*.xlsx)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>Export Five Files into a Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Fünf Dateien in einen Ordner exportieren</translation>
     </message>
     <message>
         <source>The folder has files of these names already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Ordner gibt es schon Dateien mit diesen Namen.</translation>
     </message>
     <message>
         <source>The export replaces %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Export ersetzt %1.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Ersetzen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>The export was stopped. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Export wurde angehalten. Es wurde nichts geschrieben.</translation>
     </message>
     <message>
         <source>Choose another place, or free some space, and export again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen anderen Platz oder schaffen Sie Platz und exportieren Sie noch einmal.</translation>
     </message>
     <message>
         <source>The logbook was exported to “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch wurde nach „%1“ exportiert.</translation>
     </message>
     <message>
         <source>Texts that are too long for a cell (32,767 characters) were cut: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte, die für eine Zelle zu lang sind (32.767 Zeichen), wurden gekürzt: %1.</translation>
     </message>
 </context>
 <context>
     <name>Host::ExportPreview</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau</translation>
     </message>
     <message>
         <source>First rows of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Zeilen von %1</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>Host::FilterBar</name>
     <message>
         <source>Search flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge suchen</translation>
     </message>
     <message>
         <source>Only flights of the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Flüge des Modells</translation>
     </message>
     <message>
         <source>All models</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Modelle</translation>
     </message>
     <message>
         <source>Only flights with the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Flüge mit dem Akku</translation>
     </message>
     <message>
         <source>All batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Akkus</translation>
     </message>
     <message>
         <source>Only flights at the location</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Flüge am Ort</translation>
     </message>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Orte</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Bis</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightBookDialog</name>
     <message>
         <source>Flight Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Flugbuch</translation>
     </message>
     <message>
         <source>&amp;From:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Von:</translation>
     </message>
     <message>
         <source>First day</source>
-        <translation type="unfinished"></translation>
+        <translation>Erster Tag</translation>
     </message>
     <message>
         <source>&amp;To:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bis:</translation>
     </message>
     <message>
         <source>Last day</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzter Tag</translation>
     </message>
     <message>
         <source>Models in the book</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelle im Buch</translation>
     </message>
     <message>
         <source>&amp;Models:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modelle:</translation>
     </message>
     <message>
         <source>A4</source>
-        <translation type="unfinished"></translation>
+        <translation>A4</translation>
     </message>
     <message>
         <source>Letter</source>
-        <translation type="unfinished"></translation>
+        <translation>Letter</translation>
     </message>
     <message>
         <source>Paper of the PDF file</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier der PDF-Datei</translation>
     </message>
     <message>
         <source>P&amp;aper:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Papier:</translation>
     </message>
     <message>
         <source>%1 is limited</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: begrenzt</translation>
     </message>
     <message>
         <source>Pa&amp;ge:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seit&amp;e:</translation>
     </message>
     <message>
         <source>Page that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Angezeigte Seite</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drucken…</translation>
     </message>
     <message>
         <source>&amp;Save as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Als PDF speichern…</translation>
     </message>
     <message>
         <source>The first day is after the last one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der erste Tag liegt nach dem letzten.</translation>
     </message>
     <message>
         <source>Flights: %1, time in the air: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge: %1, Zeit in der Luft: %2.</translation>
     </message>
     <message>
         <source>of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>von %1</translation>
     </message>
     <message>
         <source>The flight book was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Flugbuch wurde nicht gedruckt: Auf den Drucker oder in die Datei dafür kann nicht geschrieben werden. Wählen Sie ein anderes Ziel.</translation>
     </message>
     <message>
         <source>The flight book is printed…</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Flugbuch wird gedruckt…</translation>
     </message>
     <message>
         <source>The flight book is saved…</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Flugbuch wird gespeichert…</translation>
     </message>
     <message>
         <source>Save the Flight Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Flugbuch speichern</translation>
     </message>
     <message>
         <source>PDF document (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF-Dokument (*.pdf)</translation>
     </message>
     <message>
         <source>it is a logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist ein Logbuch</translation>
     </message>
     <message>
         <source>The flight book is saved in “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Flugbuch ist in „%1“ gespeichert.</translation>
     </message>
     <message>
         <source>The flight book was not saved in “%1”: %2. Choose another place for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Flugbuch wurde nicht in „%1“ gespeichert: %2. Wählen Sie einen anderen Platz dafür.</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightBookPreview</name>
     <message>
         <source>Preview of page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorschau von Seite %1</translation>
     </message>
     <message>
         <source>No preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Vorschau</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightDialog</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keiner</translation>
     </message>
     <message>
         <source>Add a Flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug hinzufügen</translation>
     </message>
     <message>
         <source> mAh</source>
-        <translation type="unfinished"></translation>
+        <translation> mAh</translation>
     </message>
     <message>
         <source> A</source>
-        <translation type="unfinished"></translation>
+        <translation> A</translation>
     </message>
     <message>
         <source> °C</source>
-        <translation type="unfinished"></translation>
+        <translation> °C</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modell</translation>
     </message>
     <message>
         <source>&amp;Time</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeit</translation>
     </message>
     <message>
         <source>&amp;Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dauer</translation>
     </message>
     <message>
         <source>&amp;Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Akku</translation>
     </message>
     <message>
         <source>D&amp;ischarged</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entnommen</translation>
     </message>
     <message>
         <source>Maximum &amp;current</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximal&amp;strom</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ort</translation>
     </message>
     <message>
         <source>Tem&amp;perature</source>
-        <translation type="unfinished"></translation>
+        <translation>Tem&amp;peratur</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notizen</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Flight added</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug hinzugefügt</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsModel</name>
     <message>
         <source>not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht eingegeben</translation>
     </message>
     <message>
         <source>guessed: what a capture presets for the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>geschätzt: was die Erfassung für den Akku vorgibt</translation>
     </message>
     <message>
         <source>measured: from a radio&apos;s log</source>
-        <translation type="unfinished"></translation>
+        <translation>gemessen: aus dem Log eines Senders</translation>
     </message>
     <message>
         <source>entered</source>
-        <translation type="unfinished"></translation>
+        <translation>eingegeben</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>no discharge at the time of this flight</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Entladung zur Zeit dieses Flugs</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Akkus</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>Max. A</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. A</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>°C</source>
-        <translation type="unfinished"></translation>
+        <translation>°C</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notizen</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsTab</name>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished"></translation>
+        <translation>Hin&amp;zufügen…</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Lös&amp;chen</translation>
     </message>
     <message>
         <source>&amp;Move…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verschieben…</translation>
     </message>
     <message>
         <source>&amp;Tidy Up…</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf&amp;räumen…</translation>
     </message>
     <message>
         <source>&amp;Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umbenennen…</translation>
     </message>
     <message>
         <source>There is no model yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch kein Modell. Legen Sie Ihr erstes an: Drücken Sie den Menüknopf, dann „Bearbeiten“.</translation>
     </message>
     <message>
         <source>There is no flight yet. Add one here, or click the card of a charged battery when you have flown it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch keinen Flug. Fügen Sie hier einen hinzu oder klicken Sie auf die Karte eines geladenen Akkus, wenn Sie ihn geflogen haben.</translation>
     </message>
     <message>
         <source>Flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge: %1</translation>
     </message>
     <message>
         <source>Flights: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge: %1 von %2</translation>
     </message>
     <message>
         <source>Flight edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug bearbeitet</translation>
     </message>
     <message>
         <source>Delete this flight?</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Flug löschen?</translation>
     </message>
     <message numerus="yes">
         <source>Delete these %n flights?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Flug löschen?</numerusform>
+            <numerusform>Diese %n Flüge löschen?</numerusform>
         </translation>
     </message>
     <message>
         <source>Discharges at the same times can be deleted with them; the cycles of the batteries are then reduced. The models&apos; numbers of flights stay as they are. This can be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entladungen zu denselben Zeiten können mit gelöscht werden; die Zyklen der Akkus verringern sich dann. Die Flugzahlen der Modelle bleiben, wie sie sind. Das lässt sich rückgängig machen.</translation>
     </message>
     <message>
         <source>Delete With Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit Entladungen löschen</translation>
     </message>
     <message>
         <source>Delete Flights Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Flüge löschen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Flight deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug gelöscht</translation>
     </message>
     <message numerus="yes">
         <source>%n flights deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Flug gelöscht</numerusform>
+            <numerusform>%n Flüge gelöscht</numerusform>
         </translation>
     </message>
     <message>
         <source>Flight moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug verschoben</translation>
     </message>
     <message numerus="yes">
         <source>%n flights moved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Flug verschoben</numerusform>
+            <numerusform>%n Flüge verschoben</numerusform>
         </translation>
     </message>
     <message>
         <source>No flight stands twice. A flight is taken for a double when it is at most 5 s after another one of the same model and the same in everything else.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Flug ist doppelt. Ein Flug gilt als doppelt, wenn er höchstens 5 s nach einem anderen desselben Modells liegt und ihm sonst in allem gleicht.</translation>
     </message>
     <message>
         <source>Flights that stood twice removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppelte Flüge entfernt</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsTable</name>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge</translation>
     </message>
 </context>
 <context>
     <name>Host::ImportDialog</name>
     <message>
         <source>Choose &amp;Logs…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Logs wählen…</translation>
     </message>
     <message>
         <source>Choose &amp;Folder or Card…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner oder Karte wählen…</translation>
     </message>
     <message>
         <source>&amp;Replace values that were entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingegebene Werte &amp;ersetzen</translation>
     </message>
     <message>
         <source>&amp;Not imported:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nicht importiert:</translation>
     </message>
     <message>
         <source>Import Radio Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Sender-Logs importieren</translation>
     </message>
     <message>
         <source>Choose Logs of Radios</source>
-        <translation type="unfinished"></translation>
+        <translation>Sender-Logs wählen</translation>
     </message>
     <message>
         <source>Logs (*.csv *.CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Logs (*.csv *.CSV)</translation>
     </message>
     <message>
         <source>Choose a Folder with Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner mit Logs wählen</translation>
     </message>
     <message>
         <source>Choose logs that a radio with EdgeTX or OpenTX has written, or the folder or card that they are on. Nothing on a card is ever changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie Logs, die ein Sender mit EdgeTX oder OpenTX geschrieben hat, oder den Ordner oder die Speicherkarte, wo sie liegen. Auf einer Speicherkarte wird nie etwas geändert.</translation>
     </message>
     <message>
         <source>Discharges in the logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Entladungen in den Logs</translation>
     </message>
     <message>
         <source>Files that are not imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht importierte Dateien</translation>
     </message>
     <message>
         <source>Progress of the reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt des Lesens</translation>
     </message>
     <message>
         <source>&amp;Import</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importieren</translation>
     </message>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch kann gerade nicht gelesen werden. Schaffen Sie Platz und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>The reading was stopped. What was read before is still listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Lesen wurde angehalten. Was vorher gelesen wurde, bleibt in der Liste.</translation>
     </message>
     <message>
         <source>There is no discharge in these logs.</source>
-        <translation type="unfinished"></translation>
+        <translation>In diesen Logs gibt es keine Entladung.</translation>
     </message>
     <message>
         <source>What is new is added when you tick it. To choose its model or battery, double-click there, or press F2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues wird hinzugefügt, wenn Sie es ankreuzen. Um Modell oder Akku dafür zu wählen, doppelklicken Sie darauf oder drücken Sie F2.</translation>
     </message>
     <message>
         <source>&amp;Correct the radio&apos;s clock: it seems to be %1 h slow</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uhr des Senders korrigieren (sie geht offenbar %1 h nach)</translation>
     </message>
     <message>
         <source>&amp;Correct the radio&apos;s clock: it seems to be %1 h fast</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uhr des Senders korrigieren (sie geht offenbar %1 h vor)</translation>
     </message>
     <message>
         <source>“%1” is no log of a radio: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Log eines Senders: %2</translation>
     </message>
     <message>
         <source>“%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: %2</translation>
     </message>
     <message>
         <source>“%1” holds no values.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ enthält keine Werte.</translation>
     </message>
     <message>
         <source>Imported 1 radio log</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Sender-Log importiert</translation>
     </message>
     <message numerus="yes">
         <source>Imported %n radio logs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Sender-Log importiert</numerusform>
+            <numerusform>%n Sender-Logs importiert</numerusform>
         </translation>
     </message>
     <message>
         <source>%1. Flights filled: %2; discharges added: %3. Undo in the menu Edit takes all of it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Ausgefüllte Flüge: %2; hinzugefügte Entladungen: %3. „Rückgängig“ im Menü „Bearbeiten“ nimmt alles zurück.</translation>
     </message>
 </context>
 <context>
     <name>Host::ImportModel</name>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen…</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>What will happen</source>
-        <translation type="unfinished"></translation>
+        <translation>Was geschieht</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>Maximum A</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. A</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Log</translation>
     </message>
 </context>
 <context>
@@ -1634,137 +1634,139 @@
     <name>Host::MainWindow</name>
     <message>
         <source>&amp;Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Logbuch</translation>
     </message>
     <message>
         <source>&amp;Open Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner öffnen…</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zuletzt geöffnet</translation>
     </message>
     <message>
         <source>&amp;Import Radio Logs…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sender-Logs &amp;importieren…</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportieren…</translation>
     </message>
     <message>
         <source>&amp;Flight Book (print, PDF)…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Flugbuch (Druck, PDF)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederholen</translation>
     </message>
     <message>
         <source>Re&amp;name…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Umbenennen…</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einstellungen…</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Side Panel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seitenleiste</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>&amp;Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Handbuch</translation>
     </message>
     <message>
         <source>&amp;About Voltbok</source>
-        <translation type="unfinished"></translation>
+        <translation>Ü&amp;ber Voltbok</translation>
     </message>
     <message>
         <source>&amp;Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rückgängig: %1</translation>
     </message>
     <message>
         <source>&amp;Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederholen: %1</translation>
     </message>
     <message>
         <source>No other folder yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch kein anderer Ordner</translation>
     </message>
     <message>
         <source>Open the Logbook in a Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Logbuch in einem Ordner öffnen</translation>
     </message>
     <message>
         <source>Voltbok %1, a battery and flight logbook for radio-controlled models.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok %1, ein Akku- und Fluglogbuch für ferngesteuerte Modelle.</translation>
     </message>
     <message>
         <source>Voltbok is free software under the GNU General Public License, version 3 or later. Linked with Qt Charts, which is under version 3, the whole is under version 3.
 
 This logbook is kept in “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok ist freie Software unter der GNU General Public License, Version 3 oder später. Zusammen mit Qt Charts, das unter Version 3 steht, steht das Ganze unter Version 3.
+
+Dieses Logbuch liegt in „%1“.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>The flight on this page is not recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Flug auf dieser Seite ist nicht erfasst.</translation>
     </message>
     <message>
         <source>What you entered on this page is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Eingaben auf dieser Seite sind nicht gespeichert.</translation>
     </message>
     <message>
         <source>Go back to record it, or leave the page without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gehen Sie zurück, um alles zu erfassen, oder verlassen Sie die Seite, ohne zu speichern.</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlassen</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>Voltbok - sample logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok - Beispiel-Logbuch</translation>
     </message>
     <message>
         <source>The logbook is opened…</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch wird geöffnet…</translation>
     </message>
     <message>
         <source>The settings cannot be saved: there is no permission to write “%1”. What you choose will be forgotten. Change the permissions of this file and its folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen können nicht gespeichert werden: Es fehlt die Berechtigung, „%1“ zu schreiben. Was Sie wählen, geht verloren. Ändern Sie die Rechte dieser Datei und ihres Ordners.</translation>
     </message>
     <message>
         <source>The logbook is now kept in “%1”. Open this folder the next time, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch liegt jetzt in „%1“. Öffnen Sie auch beim nächsten Mal diesen Ordner.</translation>
     </message>
     <message>
         <source>&amp;Language</source>
@@ -1795,512 +1797,512 @@ This logbook is kept in “%1”.</source>
     <name>Host::ManualWindow</name>
     <message>
         <source>Voltbok Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok-Handbuch</translation>
     </message>
 </context>
 <context>
     <name>Host::MessageBar</name>
     <message>
         <source>Close this message</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Meldung schließen</translation>
     </message>
 </context>
 <context>
     <name>Host::MoveDialog</name>
     <message>
         <source>(Stay)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Unverändert)</translation>
     </message>
     <message>
         <source>Move Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge verschieben</translation>
     </message>
     <message>
         <source>To the &amp;model</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum &amp;Modell</translation>
     </message>
     <message>
         <source>&amp;Discharges of the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entladungen des Akkus</translation>
     </message>
     <message>
         <source>To the &amp;battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum &amp;Akku</translation>
     </message>
     <message>
         <source>Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Verschieben</translation>
     </message>
 </context>
 <context>
     <name>Host::OpenLogbook</name>
     <message>
         <source>Nothing was changed: what radio logs tell cannot be written: %1. See that “%2” can be written, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts geändert: Die Werte aus den Sender-Logs können nicht geschrieben werden: %1. Sorgen Sie dafür, dass „%2“ geschrieben werden kann, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>Nothing was changed: there is no space left in “%1”. Free some, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts geändert: In „%1“ ist kein Platz mehr. Schaffen Sie Platz und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>Nothing was changed: you have cancelled it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts geändert: Sie haben abgebrochen.</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook has changed meanwhile. Look at it again, and repeat what you did.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts geändert: Das Logbuch hat sich inzwischen geändert. Sehen Sie es noch einmal an und wiederholen Sie, was Sie getan haben.</translation>
     </message>
     <message>
         <source>The logbook is changed…</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch wird geändert…</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file cannot hold what you entered. Leave out control characters, and times that the clock does not have.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts geändert: Die Logbuchdatei kann Ihre Eingabe nicht aufnehmen. Lassen Sie Steuerzeichen weg und Zeiten, die es auf der Uhr nicht gibt.</translation>
     </message>
     <message>
         <source>Record the flight on the discharge page first, or leave that page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erfassen Sie zuerst den Flug auf der Entladeseite oder verlassen Sie diese Seite.</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file does not hold what this window shows. See the message above the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts geändert: Die Logbuchdatei enthält nicht, was dieses Fenster zeigt. Beachten Sie die Meldung über dem Logbuch.</translation>
     </message>
     <message>
         <source>it cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei lässt sich nicht zurücklesen</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file cannot be written: %1. See that “%2” can be written, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts geändert: Die Logbuchdatei kann nicht geschrieben werden: %1. Sorgen Sie dafür, dass „%2“ geschrieben werden kann, und versuchen Sie es noch einmal.</translation>
     </message>
 </context>
 <context>
     <name>Host::PlotButtons</name>
     <message>
         <source>&amp;Save Plot…</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm &amp;speichern…</translation>
     </message>
     <message>
         <source>Save the plot as a picture (PNG or SVG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Diagramm als Bild speichern (PNG oder SVG)</translation>
     </message>
     <message>
         <source>&amp;Copy Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm &amp;kopieren</translation>
     </message>
     <message>
         <source>Copy the plot to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Diagramm in die Zwischenablage kopieren</translation>
     </message>
     <message>
         <source>&amp;Print Plot…</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm &amp;drucken…</translation>
     </message>
     <message>
         <source>Print the plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Diagramm drucken</translation>
     </message>
     <message>
         <source>Print T&amp;able…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tabelle drucken…</translation>
     </message>
     <message>
         <source>Print the table above</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tabelle darüber drucken</translation>
     </message>
     <message>
         <source>Save the Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm speichern</translation>
     </message>
     <message>
         <source>PNG picture (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG-Bild (*.png)</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>SVG-Zeichnung (*.svg)</translation>
     </message>
     <message>
         <source>The plot was not saved: a picture is PNG or SVG. Give it a name that ends with “.png” or “.svg”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Diagramm wurde nicht gespeichert: Ein Bild ist PNG oder SVG. Geben Sie ihm einen Namen, der auf „.png“ oder „.svg“ endet.</translation>
     </message>
     <message>
         <source>The plot was not saved in “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Diagramm wurde nicht in „%1“ gespeichert: %2.</translation>
     </message>
     <message>
         <source>The plot was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Diagramm wurde nicht gedruckt: Auf den Drucker oder in die Datei dafür kann nicht geschrieben werden. Wählen Sie ein anderes Ziel.</translation>
     </message>
 </context>
 <context>
     <name>Host::PreferencesDialog</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>When there is something to do</source>
-        <translation type="unfinished"></translation>
+        <translation>Wann etwas zu tun ist</translation>
     </message>
 </context>
 <context>
     <name>Host::RadioLog</name>
     <message>
         <source>It does not begin with the columns Date and Time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei beginnt nicht mit den Spalten Date und Time.</translation>
     </message>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht gelesen werden: %1.</translation>
     </message>
     <message>
         <source>It is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist leer.</translation>
     </message>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Lesen wurde abgebrochen.</translation>
     </message>
     <message>
         <source>Its time jumps in too many places.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeit springt an zu vielen Stellen.</translation>
     </message>
     <message>
         <source>Most of its rows have more or fewer fields than its header.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die meisten Zeilen haben mehr oder weniger Felder als die Kopfzeile.</translation>
     </message>
     <message>
         <source>Its rows do not begin with a date and a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeilen beginnen nicht mit Datum und Zeit.</translation>
     </message>
     <message>
         <source>Most of its rows do not begin with a date and a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die meisten Zeilen beginnen nicht mit Datum und Zeit.</translation>
     </message>
     <message>
         <source>It has a header, but no rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt eine Kopfzeile, aber keine weiteren Zeilen.</translation>
     </message>
 </context>
 <context>
     <name>Host::RenameDialog</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen</translation>
     </message>
     <message>
         <source>&amp;What</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Was</translation>
     </message>
     <message>
         <source>&amp;Present name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bisheriger Name</translation>
     </message>
     <message>
         <source>&amp;New name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neuer Name</translation>
     </message>
     <message>
         <source>There is none yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch keinen Eintrag.</translation>
     </message>
     <message>
         <source>There are several of this name. Only the chosen one is renamed; models and flights that name it keep the other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt mehrere mit diesem Namen. Nur der gewählte Eintrag wird umbenannt; Modelle und Flüge, die diesen Namen nennen, bleiben beim anderen.</translation>
     </message>
     <message>
         <source>It is renamed everywhere at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name ändert sich überall zugleich.</translation>
     </message>
     <message>
         <source>Battery %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku %1 umbenannt</translation>
     </message>
     <message>
         <source>Model %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell %1 umbenannt</translation>
     </message>
     <message>
         <source>Location %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort %1 umbenannt</translation>
     </message>
 </context>
 <context>
     <name>Host::SaveCare</name>
     <message>
         <source>it cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei lässt sich nicht zurücklesen</translation>
     </message>
     <message>
         <source>The logbook is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch ist nicht gespeichert.</translation>
     </message>
     <message>
         <source>What you recorded last would be lost. Go back, and try again or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was Sie zuletzt erfasst haben, ginge verloren. Gehen Sie zurück und versuchen Sie es noch einmal oder legen Sie das Logbuch anderswo ab.</translation>
     </message>
     <message>
         <source>What you recorded last would be lost. Go back, and restore the last state or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was Sie zuletzt erfasst haben, ginge verloren. Gehen Sie zurück und stellen Sie den letzten Stand wieder her oder legen Sie das Logbuch anderswo ab.</translation>
     </message>
     <message>
         <source>Quit Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Trotzdem beenden</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei fehlt</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger meldet einen Fehler</translation>
     </message>
     <message>
         <source>Another program has changed the logbook file. This window still shows what it held before, and your next change overwrites the file. A copy of the other version is kept in “%1”; start Voltbok again to see it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat die Logbuchdatei geändert. Dieses Fenster zeigt noch, was sie vorher enthielt, und Ihre nächste Änderung überschreibt die Datei. Eine Kopie der anderen Version liegt in „%1“; starten Sie Voltbok neu, um sie zu sehen.</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
         <source>Restore Last State</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzten Stand herstellen</translation>
     </message>
     <message>
         <source>Keep Elsewhere…</source>
-        <translation type="unfinished"></translation>
+        <translation>Anderswo ablegen…</translation>
     </message>
     <message>
         <source>Nothing can be saved in “%1”: %2. See that the file can be written, or keep the logbook in another folder, before you record anything.</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ kann nichts gespeichert werden: %2. Sorgen Sie dafür, dass die Datei geschrieben werden kann, oder legen Sie das Logbuch in einem anderen Ordner ab, bevor Sie etwas erfassen.</translation>
     </message>
     <message>
         <source>The logbook is not saved in “%1”: %2. This window still shows everything. See that the file can be written, then try again; or keep the logbook in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch ist nicht in „%1“ gespeichert: %2. Dieses Fenster zeigt noch alles. Sorgen Sie dafür, dass die Datei geschrieben werden kann, und versuchen Sie es dann noch einmal; oder legen Sie das Logbuch in einem anderen Ordner ab.</translation>
     </message>
     <message>
         <source>Your last change could not be saved in “%1”: %2. File and window are as they were before. See that the file can be written, or keep the logbook in another folder; then enter the change again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre letzte Änderung konnte nicht in „%1“ gespeichert werden: %2. Datei und Fenster sind wie zuvor. Sorgen Sie dafür, dass die Datei geschrieben werden kann, oder legen Sie das Logbuch in einem anderen Ordner ab; geben Sie die Änderung dann noch einmal ein.</translation>
     </message>
     <message>
         <source>The logbook could not be saved in “%1”: %2. This window shows less than you have recorded. Restore the last state, or keep it in another folder; then enter your last change again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch konnte nicht in „%1“ gespeichert werden: %2. Dieses Fenster zeigt weniger, als Sie erfasst haben. Stellen Sie den letzten Stand wieder her oder legen Sie ihn in einem anderen Ordner ab; geben Sie Ihre letzte Änderung dann noch einmal ein.</translation>
     </message>
     <message>
         <source>it is not written to its end</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist nicht bis zum Ende geschrieben</translation>
     </message>
     <message>
         <source>The logbook still cannot be saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch kann noch immer nicht gespeichert werden: %1.</translation>
     </message>
     <message>
         <source>there is no whole copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine unbeschädigte Kopie</translation>
     </message>
     <message>
         <source>The last state cannot be restored: %1. Nothing was changed. Free some space, or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der letzte Stand kann nicht wiederhergestellt werden: %1. Es wurde nichts geändert. Schaffen Sie Platz oder legen Sie das Logbuch anderswo ab.</translation>
     </message>
     <message>
         <source>The last state is restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der letzte Stand ist wiederhergestellt.</translation>
     </message>
     <message>
         <source>The last state is restored. The file that was there is kept as “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der letzte Stand ist wiederhergestellt. Die vorherige Datei ist als „%1“ aufgehoben.</translation>
     </message>
     <message>
         <source>Keep the Logbook in Another Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Logbuch in einem anderen Ordner ablegen</translation>
     </message>
     <message>
         <source>There is a logbook in “%1” already. Choose an empty folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ liegt schon ein Logbuch. Wählen Sie einen leeren Ordner.</translation>
     </message>
     <message>
         <source>there is no whole state of it</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen unbeschädigten Stand davon</translation>
     </message>
     <message>
         <source>The logbook cannot be kept in “%1”: %2. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch kann nicht in „%1“ abgelegt werden: %2. Wählen Sie einen anderen Ordner.</translation>
     </message>
 </context>
 <context>
     <name>Host::SidePanel</name>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Heute</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Akkus</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistik</translation>
     </message>
     <message>
         <source>Side panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Seitenleiste</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt nicht</translation>
     </message>
     <message>
         <source>The panel is about to read the logbook, which is long. Press here to go on without what is new.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seitenleiste ist dabei, das Logbuch zu lesen, und es ist lang. Drücken Sie hier, um ohne das Neue weiterzumachen.</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisieren</translation>
     </message>
     <message>
         <source>The panel does not show yet what is new. Press here to read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Seitenleiste zeigt das Neue noch nicht. Drücken Sie hier, um es zu lesen.</translation>
     </message>
 </context>
 <context>
     <name>Host::StatisticsModel</name>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Monat</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuten</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Entnommen (mAh)</translation>
     </message>
 </context>
 <context>
     <name>Host::StatisticsTab</name>
     <message>
         <source>There is nothing to add up yet. Add a battery and a model first: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch nichts zusammenzuzählen. Legen Sie zuerst einen Akku und ein Modell an: Drücken Sie den Menüknopf, dann „Bearbeiten“.</translation>
     </message>
     <message>
         <source>There is nothing to add up yet. Record your first flight: click the card of a charged battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch nichts zusammenzuzählen. Erfassen Sie Ihren ersten Flug: Klicken Sie auf die Karte eines geladenen Akkus.</translation>
     </message>
     <message>
         <source>&amp;From:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Von:</translation>
     </message>
     <message>
         <source>&amp;To:</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;is:</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Monat</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Add up &amp;by:</source>
-        <translation type="unfinished"></translation>
+        <translation>Summen &amp;nach:</translation>
     </message>
     <message>
         <source>Add up by</source>
-        <translation type="unfinished"></translation>
+        <translation>Summen nach</translation>
     </message>
     <message>
         <source>Pl&amp;ot:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dia&amp;gramm:</translation>
     </message>
     <message>
         <source>What is plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>Was das Diagramm zeigt</translation>
     </message>
     <message>
         <source>First day</source>
-        <translation type="unfinished"></translation>
+        <translation>Erster Tag</translation>
     </message>
     <message>
         <source>Last day</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzter Tag</translation>
     </message>
     <message>
         <source>%1 is limited</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: begrenzt</translation>
     </message>
     <message>
         <source>Flights, added up</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge, zusammengezählt</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>The first day is after the last one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der erste Tag liegt nach dem letzten.</translation>
     </message>
     <message numerus="yes">
         <source>In all: %Ln flights, %1 minutes, %2 mAh.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Insgesamt: %Ln Flug, %1 Minuten, %2 mAh.</numerusform>
+            <numerusform>Insgesamt: %Ln Flüge, %1 Minuten, %2 mAh.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln flights without a time are not in the table.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Flug ohne Zeit ist nicht in der Tabelle.</numerusform>
+            <numerusform>%Ln Flüge ohne Zeit sind nicht in der Tabelle.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln flights without a location are not in the table.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln Flug ohne Ort ist nicht in der Tabelle.</numerusform>
+            <numerusform>%Ln Flüge ohne Ort sind nicht in der Tabelle.</numerusform>
         </translation>
     </message>
 </context>
@@ -2308,1052 +2310,1052 @@ This logbook is kept in “%1”.</source>
     <name>Host::TableColumns</name>
     <message>
         <source>&amp;Sort by This Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach dieser Spalte &amp;sortieren</translation>
     </message>
 </context>
 <context>
     <name>Host::TidyDialog</name>
     <message>
         <source>%1: %2, and again at %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 und noch einmal um %3</translation>
     </message>
     <message>
         <source>Tidy Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufräumen</translation>
     </message>
     <message>
         <source>These flights stand &amp;twice, as a card leaves them that was clicked twice. The second one of each that is ticked is removed, with its discharge and the cycle of its battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Flüge sind &amp;doppelt, wie sie eine Karte hinterlässt, die zweimal angeklickt wurde. Von jedem angekreuzten Paar wird der zweite Flug entfernt, mit seiner Entladung und dem Zyklus seines Akkus.</translation>
     </message>
     <message>
         <source>Flights that stand twice</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppelte Flüge</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
 </context>
 <context>
     <name>Host::TodayTab</name>
     <message>
         <source>There is no battery yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch keinen Akku. Legen Sie Ihren ersten an: Drücken Sie den Menüknopf, dann „Bearbeiten“.</translation>
     </message>
     <message>
         <source>Nothing to do today.</source>
-        <translation type="unfinished"></translation>
+        <translation>Heute ist nichts zu tun.</translation>
     </message>
     <message>
         <source>What to do today. Click a line to see its battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was heute zu tun ist. Klicken Sie auf eine Zeile, um den Akku zu sehen.</translation>
     </message>
     <message>
         <source>What to do today</source>
-        <translation type="unfinished"></translation>
+        <translation>Was heute zu tun ist</translation>
     </message>
     <message>
         <source>Warning: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnung: %1</translation>
     </message>
     <message>
         <source>Notice: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinweis: %1</translation>
     </message>
     <message>
         <source>Show “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ zeigen</translation>
     </message>
 </context>
 <context>
     <name>Host::VersionsModel</name>
     <message>
         <source>Copy of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie von %1</translation>
     </message>
     <message>
         <source>%1 (damaged)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (beschädigt)</translation>
     </message>
     <message>
         <source>%1 (cannot be read)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (nicht lesbar)</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Akkus</translation>
     </message>
     <message>
         <source>Models</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelle</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Entladungen</translation>
     </message>
 </context>
 <context>
     <name>Import</name>
     <message>
         <source>doubtful: counter %1, current says %2</source>
-        <translation type="unfinished"></translation>
+        <translation>zweifelhaft: Zähler %1, laut Strom %2</translation>
     </message>
     <message>
         <source>goes on with an earlier import</source>
-        <translation type="unfinished"></translation>
+        <translation>setzt einen früheren Import fort</translation>
     </message>
     <message>
         <source>a part of the discharge before</source>
-        <translation type="unfinished"></translation>
+        <translation>Teil der vorigen Entladung</translation>
     </message>
     <message>
         <source>the radio&apos;s clock was never set</source>
-        <translation type="unfinished"></translation>
+        <translation>Uhr des Senders nie gestellt</translation>
     </message>
     <message>
         <source>neither consumption nor current was measured</source>
-        <translation type="unfinished"></translation>
+        <translation>weder Verbrauch noch Strom gemessen</translation>
     </message>
     <message>
         <source>shorter than 20 s</source>
-        <translation type="unfinished"></translation>
+        <translation>kürzer als 20 s</translation>
     </message>
     <message>
         <source>less than 2 % of the capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>weniger als 2 % der Kapazität</translation>
     </message>
     <message>
         <source>you entered the values of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben die Werte des Flugs eingegeben</translation>
     </message>
     <message>
         <source>the flight has no discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>der Flug hat keine Entladung</translation>
     </message>
     <message>
         <source>the flight has several batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>der Flug hat mehrere Akkus</translation>
     </message>
     <message>
         <source>another log tells the same</source>
-        <translation type="unfinished"></translation>
+        <translation>ein anderes Log sagt dasselbe</translation>
     </message>
     <message>
         <source>parts of it are two flights of the logbook already</source>
-        <translation type="unfinished"></translation>
+        <translation>Teile davon sind schon zwei Flüge des Logbuchs</translation>
     </message>
     <message>
         <source>the logbook takes %1 mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>das Logbuch fasst nur %1 mAh</translation>
     </message>
     <message>
         <source>the logbook takes %1 A</source>
-        <translation type="unfinished"></translation>
+        <translation>das Logbuch fasst nur %1 A</translation>
     </message>
     <message>
         <source>the logbook does not have this model</source>
-        <translation type="unfinished"></translation>
+        <translation>das Logbuch hat dieses Modell nicht</translation>
     </message>
     <message>
         <source>no battery is known for it</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Akku dafür bekannt</translation>
     </message>
     <message>
         <source>fills the flight of %1 with %2</source>
-        <translation type="unfinished"></translation>
+        <translation>füllt den Flug um %1 mit %2 aus</translation>
     </message>
     <message>
         <source>new</source>
-        <translation type="unfinished"></translation>
+        <translation>neu</translation>
     </message>
     <message>
         <source>new, with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>neu, mit %1</translation>
     </message>
     <message>
         <source>known</source>
-        <translation type="unfinished"></translation>
+        <translation>bekannt</translation>
     </message>
     <message>
         <source>bench test</source>
-        <translation type="unfinished"></translation>
+        <translation>Probelauf</translation>
     </message>
 </context>
 <context>
     <name>LogReading</name>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht gelesen werden: %1.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine gewöhnliche Datei.</translation>
     </message>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Lesen wurde abgebrochen.</translation>
     </message>
 </context>
 <context>
     <name>Losses</name>
     <message>
         <source>a comment in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ein Kommentar in Zeile %1</translation>
     </message>
     <message>
         <source>an instruction to other programs in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Anweisung an andere Programme in Zeile %1</translation>
     </message>
     <message>
         <source>everything from line %1 on</source>
-        <translation type="unfinished"></translation>
+        <translation>alles ab Zeile %1</translation>
     </message>
     <message>
         <source>model “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell „%1“</translation>
     </message>
     <message>
         <source>battery “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku „%1“</translation>
     </message>
     <message>
         <source>the text “%1” of “%2” in line %3</source>
-        <translation type="unfinished"></translation>
+        <translation>der Text „%1“ von „%2“ in Zeile %3</translation>
     </message>
     <message>
         <source>the element “%1” in line %2</source>
-        <translation type="unfinished"></translation>
+        <translation>das Element „%1“ in Zeile %2</translation>
     </message>
     <message>
         <source>the attribute “%1” (%2) of “%3” in line %4</source>
-        <translation type="unfinished"></translation>
+        <translation>das Attribut „%1“ (%2) von „%3“ in Zeile %4</translation>
     </message>
 </context>
 <context>
     <name>MeasuredFile</name>
     <message>
         <source>it is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt</translation>
     </message>
     <message>
         <source>a later version of Voltbok wrote it</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine spätere Version von Voltbok hat die Datei geschrieben</translation>
     </message>
 </context>
 <context>
     <name>MeasuredStore</name>
     <message>
         <source>The measured values in “%1” are not used: %2. The file is left as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gemessenen Werte in „%1“ werden nicht benutzt: %2. Die Datei bleibt, wie sie ist.</translation>
     </message>
     <message>
         <source>The measured values in “%1” cannot be read: %2. The logbook itself is not concerned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gemessenen Werte in „%1“ können nicht gelesen werden: %2. Das Logbuch selbst ist nicht betroffen.</translation>
     </message>
 </context>
 <context>
     <name>Opening</name>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 und %n weiteres</numerusform>
+            <numerusform>%1 und %n weitere</numerusform>
         </translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Take the Logbook Over</source>
-        <translation type="unfinished"></translation>
+        <translation>Logbuch übernehmen</translation>
     </message>
     <message>
         <source>The logbook file “%1” is missing, but earlier versions of it are there. Nothing was changed. Restore one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Logbuchdatei „%1“ fehlt, aber frühere Versionen davon sind da. Es wurde nichts geändert. Stellen Sie eine davon wieder her.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is damaged: %2. Nothing was changed. Restore one of its copies, or start with an empty logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Logbuchdatei „%1“ ist beschädigt: %2. Es wurde nichts geändert. Stellen Sie eine ihrer Kopien wieder her oder beginnen Sie mit einem leeren Logbuch.</translation>
     </message>
     <message>
         <source>The logbook file “%1” cannot be read: %2. Nothing was changed. Put the right file in its place, or choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Logbuchdatei „%1“ kann nicht gelesen werden: %2. Es wurde nichts geändert. Legen Sie die richtige Datei an ihre Stelle oder wählen Sie einen anderen Ordner.</translation>
     </message>
     <message>
         <source>The version that you chose cannot be read any more. Nothing was changed. Start the program again, and choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gewählte Version kann nicht mehr gelesen werden. Es wurde nichts geändert. Starten Sie das Programm neu und wählen Sie eine andere.</translation>
     </message>
     <message>
         <source>Nothing could be put in the place of “%1”: %2. All is as it was. Free some space, and start the program again.</source>
-        <translation type="unfinished"></translation>
+        <translation>An die Stelle von „%1“ konnte nichts gesetzt werden: %2. Alles ist, wie es war. Schaffen Sie Platz und starten Sie das Programm neu.</translation>
     </message>
     <message>
         <source>The logbook file “%1” cannot be checked before it is opened: %2. Nothing was changed. Free some space, or see that the program can write in “%3”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Logbuchdatei „%1“ kann vor dem Öffnen nicht geprüft werden: %2. Es wurde nichts geändert. Schaffen Sie Platz oder sorgen Sie dafür, dass das Programm in „%3“ schreiben kann.</translation>
     </message>
     <message>
         <source>The logbook file “%1” holds what this version of Voltbok would drop when it saves, and no copy of it can be put aside: %2. Nothing was changed. Free some space, and start the program again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Logbuchdatei „%1“ enthält, was diese Version von Voltbok beim Speichern weglassen würde, und es kann keine Kopie davon beiseitegelegt werden: %2. Es wurde nichts geändert. Schaffen Sie Platz und starten Sie das Programm neu.</translation>
     </message>
     <message>
         <source>The logbook file holds what this version of Voltbok does not understand, and drops when it saves: %1. The file as it is now is kept as “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Logbuchdatei enthält, was diese Version von Voltbok nicht versteht und beim Speichern weglässt: %1. Die Datei, wie sie jetzt ist, wird als „%2“ aufgehoben.</translation>
     </message>
 </context>
 <context>
     <name>Questions</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>Recovery</name>
     <message>
         <source>it is missing, and the folder of its copies cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei fehlt, und der Ordner ihrer Kopien kann nicht gelesen werden</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei fehlt</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine gewöhnliche Datei</translation>
     </message>
 </context>
 <context>
     <name>RecoveryQuestion</name>
     <message>
         <source>The logbook file “%1” is missing, but earlier versions of it are there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Logbuchdatei „%1“ fehlt, aber frühere Versionen davon sind da.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is damaged: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Logbuchdatei „%1“ ist beschädigt: %2.</translation>
     </message>
     <message>
         <source>If you keep it on a disk or in a synchronised folder that is not there now, quit and bring it back first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liegt sie auf einem Datenträger oder in einem synchronisierten Ordner, der gerade nicht da ist, beenden Sie das Programm und binden Sie ihn zuerst wieder ein.</translation>
     </message>
     <message>
         <source>Quitting leaves the damaged file as it is. Otherwise it is kept in the same folder, under a name that begins with “voltbok-broken-”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden lässt die beschädigte Datei, wie sie ist. Sonst wird sie im selben Ordner aufgehoben, unter einem Namen, der mit „voltbok-broken-“ beginnt.</translation>
     </message>
     <message>
         <source>The copies in “%1” cannot be listed just now. Quit and start the program again before you choose anything else.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopien in „%1“ lassen sich gerade nicht auflisten. Beenden Sie das Programm und starten Sie es neu, bevor Sie etwas anderes wählen.</translation>
     </message>
     <message>
         <source>No whole copy of it was found. Quit and look for one elsewhere before you start with an empty logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde keine unbeschädigte Kopie gefunden. Beenden Sie das Programm und suchen Sie anderswo nach einer, bevor Sie mit einem leeren Logbuch beginnen.</translation>
     </message>
     <message>
         <source>No whole copy of it was found. Choose what to go on with only after a look at what it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde keine unbeschädigte Kopie gefunden. Sehen Sie sich den Inhalt an, bevor Sie wählen, womit Sie weitermachen.</translation>
     </message>
     <message>
         <source>Choose the version to go on with; the newest is on top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie die Version, mit der Sie weitermachen; die neueste steht oben.</translation>
     </message>
     <message>
         <source>What can still be read of the damaged file</source>
-        <translation type="unfinished"></translation>
+        <translation>Was von der beschädigten Datei noch lesbar ist</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Start with an Empty Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit leerem Logbuch beginnen</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
 </context>
 <context>
     <name>Startup</name>
     <message>
         <source>A new logbook begins in “%1”: there was none.</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ beginnt ein neues Logbuch: Es gab dort keins.</translation>
     </message>
     <message>
         <source>The logbook is checked…</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch wird geprüft…</translation>
     </message>
     <message>
         <source>The picture “%1” was not written: there is a file of that name, and it is no picture. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild „%1“ wurde nicht geschrieben: Es gibt eine Datei dieses Namens, und sie ist kein Bild. Wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>The picture “%1” cannot be written: %2. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild „%1“ kann nicht geschrieben werden: %2. Wählen Sie einen anderen Namen.</translation>
     </message>
 </context>
 <context>
     <name>StatisticsChart</name>
     <message>
         <source>(no name)</source>
-        <translation type="unfinished"></translation>
+        <translation>(kein Name)</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuten</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Entnommen (mAh)</translation>
     </message>
     <message>
         <source>%1 by month</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nach Monat</translation>
     </message>
     <message numerus="yes">
         <source>%1 by month, the newest %n months</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 nach Monat, der letzte %n Monat</numerusform>
+            <numerusform>%1 nach Monat, die letzten %n Monate</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 by model</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nach Modell</translation>
     </message>
     <message numerus="yes">
         <source>%1 by model, the %n with the most</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 nach Modell, das %n mit dem höchsten Wert</numerusform>
+            <numerusform>%1 nach Modell, die %n mit den höchsten Werten</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 by location</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 nach Ort</translation>
     </message>
     <message numerus="yes">
         <source>%1 by location, the %n with the most</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 nach Ort, der %n mit dem höchsten Wert</numerusform>
+            <numerusform>%1 nach Ort, die %n mit den höchsten Werten</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
 </context>
 <context>
     <name>StorageFolder</name>
     <message>
         <source>A logbook cannot be kept in “%1”: “%2” is not a directory. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ kann kein Logbuch liegen: „%2“ ist kein Ordner. Wählen Sie einen anderen Ordner.</translation>
     </message>
     <message>
         <source>A logbook cannot be kept in “%1”: there is no permission to read and write in “%2”. Choose another folder, or ask its owner for access.</source>
-        <translation type="unfinished"></translation>
+        <translation>In „%1“ kann kein Logbuch liegen: Es fehlt die Berechtigung, in „%2“ zu lesen und zu schreiben. Wählen Sie einen anderen Ordner oder bitten Sie den Eigentümer um Zugriff.</translation>
     </message>
 </context>
 <context>
     <name>TablePrinting</name>
     <message>
         <source>The table was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tabelle wurde nicht gedruckt: Auf den Drucker oder in die Datei dafür kann nicht geschrieben werden. Wählen Sie ein anderes Ziel.</translation>
     </message>
 </context>
 <context>
     <name>VoltbokGui</name>
     <message>
         <source>MainWindow</source>
-        <translation type="unfinished"></translation>
+        <translation>MainWindow</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menü</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Übersicht</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Akkus</translation>
     </message>
     <message>
         <source>Model whose batteries are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell, dessen Akkus gezeigt werden</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen</translation>
     </message>
     <message>
         <source>Please go to Options and add new model and battery!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte legen Sie unter „Optionen“ ein neues Modell und einen neuen Akku an!</translation>
     </message>
     <message>
         <source>Battery data</source>
-        <translation type="unfinished"></translation>
+        <translation>Akkudaten</translation>
     </message>
     <message>
         <source>Battery whose discharges are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku, dessen Entladungen gezeigt werden</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku</translation>
     </message>
     <message>
         <source>Capacity discharged, in mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>Entnommene Kapazität in mAh</translation>
     </message>
     <message>
         <source>Capacity in mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapazität in mAh</translation>
     </message>
     <message>
         <source>Maximum current, in A</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximalstrom in A</translation>
     </message>
     <message>
         <source>Maximum current in A</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximalstrom in A</translation>
     </message>
     <message>
         <source>Maximum current, in multiples of the capacity (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximalstrom als Vielfaches der Kapazität (C)</translation>
     </message>
     <message>
         <source>Maximum current in C</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximalstrom in C</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Add a location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort hinzufügen</translation>
     </message>
     <message>
         <source>Add a battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku hinzufügen</translation>
     </message>
     <message>
         <source>Add a model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell hinzufügen</translation>
     </message>
     <message>
         <source>Modify</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern</translation>
     </message>
     <message>
         <source>Modify the battery chosen below. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den unten gewählten Akku ändern. Solange es keinen gibt, geschieht nichts.</translation>
     </message>
     <message>
         <source>Modify the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku ändern</translation>
     </message>
     <message>
         <source>Modify the model chosen below. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das unten gewählte Modell ändern. Solange es keins gibt, geschieht nichts.</translation>
     </message>
     <message>
         <source>Modify the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell ändern</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Delete a location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort löschen</translation>
     </message>
     <message>
         <source>Delete a battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku löschen</translation>
     </message>
     <message>
         <source>Delete a model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell löschen</translation>
     </message>
     <message>
         <source>Model to which batteries are assigned</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell, dem Akkus zugeordnet werden</translation>
     </message>
     <message>
         <source>Battery to assign to the model, or to remove from it</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku, der dem Modell zugeordnet oder daraus entfernt wird</translation>
     </message>
     <message>
         <source>Add the battery to the model. While there is no model, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Akku zum Modell hinzufügen. Solange es kein Modell gibt, geschieht nichts.</translation>
     </message>
     <message>
         <source>Add the battery to the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku zum Modell hinzufügen</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Remove the battery from the model. While there is no model, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Akku aus dem Modell entfernen. Solange es kein Modell gibt, geschieht nichts.</translation>
     </message>
     <message>
         <source>Remove the battery from the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku aus dem Modell entfernen</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Logbuch</translation>
     </message>
     <message>
         <source>Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus</translation>
     </message>
     <message>
         <source>Data capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenerfassung</translation>
     </message>
     <message>
         <source>Quick</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnell</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished"></translation>
+        <translation>Vollständig</translation>
     </message>
     <message>
         <source>In Quick mode you will not be asked to enter any data when battery was discharged!</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Modus „Schnell“ werden nach dem Entladen eines Akkus keine Daten abgefragt!</translation>
     </message>
     <message>
         <source>Add location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort hinzufügen</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Add battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku hinzufügen</translation>
     </message>
     <message>
         <source>MyBattery</source>
-        <translation type="unfinished"></translation>
+        <translation>MeinAkku</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapazität (mAh)</translation>
     </message>
     <message>
         <source>00000</source>
-        <translation type="unfinished"></translation>
+        <translation>00000</translation>
     </message>
     <message>
         <source>1000</source>
-        <translation type="unfinished"></translation>
+        <translation>1000</translation>
     </message>
     <message>
         <source>Discharge rate (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Entladerate (C)</translation>
     </message>
     <message>
         <source>000</source>
-        <translation type="unfinished"></translation>
+        <translation>000</translation>
     </message>
     <message>
         <source>30</source>
-        <translation type="unfinished"></translation>
+        <translation>30</translation>
     </message>
     <message>
         <source>Charge  rate (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Laderate (C)</translation>
     </message>
     <message>
         <source>0.0</source>
-        <translation type="unfinished"></translation>
+        <translation>0.0</translation>
     </message>
     <message>
         <source>2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>2.0</translation>
     </message>
     <message>
         <source>Cycles already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Bisherige Zyklen</translation>
     </message>
     <message>
         <source>0000</source>
-        <translation type="unfinished"></translation>
+        <translation>0000</translation>
     </message>
     <message>
         <source>0</source>
-        <translation type="unfinished"></translation>
+        <translation>0</translation>
     </message>
     <message>
         <source>Date of purchase (Y/M/D)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaufdatum (J/M/T)</translation>
     </message>
     <message>
         <source>2020-01-01</source>
-        <translation type="unfinished"></translation>
+        <translation>2020-01-01</translation>
     </message>
     <message>
         <source>Add model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell hinzufügen</translation>
     </message>
     <message>
         <source>MyHeli</source>
-        <translation type="unfinished"></translation>
+        <translation>MeinHeli</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Heli</source>
-        <translation type="unfinished"></translation>
+        <translation>Heli</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht</translation>
     </message>
     <message>
         <source>1.00</source>
-        <translation type="unfinished"></translation>
+        <translation>1.00</translation>
     </message>
     <message>
         <source>In the unit of your choice</source>
-        <translation type="unfinished"></translation>
+        <translation>In einer Einheit Ihrer Wahl</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>700</source>
-        <translation type="unfinished"></translation>
+        <translation>700</translation>
     </message>
     <message>
         <source>Flights already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Bisherige Flüge</translation>
     </message>
     <message>
         <source>Additional notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Notizen</translation>
     </message>
     <message>
         <source>Delete battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku löschen</translation>
     </message>
     <message>
         <source>Battery to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu löschender Akku</translation>
     </message>
     <message>
         <source>Really?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wirklich?</translation>
     </message>
     <message>
         <source>Delete the battery. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Akku löschen. Solange es keinen gibt, geschieht nichts.</translation>
     </message>
     <message>
         <source>Delete model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell löschen</translation>
     </message>
     <message>
         <source>Model to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu löschendes Modell</translation>
     </message>
     <message>
         <source>Delete the model. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Modell löschen. Solange es keins gibt, geschieht nichts.</translation>
     </message>
     <message>
         <source>Delete location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort löschen</translation>
     </message>
     <message>
         <source>Location to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu löschender Ort</translation>
     </message>
     <message>
         <source>Delete the location. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Ort löschen. Solange es keinen gibt, geschieht nichts.</translation>
     </message>
     <message>
         <source>Log book</source>
-        <translation type="unfinished"></translation>
+        <translation>Logbuch</translation>
     </message>
     <message>
         <source>Model whose flights are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell, dessen Flüge gezeigt werden</translation>
     </message>
     <message>
         <source>&lt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;</translation>
     </message>
     <message>
         <source>Earlier flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Früherer Flug</translation>
     </message>
     <message>
         <source>&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&gt;</translation>
     </message>
     <message>
         <source>Later flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Späterer Flug</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Ambient temp</source>
-        <translation type="unfinished"></translation>
+        <translation>Umgebungstemp.</translation>
     </message>
     <message>
         <source>Maximum current (A)</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximalstrom (A)</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notizen</translation>
     </message>
     <message>
         <source>Battery discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku entladen</translation>
     </message>
     <message>
         <source>Year-month-day</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr-Monat-Tag</translation>
     </message>
     <message>
         <source>Date, year-month-day</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum, Jahr-Monat-Tag</translation>
     </message>
     <message>
         <source>Hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Stunden:Minuten:Sekunden</translation>
     </message>
     <message>
         <source>Time, hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit, Stunden:Minuten:Sekunden</translation>
     </message>
     <message>
         <source>Flight log</source>
-        <translation type="unfinished"></translation>
+        <translation>Flugeintrag</translation>
     </message>
     <message>
         <source>Location of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort des Flugs</translation>
     </message>
     <message>
         <source>Duration, hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer, Stunden:Minuten:Sekunden</translation>
     </message>
     <message>
         <source>In °C</source>
-        <translation type="unfinished"></translation>
+        <translation>In °C</translation>
     </message>
     <message>
         <source>Ambient temperature in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>Umgebungstemperatur in °C</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Modify model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell ändern</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernehmen</translation>
     </message>
     <message>
         <source>Modify battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku ändern</translation>
     </message>
     <message>
         <source>Battery age: %1 years</source>
-        <translation type="unfinished"></translation>
+        <translation>Akkualter: %1 Jahre</translation>
     </message>
     <message>
         <source>Chart of %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramm von %1 in %2</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ja</translation>
     </message>
 </context>
 <context>
     <name>WholeFile</name>
     <message>
         <source>it brings a document type of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei bringt einen eigenen Dokumenttyp mit</translation>
     </message>
     <message>
         <source>it is not a logbook: its root element is “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist kein Logbuch: Das Wurzelelement heißt „%1“</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist leer</translation>
     </message>
     <message>
         <source>it contains zero bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei enthält Nullbytes</translation>
     </message>
     <message>
         <source>line %1 cannot be understood (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1 ist nicht zu verstehen (%2)</translation>
     </message>
     <message>
         <source>it is a link to “%1”, which does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist ein Link auf „%1“, und dieses Ziel gibt es nicht</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist ein Ordner</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>Das ist keine gewöhnliche Datei</translation>
     </message>
     <message>
         <source>it is larger than %1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist größer als %1 MB</translation>
     </message>
     <message>
         <source>it was written, but reads differently</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei wurde geschrieben, liest sich aber anders</translation>
     </message>
     <message>
         <source>permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Berechtigung</translation>
     </message>
     <message>
         <source>operation not permitted</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgang nicht erlaubt</translation>
     </message>
     <message>
         <source>the disk is read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger ist schreibgeschützt</translation>
     </message>
     <message>
         <source>no space left on device</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Platz mehr auf dem Datenträger</translation>
     </message>
     <message>
         <source>no space left within your quota</source>
-        <translation type="unfinished"></translation>
+        <translation>kein Platz mehr in Ihrem Kontingent</translation>
     </message>
     <message>
         <source>the file would be too large</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei würde zu groß</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger meldet einen Fehler</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei gibt es nicht</translation>
     </message>
     <message>
         <source>its name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Name ist zu lang</translation>
     </message>
     <message>
         <source>too many files are open</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu viele Dateien sind geöffnet</translation>
     </message>
     <message>
         <source>no space is left on the disk</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Datenträger ist kein Platz mehr</translation>
     </message>
     <message>
         <source>there is no permission to write in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Berechtigung, in ihrem Ordner zu schreiben</translation>
     </message>
 </context>
 <context>
     <name>Xlsx</name>
     <message>
         <source>there is not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Arbeitsspeicher reicht nicht</translation>
     </message>
     <message>
         <source>a sheet has no more than 1,048,576 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Blatt hat höchstens 1.048.576 Zeilen</translation>
     </message>
     <message>
         <source>this build of the program cannot write workbooks</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Fassung des Programms kann keine Arbeitsmappen schreiben</translation>
     </message>
 </context>
 </TS>
