@@ -5,147 +5,147 @@
     <name>Advice</name>
     <message numerus="yes">
         <source>Bring “%1” to storage charge: it has been charged, and not used, for %n days.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Mettez «&#xa0;%1&#xa0;» en charge de stockage&#xa0;: elle est chargée et inutilisée depuis %n jour.</numerusform>
+            <numerusform>Mettez «&#xa0;%1&#xa0;» en charge de stockage&#xa0;: elle est chargée et inutilisée depuis %n jours.</numerusform>
         </translation>
     </message>
     <message>
         <source>Land earlier with “%1”: one of its last discharges took %2 of its capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Posez-vous plus tôt avec «&#xa0;%1&#xa0;»&#xa0;: l’une de ses dernières décharges a pris %2 de sa capacité.</translation>
     </message>
     <message>
         <source>Load “%1” less: one of its last discharges reached %2 C, and its label allows %3 C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sollicitez moins «&#xa0;%1&#xa0;»&#xa0;: l’une de ses dernières décharges a atteint %2&#xa0;C, et son étiquette autorise %3&#xa0;C.</translation>
     </message>
     <message>
         <source>Warm “%1” before you fly: its last flight was at %2 °C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réchauffez «&#xa0;%1&#xa0;» avant de voler&#xa0;: son dernier vol s’est fait à %2&#xa0;°C.</translation>
     </message>
     <message numerus="yes">
         <source>Check the voltage of “%1”: it has not been used for %n days.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Vérifiez la tension de «&#xa0;%1&#xa0;»&#xa0;: elle n’a pas servi depuis %n jour.</numerusform>
+            <numerusform>Vérifiez la tension de «&#xa0;%1&#xa0;»&#xa0;: elle n’a pas servi depuis %n jours.</numerusform>
         </translation>
     </message>
     <message>
         <source>Watch how “%1” performs: it was bought on %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Surveillez le comportement de «&#xa0;%1&#xa0;»&#xa0;: son achat date du %2.</translation>
     </message>
     <message>
         <source>Set the timer of “%1” to %2 for “%3”: its flights on this battery show how much it needs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglez le chrono de «&#xa0;%1&#xa0;» à %2 pour «&#xa0;%3&#xa0;»&#xa0;: ses vols avec cette batterie montrent ce qu’il lui faut.</translation>
     </message>
 </context>
 <context>
     <name>AdviceLimits</name>
     <message>
         <source>Charged and not used, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargée et inutilisée, avis après</translation>
     </message>
     <message numerus="yes">
         <source> days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> jour</numerusform>
+            <numerusform> jours</numerusform>
         </translation>
     </message>
     <message>
         <source>Charged and not used, warning after</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargée et inutilisée, alerte après</translation>
     </message>
     <message>
         <source>Deep discharge, notice over</source>
-        <translation type="unfinished"></translation>
+        <translation>Décharge profonde, avis au-delà de</translation>
     </message>
     <message numerus="yes">
         <source> % of the capacity</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> % de la capacité</numerusform>
+            <numerusform> % de la capacité</numerusform>
         </translation>
     </message>
     <message>
         <source>Deep discharges, warning over</source>
-        <translation type="unfinished"></translation>
+        <translation>Décharges profondes, alerte au-delà de</translation>
     </message>
     <message>
         <source>Deep discharges, warning from</source>
-        <translation type="unfinished"></translation>
+        <translation>Décharges profondes, alerte à partir de</translation>
     </message>
     <message numerus="yes">
         <source> of them</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> d’entre elles</numerusform>
+            <numerusform> d’entre elles</numerusform>
         </translation>
     </message>
     <message>
         <source>Newest discharges that are looked at</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernières décharges examinées</translation>
     </message>
     <message numerus="yes">
         <source> discharges</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> décharge</numerusform>
+            <numerusform> décharges</numerusform>
         </translation>
     </message>
     <message>
         <source>Cold flight, below</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol par temps froid, sous</translation>
     </message>
     <message numerus="yes">
         <source> °C</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> °C</numerusform>
+            <numerusform> °C</numerusform>
         </translation>
     </message>
     <message>
         <source>Cold flight, within the last</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol par temps froid, il y a moins de</translation>
     </message>
     <message>
         <source>Not used, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Inutilisée, avis après</translation>
     </message>
     <message>
         <source>Old battery, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Vieille batterie, avis après</translation>
     </message>
     <message numerus="yes">
         <source> years</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> an</numerusform>
+            <numerusform> ans</numerusform>
         </translation>
     </message>
     <message>
         <source>Timer, for a discharge of</source>
-        <translation type="unfinished"></translation>
+        <translation>Chrono, pour une décharge de</translation>
     </message>
     <message>
         <source>Timer, from so many flights on</source>
-        <translation type="unfinished"></translation>
+        <translation>Chrono, à partir de</translation>
     </message>
     <message numerus="yes">
         <source> flights</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> vol</numerusform>
+            <numerusform> vols</numerusform>
         </translation>
     </message>
     <message>
         <source>Timer, rounded down to</source>
-        <translation type="unfinished"></translation>
+        <translation>Chrono, arrondi vers le bas à</translation>
     </message>
     <message numerus="yes">
         <source> seconds</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> seconde</numerusform>
+            <numerusform> secondes</numerusform>
         </translation>
     </message>
 </context>
@@ -153,90 +153,90 @@
     <name>BackupKeeper</name>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. Rename or remove it; the program tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune copie du carnet ne peut être conservée dans «&#xa0;%1&#xa0;»&#xa0;: %2. Renommez ou supprimez cet élément&#x202f;; le programme réessaie de lui-même.</translation>
     </message>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. Free some space; the program tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune copie du carnet ne peut être conservée dans «&#xa0;%1&#xa0;»&#xa0;: %2. Libérez de l’espace&#x202f;; le programme réessaie de lui-même.</translation>
     </message>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. See that the program can write there; it tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune copie du carnet ne peut être conservée dans «&#xa0;%1&#xa0;»&#xa0;: %2. Veillez à ce que le programme puisse y écrire&#x202f;; il réessaie de lui-même.</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>il est absent</translation>
     </message>
 </context>
 <context>
     <name>Backups</name>
     <message>
         <source>it is a link that leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est un lien qui ne mène nulle part</translation>
     </message>
     <message>
         <source>it is not a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est pas un dossier</translation>
     </message>
     <message>
         <source>the copies that are there cannot be listed</source>
-        <translation type="unfinished"></translation>
+        <translation>les copies présentes ne peuvent pas être listées</translation>
     </message>
 </context>
 <context>
     <name>BatteryChart</name>
     <message>
         <source>Capacity, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacité, %1</translation>
     </message>
     <message>
         <source>Permitted by the rating, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Autorisé par l’étiquette, %1</translation>
     </message>
     <message>
         <source>%1 (%2 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 %)</translation>
     </message>
     <message>
         <source>Capacity used</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacité utilisée</translation>
     </message>
     <message>
         <source>Maximum current</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant maximal</translation>
     </message>
     <message>
         <source>Highest load</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux C maximal</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>A</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>C</source>
-        <translation type="unfinished"></translation>
+        <translation>C</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2: %Ln discharges from %3 to %4, %5 to %6.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 de %2&#xa0;: %Ln décharge du %3 au %4, de %5 à %6.</numerusform>
+            <numerusform>%1 de %2&#xa0;: %Ln décharges du %3 au %4, de %5 à %6.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: %2.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln discharges without a time are in the table alone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln décharge sans heure ne figure que dans le tableau.</numerusform>
+            <numerusform>%Ln décharges sans heure ne figurent que dans le tableau.</numerusform>
         </translation>
     </message>
 </context>
@@ -244,1382 +244,1382 @@
     <name>BatteryWidget</name>
     <message>
         <source>BatteryWidget</source>
-        <translation type="unfinished"></translation>
+        <translation>BatteryWidget</translation>
     </message>
     <message>
         <source>Last use:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernier usage&#xa0;:</translation>
     </message>
     <message>
         <source>Discharged:</source>
-        <translation type="unfinished"></translation>
+        <translation>Décharge&#xa0;:</translation>
     </message>
     <message>
         <source>Max. Current:</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant max.&#xa0;:</translation>
     </message>
     <message>
         <source>Cycles:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cycles&#xa0;:</translation>
     </message>
     <message>
         <source>Charged</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargée</translation>
     </message>
     <message>
         <source>Discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>Déchargée</translation>
     </message>
     <message>
         <source>%1: charged; press when discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: chargée&#x202f;; appuyez une fois déchargée</translation>
     </message>
     <message>
         <source>%1: discharged; press when charged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: déchargée&#x202f;; appuyez une fois chargée</translation>
     </message>
 </context>
 <context>
     <name>CatalogueFile</name>
     <message>
         <source>the disk took only a part of it</source>
-        <translation type="unfinished"></translation>
+        <translation>le disque n’en a pris qu’une partie</translation>
     </message>
 </context>
 <context>
     <name>Changes</name>
     <message>
         <source>Battery %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie %1 renommée</translation>
     </message>
     <message>
         <source>Charged %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie %1 chargée</translation>
     </message>
     <message>
         <source>Discharged %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie %1 déchargée</translation>
     </message>
     <message>
         <source>Battery %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie %1 modifiée</translation>
     </message>
     <message>
         <source>Model %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle %1 renommé</translation>
     </message>
     <message>
         <source>Batteries of %1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteries de %1 modifiées</translation>
     </message>
     <message>
         <source>Flight of %1 recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol de %1 enregistré</translation>
     </message>
     <message>
         <source>Flight of %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol de %1 supprimé</translation>
     </message>
     <message>
         <source>Flight of %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol de %1 modifié</translation>
     </message>
     <message>
         <source>Model %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle %1 modifié</translation>
     </message>
     <message>
         <source>Battery %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie %1 ajoutée</translation>
     </message>
     <message>
         <source>Battery %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie %1 supprimée</translation>
     </message>
     <message>
         <source>Model %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle %1 ajouté</translation>
     </message>
     <message>
         <source>Model %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle %1 supprimé</translation>
     </message>
     <message>
         <source>Location %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu %1 ajouté</translation>
     </message>
     <message>
         <source>Location %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu %1 supprimé</translation>
     </message>
     <message>
         <source>Change of the logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Modification du carnet</translation>
     </message>
 </context>
 <context>
     <name>DateMark</name>
     <message>
         <source>Not a valid date: no date will be stored</source>
-        <translation type="unfinished"></translation>
+        <translation>Date non valide&#xa0;: aucune date ne sera enregistrée</translation>
     </message>
 </context>
 <context>
     <name>Demo</name>
     <message>
         <source>The sample logbook “%1” cannot be written: %2. Free some space, or check the rights of its folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet d’exemple «&#xa0;%1&#xa0;» ne peut pas être écrit&#xa0;: %2. Libérez de l’espace ou vérifiez les droits de son dossier.</translation>
     </message>
 </context>
 <context>
     <name>Edits</name>
     <message>
         <source>There is no such time: the clock leaves it out, as it does where summer time begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette heure n’existe pas&#xa0;: l’horloge la saute, comme au passage à l’heure d’été.</translation>
     </message>
     <message>
         <source>The year must be from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’année doit être comprise entre %1 et %2.</translation>
     </message>
     <message>
         <source>The temperature must be from %1 to %2 °C.</source>
-        <translation type="unfinished"></translation>
+        <translation>La température doit être comprise entre %1 et %2&#xa0;°C.</translation>
     </message>
     <message>
         <source>The duration must be less than 24 hours.</source>
-        <translation type="unfinished"></translation>
+        <translation>La durée doit être inférieure à 24 heures.</translation>
     </message>
     <message>
         <source>The discharge must be from 0 to %1 mAh.</source>
-        <translation type="unfinished"></translation>
+        <translation>La décharge doit être comprise entre 0 et %1&#xa0;mAh.</translation>
     </message>
     <message>
         <source>The current must be from 0 to %1 A.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le courant doit être compris entre 0 et %1&#xa0;A.</translation>
     </message>
     <message>
         <source>The text holds a control character, or half a character, which the logbook file cannot hold. Leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le texte contient un caractère de contrôle ou une moitié de caractère, que le fichier du carnet ne peut pas contenir. Retirez-le.</translation>
     </message>
     <message>
         <source>The flight of %1 has a discharge of the battery “%2” already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le vol du %1 a déjà une décharge de la batterie «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>None of these flights has a discharge of the battery “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun de ces vols n’a de décharge de la batterie «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The name must not be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom ne doit pas être vide.</translation>
     </message>
     <message>
         <source>There is “%1” already. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» existe déjà. Choisissez un autre nom.</translation>
     </message>
 </context>
 <context>
     <name>ExportFormats</name>
     <message>
         <source>Workbook for spreadsheets (XLSX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Classeur pour tableurs (XLSX)</translation>
     </message>
     <message>
         <source>Tables for your spreadsheet (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableaux pour votre tableur (CSV)</translation>
     </message>
     <message>
         <source>Tables for other programs (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableaux pour d’autres programmes (CSV)</translation>
     </message>
     <message>
         <source>Everything for scripts (JSON)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout pour vos scripts (JSON)</translation>
     </message>
     <message>
         <source>One file with five sheets, with real numbers and dates. The best choice for LibreOffice, Excel and other spreadsheets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un seul fichier de cinq feuilles, avec de vrais nombres et de vraies dates. Le meilleur choix pour LibreOffice, Excel et les autres tableurs.</translation>
     </message>
     <message>
         <source>Five files in a folder, with the decimal sign of your country. A text that looks like a formula gets an apostrophe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cinq fichiers dans un dossier, avec le signe décimal de votre pays. Un texte qui ressemble à une formule reçoit une apostrophe.</translation>
     </message>
     <message>
         <source>Five files in a folder, the same on every computer, for databases and other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cinq fichiers dans un dossier, identiques sur tous les ordinateurs, pour les bases de données et d’autres programmes.</translation>
     </message>
     <message>
         <source>One file that holds everything with its relations, for programs of your own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un seul fichier qui contient tout, avec les relations, pour vos propres programmes.</translation>
     </message>
 </context>
 <context>
     <name>Exporting</name>
     <message>
         <source>“%1” cannot be put in its place: %2. Export again.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être mis à sa place&#xa0;: %2. Recommencez l’exportation.</translation>
     </message>
     <message>
         <source>“%1” cannot be written: %2. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être écrit&#xa0;: %2. Rien n’a été exporté.</translation>
     </message>
     <message>
         <source>This build of Voltbok cannot write XLSX. Choose csv-local for your spreadsheet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette version compilée de Voltbok ne sait pas écrire le format XLSX. Choisissez csv-local pour votre tableur.</translation>
     </message>
     <message>
         <source>“%1” exists already. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» existe déjà. Rien n’a été exporté.</translation>
     </message>
     <message>
         <source>“%1” is there already, and is no file that could be replaced. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» est déjà là, et ce n’est pas un fichier qui pourrait être remplacé. Rien n’a été exporté.</translation>
     </message>
     <message>
         <source>“%1” is a logbook, and nothing takes its place. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» est un carnet, et rien ne prend sa place. Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>“%1” is not a folder. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un dossier. Rien n’a été exporté.</translation>
     </message>
     <message>
         <source>There is no folder “%1”. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» n’existe pas. Rien n’a été exporté.</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be made. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» ne peut pas être créé. Rien n’a été exporté.</translation>
     </message>
 </context>
 <context>
     <name>Findings</name>
     <message>
         <source>%1 (line %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (ligne %2)</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>model “%1”: no battery has a discharge at the time of the flight of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>modèle «&#xa0;%1&#xa0;»&#xa0;: aucune batterie n’a de décharge à l’heure du vol du %2</translation>
     </message>
     <message>
         <source>model “%1”: a flight has no time, so that no discharge belongs to it</source>
-        <translation type="unfinished"></translation>
+        <translation>modèle «&#xa0;%1&#xa0;»&#xa0;: un vol n’a pas d’heure, si bien qu’aucune décharge ne lui correspond</translation>
     </message>
     <message>
         <source>battery “%1”: no model has a flight at the time of the discharge of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>batterie «&#xa0;%1&#xa0;»&#xa0;: aucun modèle n’a de vol à l’heure de la décharge du %2</translation>
     </message>
     <message>
         <source>battery “%1”: a discharge has no time, so that no flight belongs to it</source>
-        <translation type="unfinished"></translation>
+        <translation>batterie «&#xa0;%1&#xa0;»&#xa0;: une décharge n’a pas d’heure, si bien qu’aucun vol ne lui correspond</translation>
     </message>
     <message>
         <source>several batteries are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>plusieurs batteries se nomment «&#xa0;%1&#xa0;» (lignes %2)</translation>
     </message>
     <message>
         <source>several models are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>plusieurs modèles se nomment «&#xa0;%1&#xa0;» (lignes %2)</translation>
     </message>
     <message>
         <source>several locations are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>plusieurs lieux se nomment «&#xa0;%1&#xa0;» (lignes %2)</translation>
     </message>
 </context>
 <context>
     <name>FlightBook</name>
     <message>
         <source>Flight book</source>
-        <translation type="unfinished"></translation>
+        <translation>Carnet de vol</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>du %1 au %2</translation>
     </message>
     <message>
         <source>from %1 on</source>
-        <translation type="unfinished"></translation>
+        <translation>à partir du %1</translation>
     </message>
     <message>
         <source>until %1</source>
-        <translation type="unfinished"></translation>
+        <translation>jusqu’au %1</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Début</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteries</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Page %1 sur %2</translation>
     </message>
     <message>
         <source>Page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Page %1</translation>
     </message>
     <message>
         <source>Place and date</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu et date</translation>
     </message>
     <message>
         <source>Signature</source>
-        <translation type="unfinished"></translation>
+        <translation>Signature</translation>
     </message>
     <message>
         <source>This page</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette page</translation>
     </message>
     <message>
         <source>Brought forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Report</translation>
     </message>
     <message>
         <source>In all</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Carried forward</source>
-        <translation type="unfinished"></translation>
+        <translation>À reporter</translation>
     </message>
     <message>
         <source>Flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols&#xa0;: %1</translation>
     </message>
     <message>
         <source>There are no flights within these limits.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucun vol dans ces limites.</translation>
     </message>
     <message>
         <source>There are no flights in this logbook yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a encore aucun vol dans ce carnet.</translation>
     </message>
 </context>
 <context>
     <name>FlightEdits</name>
     <message numerus="yes">
         <source>Enter a figure for each of the %n batteries, with a semicolon between them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Saisissez %n valeur pour la batterie.</numerusform>
+            <numerusform>Saisissez une valeur pour chacune des %n batteries, séparées par un point-virgule.</numerusform>
         </translation>
     </message>
     <message>
         <source>The logbook has changed meanwhile. Look at the table again, and repeat what you did.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet a changé entre-temps. Regardez de nouveau le tableau et recommencez.</translation>
     </message>
 </context>
 <context>
     <name>FolderLock</name>
     <message>
         <source>The folder “%1” cannot be made: %2. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» ne peut pas être créé&#xa0;: %2. Choisissez un autre dossier.</translation>
     </message>
     <message>
         <source>The folder “%1”, which keeps two windows from one logbook, cannot be made: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;», qui empêche deux fenêtres d’utiliser le même carnet, ne peut pas être créé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Another program keeps the folder “%1” locked. Wait until it is done, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme verrouille le dossier «&#xa0;%1&#xa0;». Attendez qu’il ait terminé, puis réessayez.</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: the lock file “%2” was left behind and cannot be removed (%3). Ask the owner of the file or of its folder to remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet dans «&#xa0;%1&#xa0;» ne peut pas être verrouillé&#xa0;: le fichier de verrouillage «&#xa0;%2&#xa0;» est resté là et ne peut pas être supprimé (%3). Demandez au propriétaire du fichier ou de son dossier de le supprimer.</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: the lock file “%2” cannot be written (%3).</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet dans «&#xa0;%1&#xa0;» ne peut pas être verrouillé&#xa0;: le fichier de verrouillage «&#xa0;%2&#xa0;» ne peut pas être écrit (%3).</translation>
     </message>
     <message>
         <source>somebody else writes it</source>
-        <translation type="unfinished"></translation>
+        <translation>quelqu’un d’autre l’écrit</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: “%2” is in the way, and is not a regular file. Remove or rename it, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet dans «&#xa0;%1&#xa0;» ne peut pas être verrouillé&#xa0;: «&#xa0;%2&#xa0;» fait obstacle et n’est pas un fichier ordinaire. Supprimez-le ou renommez-le, puis réessayez.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is locked by the user “%2”, whose lock file “%3” cannot be read. Ask “%2” to close it first. If “%2” does not have it open, you can take it over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet dans «&#xa0;%1&#xa0;» est verrouillé par l’utilisateur «&#xa0;%2&#xa0;», dont le fichier de verrouillage «&#xa0;%3&#xa0;» ne peut pas être lu. Demandez d’abord à «&#xa0;%2&#xa0;» de le fermer. Si «&#xa0;%2&#xa0;» ne l’a pas ouvert, vous pouvez le reprendre.</translation>
     </message>
     <message>
         <source>unknown program</source>
-        <translation type="unfinished"></translation>
+        <translation>programme inconnu</translation>
     </message>
     <message>
         <source>%1, process %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, processus %2</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open on the computer “%2” (%3), says the lock file “%4”. Close it there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet dans «&#xa0;%1&#xa0;» est ouvert sur l’ordinateur «&#xa0;%2&#xa0;» (%3), d’après le fichier de verrouillage «&#xa0;%4&#xa0;». Fermez-le d’abord là-bas.</translation>
     </message>
     <message>
         <source>If that computer was switched off without closing it, you can take the logbook over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si cet ordinateur a été éteint sans le fermer, vous pouvez reprendre le carnet.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open already: the user “%2” has it (%3), says the lock file “%4”. It must be closed there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet dans «&#xa0;%1&#xa0;» est déjà ouvert&#xa0;: l’utilisateur «&#xa0;%2&#xa0;» l’a ouvert (%3), d’après le fichier de verrouillage «&#xa0;%4&#xa0;». Il faut d’abord le fermer là-bas.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open already (%2). Use the window that shows it, or close that first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet dans «&#xa0;%1&#xa0;» est déjà ouvert (%2). Utilisez la fenêtre qui l’affiche, ou fermez-la d’abord.</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteriesModel</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Décharges</translation>
     </message>
     <message>
         <source>Measured or entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesurées ou saisies</translation>
     </message>
     <message>
         <source>Full cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Cycles complets</translation>
     </message>
     <message>
         <source>Median depth (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Profondeur médiane (%)</translation>
     </message>
     <message>
         <source>Deepest (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Profondeur max. (%)</translation>
     </message>
     <message>
         <source>Highest load (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux max. (C)</translation>
     </message>
     <message>
         <source>Age (years)</source>
-        <translation type="unfinished"></translation>
+        <translation>Âge (ans)</translation>
     </message>
     <message>
         <source>Days since use</source>
-        <translation type="unfinished"></translation>
+        <translation>Jours sans usage</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutes</translation>
     </message>
     <message>
         <source>mAh per minute</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh par minute</translation>
     </message>
     <message>
         <source>Total (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Total (mAh)</translation>
     </message>
     <message>
         <source>The name of the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nom de la batterie.</translation>
     </message>
     <message>
         <source>How many discharges are recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre de décharges enregistrées.</translation>
     </message>
     <message>
         <source>How many of the discharges were measured by a radio or entered by you: medians, means and maxima are taken from these alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre de décharges mesurées par une radio ou saisies par vous&#xa0;: les médianes, moyennes et maximums ne proviennent que d’elles.</translation>
     </message>
     <message>
         <source>Everything that was ever drawn from the battery, divided by its capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout ce qui a été tiré de la batterie, divisé par sa capacité.</translation>
     </message>
     <message>
         <source>Half of the discharges used less of the capacity than this, half of them more.</source>
-        <translation type="unfinished"></translation>
+        <translation>La moitié des décharges a utilisé une plus petite part de la capacité, l’autre moitié une plus grande.</translation>
     </message>
     <message>
         <source>The largest part of the capacity that one discharge used.</source>
-        <translation type="unfinished"></translation>
+        <translation>La plus grande part de la capacité utilisée par une seule décharge.</translation>
     </message>
     <message>
         <source>The highest current, divided by the capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le courant le plus élevé, divisé par la capacité.</translation>
     </message>
     <message>
         <source>The time since the battery was bought.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le temps écoulé depuis l’achat de la batterie.</translation>
     </message>
     <message>
         <source>The days since the battery was last used or discharged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les jours écoulés depuis la dernière utilisation ou décharge de la batterie.</translation>
     </message>
     <message>
         <source>The flights of all models at the times of its discharges.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les vols de tous les modèles aux heures de ses décharges.</translation>
     </message>
     <message>
         <source>How long these flights took together.</source>
-        <translation type="unfinished"></translation>
+        <translation>La durée totale de ces vols.</translation>
     </message>
     <message>
         <source>What a minute of flight draws from the battery on average.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu’une minute de vol tire de la batterie en moyenne.</translation>
     </message>
     <message>
         <source>Everything that was ever drawn from the battery, guessed values included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout ce qui a été tiré de la batterie, valeurs estimées comprises.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>%1 (%2 guessed)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (dont %2 estimés)</translation>
     </message>
     <message>
         <source>%1 measured or entered</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mesurées ou saisies</translation>
     </message>
     <message numerus="yes">
         <source>%n days old</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>âgée de %n jour</numerusform>
+            <numerusform>âgée de %n jours</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The date of purchase is still to come.</source>
-        <translation type="unfinished"></translation>
+        <translation>La date d’achat est encore à venir.</translation>
     </message>
     <message>
         <source>No date of purchase was entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune date d’achat n’a été saisie.</translation>
     </message>
     <message>
         <source>No use before today is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune utilisation avant aujourd’hui n’est connue.</translation>
     </message>
     <message>
         <source>The battery was not used yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La batterie n’a pas encore été utilisée.</translation>
     </message>
     <message>
         <source>The battery was not discharged yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La batterie n’a pas encore été déchargée.</translation>
     </message>
     <message>
         <source>The capacity of the battery is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capacité de la batterie n’est pas connue.</translation>
     </message>
     <message>
         <source>No discharge was measured or entered: what was guessed does not count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune décharge n’a été mesurée ni saisie&#xa0;: ce qui a été estimé ne compte pas.</translation>
     </message>
     <message>
         <source>No discharge that was measured or entered has a flight with a duration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune décharge mesurée ou saisie n’a de vol avec une durée.</translation>
     </message>
     <message>
         <source>No current was measured or entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun courant n’a été mesuré ni saisi.</translation>
     </message>
     <message>
         <source>No used capacity was measured or entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune capacité utilisée n’a été mesurée ni saisie.</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteriesTab</name>
     <message>
         <source>There is no battery yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas encore de batterie. Ajoutez la première&#xa0;: appuyez sur le bouton du menu, puis sur Édition.</translation>
     </message>
     <message>
         <source>Batteries and their figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteries et leurs chiffres</translation>
     </message>
     <message>
         <source>Batteries, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteries, %1</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteryPlot</name>
     <message>
         <source>As a &amp;table</source>
-        <translation type="unfinished"></translation>
+        <translation>En &amp;tableau</translation>
     </message>
     <message>
         <source>Pl&amp;ot:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Graphique&#xa0;:</translation>
     </message>
     <message>
         <source>What is plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que montre le graphique</translation>
     </message>
     <message>
         <source>Shows the discharges of the battery as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche les décharges de la batterie sous forme de tableau</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Décharges</translation>
     </message>
     <message>
         <source>Choose a battery to see what became of it over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une batterie pour voir son évolution dans le temps.</translation>
     </message>
     <message>
         <source>“%1” was never discharged. Record a flight with it: click its card.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’a jamais été déchargée. Enregistrez un vol avec elle&#xa0;: cliquez sur sa carte.</translation>
     </message>
     <message>
         <source>No discharge of “%1” has a time and this figure: there is nothing to plot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune décharge de «&#xa0;%1&#xa0;» n’a à la fois une heure et cette valeur&#xa0;: il n’y a rien à tracer.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
 </context>
 <context>
     <name>Host::DischargesModel</name>
     <message>
         <source>Not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Non saisi</translation>
     </message>
     <message>
         <source>Guessed</source>
-        <translation type="unfinished"></translation>
+        <translation>Estimé</translation>
     </message>
     <message>
         <source>Entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisi</translation>
     </message>
     <message>
         <source>Measured</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesuré</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure</translation>
     </message>
     <message>
         <source>Used (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisé (mAh)</translation>
     </message>
     <message>
         <source>Used (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisé (%)</translation>
     </message>
     <message>
         <source>Current (A)</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant (A)</translation>
     </message>
     <message>
         <source>Load (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux (C)</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Source</translation>
     </message>
 </context>
 <context>
     <name>Host::ExportDialog</name>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet ne peut pas être lu pour l’instant. Libérez de l’espace, puis réessayez.</translation>
     </message>
     <message>
         <source>Only these &amp;batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement ces &amp;batteries</translation>
     </message>
     <message>
         <source>Only these &amp;models</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement ces &amp;modèles</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter</translation>
     </message>
     <message>
         <source>Progress of the export</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancement de l’exportation</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exporter…</translation>
     </message>
     <message>
         <source>&amp;Format</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Format</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>F&amp;rom</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;u</translation>
     </message>
     <message>
         <source>&amp;To</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Au</translation>
     </message>
     <message numerus="yes">
         <source>&amp;Preview: the first %n rows of each table</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>A&amp;perçu&#xa0;: %n ligne de chaque tableau</numerusform>
+            <numerusform>A&amp;perçu&#xa0;: les %n premières lignes de chaque tableau</numerusform>
         </translation>
     </message>
     <message>
         <source>The first day is later than the last one. Change one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le premier jour est postérieur au dernier. Modifiez l’un des deux.</translation>
     </message>
     <message>
         <source>Export the Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter le carnet</translation>
     </message>
     <message>
         <source>Workbook (*.xlsx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Classeur (*.xlsx)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>Export Five Files into a Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter cinq fichiers dans un dossier</translation>
     </message>
     <message>
         <source>The folder has files of these names already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier contient déjà des fichiers portant ces noms.</translation>
     </message>
     <message>
         <source>The export replaces %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’exportation remplace %1.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>The export was stopped. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’exportation a été arrêtée. Rien n’a été écrit.</translation>
     </message>
     <message>
         <source>Choose another place, or free some space, and export again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un autre emplacement ou libérez de l’espace, puis recommencez l’exportation.</translation>
     </message>
     <message>
         <source>The logbook was exported to “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet a été exporté dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Texts that are too long for a cell (32,767 characters) were cut: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les textes trop longs pour une cellule (32&#x202f;767 caractères) ont été coupés&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>Host::ExportPreview</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu</translation>
     </message>
     <message>
         <source>First rows of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Premières lignes de %1</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>Host::FilterBar</name>
     <message>
         <source>Search flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des vols</translation>
     </message>
     <message>
         <source>Only flights of the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement les vols du modèle</translation>
     </message>
     <message>
         <source>All models</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les modèles</translation>
     </message>
     <message>
         <source>Only flights with the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement les vols avec la batterie</translation>
     </message>
     <message>
         <source>All batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les batteries</translation>
     </message>
     <message>
         <source>Only flights at the location</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement les vols sur le lieu</translation>
     </message>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les lieux</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Du</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Au</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightBookDialog</name>
     <message>
         <source>Flight Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Carnet de vol</translation>
     </message>
     <message>
         <source>&amp;From:</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;u&#xa0;:</translation>
     </message>
     <message>
         <source>First day</source>
-        <translation type="unfinished"></translation>
+        <translation>Premier jour</translation>
     </message>
     <message>
         <source>&amp;To:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Au&#xa0;:</translation>
     </message>
     <message>
         <source>Last day</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernier jour</translation>
     </message>
     <message>
         <source>Models in the book</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèles dans le carnet de vol</translation>
     </message>
     <message>
         <source>&amp;Models:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modèles&#xa0;:</translation>
     </message>
     <message>
         <source>A4</source>
-        <translation type="unfinished"></translation>
+        <translation>A4</translation>
     </message>
     <message>
         <source>Letter</source>
-        <translation type="unfinished"></translation>
+        <translation>Letter</translation>
     </message>
     <message>
         <source>Paper of the PDF file</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier du fichier PDF</translation>
     </message>
     <message>
         <source>P&amp;aper:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Papier&#xa0;:</translation>
     </message>
     <message>
         <source>%1 is limited</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: limité</translation>
     </message>
     <message>
         <source>Pa&amp;ge:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pa&amp;ge&#xa0;:</translation>
     </message>
     <message>
         <source>Page that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Page affichée</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imprimer…</translation>
     </message>
     <message>
         <source>&amp;Save as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enregistrer en PDF…</translation>
     </message>
     <message>
         <source>The first day is after the last one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le premier jour est postérieur au dernier.</translation>
     </message>
     <message>
         <source>Flights: %1, time in the air: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols&#xa0;: %1, temps de vol&#xa0;: %2.</translation>
     </message>
     <message>
         <source>of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>sur %1</translation>
     </message>
     <message>
         <source>The flight book was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet de vol n’a pas été imprimé&#xa0;: l’imprimante ou son fichier n’est pas accessible en écriture. Choisissez une autre destination.</translation>
     </message>
     <message>
         <source>The flight book is printed…</source>
-        <translation type="unfinished"></translation>
+        <translation>Impression du carnet de vol…</translation>
     </message>
     <message>
         <source>The flight book is saved…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement du carnet de vol…</translation>
     </message>
     <message>
         <source>Save the Flight Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le carnet de vol</translation>
     </message>
     <message>
         <source>PDF document (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Document PDF (*.pdf)</translation>
     </message>
     <message>
         <source>it is a logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est un carnet</translation>
     </message>
     <message>
         <source>The flight book is saved in “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet de vol est enregistré dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The flight book was not saved in “%1”: %2. Choose another place for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet de vol n’a pas été enregistré dans «&#xa0;%1&#xa0;»&#xa0;: %2. Choisissez-lui un autre emplacement.</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightBookPreview</name>
     <message>
         <source>Preview of page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aperçu de la page %1</translation>
     </message>
     <message>
         <source>No preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas d’aperçu</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightDialog</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>Add a Flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un vol</translation>
     </message>
     <message>
         <source> mAh</source>
-        <translation type="unfinished"></translation>
+        <translation> mAh</translation>
     </message>
     <message>
         <source> A</source>
-        <translation type="unfinished"></translation>
+        <translation> A</translation>
     </message>
     <message>
         <source> °C</source>
-        <translation type="unfinished"></translation>
+        <translation> °C</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modèle</translation>
     </message>
     <message>
         <source>&amp;Time</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Heure</translation>
     </message>
     <message>
         <source>&amp;Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Durée</translation>
     </message>
     <message>
         <source>&amp;Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Batterie</translation>
     </message>
     <message>
         <source>D&amp;ischarged</source>
-        <translation type="unfinished"></translation>
+        <translation>Déchar&amp;gé</translation>
     </message>
     <message>
         <source>Maximum &amp;current</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Courant maximal</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lieu</translation>
     </message>
     <message>
         <source>Tem&amp;perature</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Température</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notes</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Flight added</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol ajouté</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsModel</name>
     <message>
         <source>not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>non saisi</translation>
     </message>
     <message>
         <source>guessed: what a capture presets for the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>estimé&#xa0;: ce que le relevé propose pour la batterie</translation>
     </message>
     <message>
         <source>measured: from a radio&apos;s log</source>
-        <translation type="unfinished"></translation>
+        <translation>mesuré&#xa0;: d’après le journal d’une radio</translation>
     </message>
     <message>
         <source>entered</source>
-        <translation type="unfinished"></translation>
+        <translation>saisi</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>no discharge at the time of this flight</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune décharge à l’heure de ce vol</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteries</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>Max. A</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. A</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>°C</source>
-        <translation type="unfinished"></translation>
+        <translation>°C</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsTab</name>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajouter…</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer</translation>
     </message>
     <message>
         <source>&amp;Move…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dé&amp;placer…</translation>
     </message>
     <message>
         <source>&amp;Tidy Up…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nettoyer…</translation>
     </message>
     <message>
         <source>&amp;Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renommer…</translation>
     </message>
     <message>
         <source>There is no model yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas encore de modèle. Ajoutez le premier&#xa0;: appuyez sur le bouton du menu, puis sur Édition.</translation>
     </message>
     <message>
         <source>There is no flight yet. Add one here, or click the card of a charged battery when you have flown it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas encore de vol. Ajoutez-en un ici, ou cliquez sur la carte d’une batterie chargée une fois que vous l’avez utilisée en vol.</translation>
     </message>
     <message>
         <source>Flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols&#xa0;: %1</translation>
     </message>
     <message>
         <source>Flights: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>Flight edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol modifié</translation>
     </message>
     <message>
         <source>Delete this flight?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer ce vol&#x202f;?</translation>
     </message>
     <message numerus="yes">
         <source>Delete these %n flights?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Supprimer %n vol&#x202f;?</numerusform>
+            <numerusform>Supprimer ces %n vols&#x202f;?</numerusform>
         </translation>
     </message>
     <message>
         <source>Discharges at the same times can be deleted with them; the cycles of the batteries are then reduced. The models&apos; numbers of flights stay as they are. This can be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les décharges aux mêmes heures peuvent être supprimées aussi&#x202f;; les cycles des batteries sont alors réduits. Les nombres de vols des modèles restent inchangés. Cette action peut être annulée.</translation>
     </message>
     <message>
         <source>Delete With Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer avec les décharges</translation>
     </message>
     <message>
         <source>Delete Flights Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer les vols seuls</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Flight deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol supprimé</translation>
     </message>
     <message numerus="yes">
         <source>%n flights deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n vol supprimé</numerusform>
+            <numerusform>%n vols supprimés</numerusform>
         </translation>
     </message>
     <message>
         <source>Flight moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol déplacé</translation>
     </message>
     <message numerus="yes">
         <source>%n flights moved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n vol déplacé</numerusform>
+            <numerusform>%n vols déplacés</numerusform>
         </translation>
     </message>
     <message>
         <source>No flight stands twice. A flight is taken for a double when it is at most 5 s after another one of the same model and the same in everything else.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun vol ne figure en double. Un vol est tenu pour un double lorsqu’il suit de 5&#xa0;s au plus un autre vol du même modèle et que tout le reste est identique.</translation>
     </message>
     <message>
         <source>Flights that stood twice removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols en double retirés</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsTable</name>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols</translation>
     </message>
 </context>
 <context>
     <name>Host::ImportDialog</name>
     <message>
         <source>Choose &amp;Logs…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir &amp;journaux…</translation>
     </message>
     <message>
         <source>Choose &amp;Folder or Card…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir dossier ou &amp;carte…</translation>
     </message>
     <message>
         <source>&amp;Replace values that were entered</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Remplacer les valeurs saisies</translation>
     </message>
     <message>
         <source>&amp;Not imported:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Non importés&#xa0;:</translation>
     </message>
     <message>
         <source>Import Radio Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer des journaux de radio</translation>
     </message>
     <message>
         <source>Choose Logs of Radios</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir des journaux de radio</translation>
     </message>
     <message>
         <source>Logs (*.csv *.CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Journaux (*.csv *.CSV)</translation>
     </message>
     <message>
         <source>Choose a Folder with Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un dossier contenant des journaux</translation>
     </message>
     <message>
         <source>Choose logs that a radio with EdgeTX or OpenTX has written, or the folder or card that they are on. Nothing on a card is ever changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez des journaux écrits par une radio sous EdgeTX ou OpenTX, ou le dossier ou la carte où ils se trouvent. Rien n’est jamais modifié sur une carte.</translation>
     </message>
     <message>
         <source>Discharges in the logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Décharges dans les journaux</translation>
     </message>
     <message>
         <source>Files that are not imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers non importés</translation>
     </message>
     <message>
         <source>Progress of the reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Avancement de la lecture</translation>
     </message>
     <message>
         <source>&amp;Import</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importer</translation>
     </message>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet ne peut pas être lu pour l’instant. Libérez de l’espace, puis réessayez.</translation>
     </message>
     <message>
         <source>The reading was stopped. What was read before is still listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lecture a été arrêtée. Ce qui a été lu auparavant reste listé.</translation>
     </message>
     <message>
         <source>There is no discharge in these logs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucune décharge dans ces journaux.</translation>
     </message>
     <message>
         <source>What is new is added when you tick it. To choose its model or battery, double-click there, or press F2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est nouveau est ajouté si vous le cochez. Pour choisir le modèle ou la batterie, double-cliquez à cet endroit ou appuyez sur F2.</translation>
     </message>
     <message>
         <source>&amp;Correct the radio&apos;s clock: it seems to be %1 h slow</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriger l’&amp;horloge de la radio&#xa0;: elle semble retarder de %1&#xa0;h</translation>
     </message>
     <message>
         <source>&amp;Correct the radio&apos;s clock: it seems to be %1 h fast</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriger l’&amp;horloge de la radio&#xa0;: elle semble avancer de %1&#xa0;h</translation>
     </message>
     <message>
         <source>“%1” is no log of a radio: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un journal de radio&#xa0;: %2</translation>
     </message>
     <message>
         <source>“%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>“%1” holds no values.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» ne contient aucune valeur.</translation>
     </message>
     <message>
         <source>Imported 1 radio log</source>
-        <translation type="unfinished"></translation>
+        <translation>1 journal de radio importé</translation>
     </message>
     <message numerus="yes">
         <source>Imported %n radio logs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n journal de radio importé</numerusform>
+            <numerusform>%n journaux de radio importés</numerusform>
         </translation>
     </message>
     <message>
         <source>%1. Flights filled: %2; discharges added: %3. Undo in the menu Edit takes all of it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Vols complétés&#xa0;: %2&#x202f;; décharges ajoutées&#xa0;: %3. Annuler, dans le menu Édition, défait le tout.</translation>
     </message>
 </context>
 <context>
     <name>Host::ImportModel</name>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir…</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Début</translation>
     </message>
     <message>
         <source>What will happen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui se passera</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>Maximum A</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum A</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal</translation>
     </message>
 </context>
 <context>
@@ -1634,137 +1634,139 @@
     <name>Host::MainWindow</name>
     <message>
         <source>&amp;Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Carnet</translation>
     </message>
     <message>
         <source>&amp;Open Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ouvrir un dossier…</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossiers &amp;récents</translation>
     </message>
     <message>
         <source>&amp;Import Radio Logs…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importer des journaux de radio…</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exporter…</translation>
     </message>
     <message>
         <source>&amp;Flight Book (print, PDF)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Carnet de &amp;vol (impression, PDF)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir</translation>
     </message>
     <message>
         <source>Re&amp;name…</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;nommer…</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Préférences…</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>Affic&amp;hage</translation>
     </message>
     <message>
         <source>&amp;Side Panel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Panneau latéral</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aid&amp;e</translation>
     </message>
     <message>
         <source>&amp;Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Manuel</translation>
     </message>
     <message>
         <source>&amp;About Voltbok</source>
-        <translation type="unfinished"></translation>
+        <translation>À &amp;propos de Voltbok</translation>
     </message>
     <message>
         <source>&amp;Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Annuler&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rétablir&#xa0;: %1</translation>
     </message>
     <message>
         <source>No other folder yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun autre dossier</translation>
     </message>
     <message>
         <source>Open the Logbook in a Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le carnet d’un dossier</translation>
     </message>
     <message>
         <source>Voltbok %1, a battery and flight logbook for radio-controlled models.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok %1, un carnet de batteries et de vols pour modèles radiocommandés.</translation>
     </message>
     <message>
         <source>Voltbok is free software under the GNU General Public License, version 3 or later. Linked with Qt Charts, which is under version 3, the whole is under version 3.
 
 This logbook is kept in “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok est un logiciel libre sous licence publique générale GNU, version 3 ou ultérieure. Lié à Qt Charts, qui est sous la version 3, l’ensemble est sous la version 3.
+
+Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>The flight on this page is not recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le vol de cette page n’est pas enregistré.</translation>
     </message>
     <message>
         <source>What you entered on this page is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que vous avez saisi sur cette page n’est pas enregistré.</translation>
     </message>
     <message>
         <source>Go back to record it, or leave the page without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Revenez pour l’enregistrer, ou quittez la page sans l’enregistrer.</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Revenir</translation>
     </message>
     <message>
         <source>Voltbok - sample logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok - carnet d’exemple</translation>
     </message>
     <message>
         <source>The logbook is opened…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverture du carnet…</translation>
     </message>
     <message>
         <source>The settings cannot be saved: there is no permission to write “%1”. What you choose will be forgotten. Change the permissions of this file and its folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages ne peuvent pas être enregistrés&#xa0;: vous n’avez pas le droit d’écrire «&#xa0;%1&#xa0;». Vos choix seront oubliés. Changez les droits de ce fichier et de son dossier.</translation>
     </message>
     <message>
         <source>The logbook is now kept in “%1”. Open this folder the next time, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet est désormais conservé dans «&#xa0;%1&#xa0;». Ouvrez ce dossier la prochaine fois aussi.</translation>
     </message>
     <message>
         <source>&amp;Language</source>
@@ -1795,512 +1797,512 @@ This logbook is kept in “%1”.</source>
     <name>Host::ManualWindow</name>
     <message>
         <source>Voltbok Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuel de Voltbok</translation>
     </message>
 </context>
 <context>
     <name>Host::MessageBar</name>
     <message>
         <source>Close this message</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer ce message</translation>
     </message>
 </context>
 <context>
     <name>Host::MoveDialog</name>
     <message>
         <source>(Stay)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Inchangé)</translation>
     </message>
     <message>
         <source>Move Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer des vols</translation>
     </message>
     <message>
         <source>To the &amp;model</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers le &amp;modèle</translation>
     </message>
     <message>
         <source>&amp;Discharges of the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Décharges de la batterie</translation>
     </message>
     <message>
         <source>To the &amp;battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers la &amp;batterie</translation>
     </message>
     <message>
         <source>Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Déplacer</translation>
     </message>
 </context>
 <context>
     <name>Host::OpenLogbook</name>
     <message>
         <source>Nothing was changed: what radio logs tell cannot be written: %1. See that “%2” can be written, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été modifié&#xa0;: les données des journaux de radio ne peuvent pas être écrites&#xa0;: %1. Veillez à ce que «&#xa0;%2&#xa0;» soit accessible en écriture, puis réessayez.</translation>
     </message>
     <message>
         <source>Nothing was changed: there is no space left in “%1”. Free some, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été modifié&#xa0;: il ne reste plus d’espace dans «&#xa0;%1&#xa0;». Libérez-en, puis réessayez.</translation>
     </message>
     <message>
         <source>Nothing was changed: you have cancelled it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été modifié&#xa0;: vous avez annulé.</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook has changed meanwhile. Look at it again, and repeat what you did.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été modifié&#xa0;: le carnet a changé entre-temps. Regardez-le de nouveau et recommencez.</translation>
     </message>
     <message>
         <source>The logbook is changed…</source>
-        <translation type="unfinished"></translation>
+        <translation>Modification du carnet…</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file cannot hold what you entered. Leave out control characters, and times that the clock does not have.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été modifié&#xa0;: le fichier du carnet ne peut pas contenir ce que vous avez saisi. Retirez les caractères de contrôle et les heures qui n’existent pas.</translation>
     </message>
     <message>
         <source>Record the flight on the discharge page first, or leave that page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrez d’abord le vol sur la page de décharge, ou quittez cette page.</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file does not hold what this window shows. See the message above the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été modifié&#xa0;: le fichier du carnet ne contient pas ce que cette fenêtre affiche. Voyez le message au-dessus du carnet.</translation>
     </message>
     <message>
         <source>it cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne peut pas être relu</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file cannot be written: %1. See that “%2” can be written, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été modifié&#xa0;: le fichier du carnet ne peut pas être écrit&#xa0;: %1. Veillez à ce que «&#xa0;%2&#xa0;» soit accessible en écriture, puis réessayez.</translation>
     </message>
 </context>
 <context>
     <name>Host::PlotButtons</name>
     <message>
         <source>&amp;Save Plot…</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;nregistrer…</translation>
     </message>
     <message>
         <source>Save the plot as a picture (PNG or SVG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le graphique comme image (PNG ou SVG)</translation>
     </message>
     <message>
         <source>&amp;Copy Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Cop&amp;ier</translation>
     </message>
     <message>
         <source>Copy the plot to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le graphique dans le presse-papiers</translation>
     </message>
     <message>
         <source>&amp;Print Plot…</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;mprimer…</translation>
     </message>
     <message>
         <source>Print the plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer le graphique</translation>
     </message>
     <message>
         <source>Print T&amp;able…</source>
-        <translation type="unfinished"></translation>
+        <translation>Im&amp;primer tableau…</translation>
     </message>
     <message>
         <source>Print the table above</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimer le tableau ci-dessus</translation>
     </message>
     <message>
         <source>Save the Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le graphique</translation>
     </message>
     <message>
         <source>PNG picture (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Image PNG (*.png)</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessin SVG (*.svg)</translation>
     </message>
     <message>
         <source>The plot was not saved: a picture is PNG or SVG. Give it a name that ends with “.png” or “.svg”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le graphique n’a pas été enregistré&#xa0;: une image est au format PNG ou SVG. Donnez-lui un nom qui se termine par «&#xa0;.png&#xa0;» ou «&#xa0;.svg&#xa0;».</translation>
     </message>
     <message>
         <source>The plot was not saved in “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le graphique n’a pas été enregistré dans «&#xa0;%1&#xa0;»&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The plot was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le graphique n’a pas été imprimé&#xa0;: l’imprimante ou son fichier n’est pas accessible en écriture. Choisissez une autre destination.</translation>
     </message>
 </context>
 <context>
     <name>Host::PreferencesDialog</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>When there is something to do</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand il y a quelque chose à faire</translation>
     </message>
 </context>
 <context>
     <name>Host::RadioLog</name>
     <message>
         <source>It does not begin with the columns Date and Time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne commence pas par les colonnes Date et Time.</translation>
     </message>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne peut pas être lu&#xa0;: %1.</translation>
     </message>
     <message>
         <source>It is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il est vide.</translation>
     </message>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lecture a été annulée.</translation>
     </message>
     <message>
         <source>Its time jumps in too many places.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son heure fait des sauts en trop d’endroits.</translation>
     </message>
     <message>
         <source>Most of its rows have more or fewer fields than its header.</source>
-        <translation type="unfinished"></translation>
+        <translation>La plupart de ses lignes ont plus ou moins de champs que son en-tête.</translation>
     </message>
     <message>
         <source>Its rows do not begin with a date and a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ses lignes ne commencent pas par une date et une heure.</translation>
     </message>
     <message>
         <source>Most of its rows do not begin with a date and a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>La plupart de ses lignes ne commencent pas par une date et une heure.</translation>
     </message>
     <message>
         <source>It has a header, but no rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il a un en-tête, mais aucune ligne.</translation>
     </message>
 </context>
 <context>
     <name>Host::RenameDialog</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>&amp;What</source>
-        <translation type="unfinished"></translation>
+        <translation>Élé&amp;ment</translation>
     </message>
     <message>
         <source>&amp;Present name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom &amp;actuel</translation>
     </message>
     <message>
         <source>&amp;New name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nouveau nom</translation>
     </message>
     <message>
         <source>There is none yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y en a pas encore.</translation>
     </message>
     <message>
         <source>There are several of this name. Only the chosen one is renamed; models and flights that name it keep the other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs portent ce nom. Seul l’élément choisi est renommé&#x202f;; les modèles et les vols qui le mentionnent gardent l’autre.</translation>
     </message>
     <message>
         <source>It is renamed everywhere at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il est renommé partout à la fois.</translation>
     </message>
     <message>
         <source>Battery %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie %1 renommée</translation>
     </message>
     <message>
         <source>Model %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle %1 renommé</translation>
     </message>
     <message>
         <source>Location %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu %1 renommé</translation>
     </message>
 </context>
 <context>
     <name>Host::SaveCare</name>
     <message>
         <source>it cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne peut pas être relu</translation>
     </message>
     <message>
         <source>The logbook is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet n’est pas enregistré.</translation>
     </message>
     <message>
         <source>What you recorded last would be lost. Go back, and try again or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que vous avez enregistré en dernier serait perdu. Revenez, puis réessayez ou conservez le carnet ailleurs.</translation>
     </message>
     <message>
         <source>What you recorded last would be lost. Go back, and restore the last state or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que vous avez enregistré en dernier serait perdu. Revenez, puis restaurez le dernier état ou conservez le carnet ailleurs.</translation>
     </message>
     <message>
         <source>Quit Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter quand même</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Revenir</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>il est absent</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>le disque signale une erreur</translation>
     </message>
     <message>
         <source>Another program has changed the logbook file. This window still shows what it held before, and your next change overwrites the file. A copy of the other version is kept in “%1”; start Voltbok again to see it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme a modifié le fichier du carnet. Cette fenêtre affiche encore ce qu’il contenait auparavant, et votre prochaine modification écrasera le fichier. Une copie de l’autre version est conservée dans «&#xa0;%1&#xa0;»&#x202f;; redémarrez Voltbok pour la voir.</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Réessayer</translation>
     </message>
     <message>
         <source>Restore Last State</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurer le dernier état</translation>
     </message>
     <message>
         <source>Keep Elsewhere…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver ailleurs…</translation>
     </message>
     <message>
         <source>Nothing can be saved in “%1”: %2. See that the file can be written, or keep the logbook in another folder, before you record anything.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien ne peut être enregistré dans «&#xa0;%1&#xa0;»&#xa0;: %2. Veillez à ce que le fichier soit accessible en écriture, ou conservez le carnet dans un autre dossier, avant d’enregistrer quoi que ce soit.</translation>
     </message>
     <message>
         <source>The logbook is not saved in “%1”: %2. This window still shows everything. See that the file can be written, then try again; or keep the logbook in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet n’est pas enregistré dans «&#xa0;%1&#xa0;»&#xa0;: %2. Cette fenêtre affiche encore tout. Veillez à ce que le fichier soit accessible en écriture, puis réessayez&#x202f;; ou conservez le carnet dans un autre dossier.</translation>
     </message>
     <message>
         <source>Your last change could not be saved in “%1”: %2. File and window are as they were before. See that the file can be written, or keep the logbook in another folder; then enter the change again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre dernière modification n’a pas pu être enregistrée dans «&#xa0;%1&#xa0;»&#xa0;: %2. Le fichier et la fenêtre sont comme avant. Veillez à ce que le fichier soit accessible en écriture, ou conservez le carnet dans un autre dossier&#x202f;; puis saisissez de nouveau la modification.</translation>
     </message>
     <message>
         <source>The logbook could not be saved in “%1”: %2. This window shows less than you have recorded. Restore the last state, or keep it in another folder; then enter your last change again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet n’a pas pu être enregistré dans «&#xa0;%1&#xa0;»&#xa0;: %2. Cette fenêtre affiche moins que ce que vous avez enregistré. Restaurez le dernier état, ou conservez-le dans un autre dossier&#x202f;; puis saisissez de nouveau votre dernière modification.</translation>
     </message>
     <message>
         <source>it is not written to its end</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’est pas écrit jusqu’au bout</translation>
     </message>
     <message>
         <source>The logbook still cannot be saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet ne peut toujours pas être enregistré&#xa0;: %1.</translation>
     </message>
     <message>
         <source>there is no whole copy</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’y a pas de copie intacte</translation>
     </message>
     <message>
         <source>The last state cannot be restored: %1. Nothing was changed. Free some space, or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dernier état ne peut pas être restauré&#xa0;: %1. Rien n’a été modifié. Libérez de l’espace, ou conservez le carnet ailleurs.</translation>
     </message>
     <message>
         <source>The last state is restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dernier état est restauré.</translation>
     </message>
     <message>
         <source>The last state is restored. The file that was there is kept as “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dernier état est restauré. Le fichier qui s’y trouvait est conservé sous le nom «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Keep the Logbook in Another Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver le carnet dans un autre dossier</translation>
     </message>
     <message>
         <source>There is a logbook in “%1” already. Choose an empty folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a déjà un carnet dans «&#xa0;%1&#xa0;». Choisissez un dossier vide.</translation>
     </message>
     <message>
         <source>there is no whole state of it</source>
-        <translation type="unfinished"></translation>
+        <translation>il n’en existe pas d’état intact</translation>
     </message>
     <message>
         <source>The logbook cannot be kept in “%1”: %2. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet ne peut pas être conservé dans «&#xa0;%1&#xa0;»&#xa0;: %2. Choisissez un autre dossier.</translation>
     </message>
 </context>
 <context>
     <name>Host::SidePanel</name>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Aujourd’hui</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteries</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistiques</translation>
     </message>
     <message>
         <source>Side panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Panneau latéral</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus tard</translation>
     </message>
     <message>
         <source>The panel is about to read the logbook, which is long. Press here to go on without what is new.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le panneau s’apprête à lire le carnet, qui est long. Appuyez ici pour continuer sans les nouveautés.</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser</translation>
     </message>
     <message>
         <source>The panel does not show yet what is new. Press here to read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le panneau n’affiche pas encore les nouveautés. Appuyez ici pour les lire.</translation>
     </message>
 </context>
 <context>
     <name>Host::StatisticsModel</name>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mois</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutes</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Déchargé (mAh)</translation>
     </message>
 </context>
 <context>
     <name>Host::StatisticsTab</name>
     <message>
         <source>There is nothing to add up yet. Add a battery and a model first: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a encore rien à totaliser. Ajoutez d’abord une batterie et un modèle&#xa0;: appuyez sur le bouton du menu, puis sur Édition.</translation>
     </message>
     <message>
         <source>There is nothing to add up yet. Record your first flight: click the card of a charged battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a encore rien à totaliser. Enregistrez votre premier vol&#xa0;: cliquez sur la carte d’une batterie chargée.</translation>
     </message>
     <message>
         <source>&amp;From:</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;u&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;To:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Au&#xa0;:</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mois</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>Add up &amp;by:</source>
-        <translation type="unfinished"></translation>
+        <translation>Totaux pa&amp;r&#xa0;:</translation>
     </message>
     <message>
         <source>Add up by</source>
-        <translation type="unfinished"></translation>
+        <translation>Totaux par</translation>
     </message>
     <message>
         <source>Pl&amp;ot:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Graphique&#xa0;:</translation>
     </message>
     <message>
         <source>What is plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que montre le graphique</translation>
     </message>
     <message>
         <source>First day</source>
-        <translation type="unfinished"></translation>
+        <translation>Premier jour</translation>
     </message>
     <message>
         <source>Last day</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernier jour</translation>
     </message>
     <message>
         <source>%1 is limited</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: limité</translation>
     </message>
     <message>
         <source>Flights, added up</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols, totalisés</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The first day is after the last one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le premier jour est postérieur au dernier.</translation>
     </message>
     <message numerus="yes">
         <source>In all: %Ln flights, %1 minutes, %2 mAh.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>En tout&#xa0;: %Ln vol, %1 minutes, %2&#xa0;mAh.</numerusform>
+            <numerusform>En tout&#xa0;: %Ln vols, %1 minutes, %2&#xa0;mAh.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln flights without a time are not in the table.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln vol sans heure n’est pas dans le tableau.</numerusform>
+            <numerusform>%Ln vols sans heure ne sont pas dans le tableau.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln flights without a location are not in the table.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln vol sans lieu n’est pas dans le tableau.</numerusform>
+            <numerusform>%Ln vols sans lieu ne sont pas dans le tableau.</numerusform>
         </translation>
     </message>
 </context>
@@ -2308,1052 +2310,1052 @@ This logbook is kept in “%1”.</source>
     <name>Host::TableColumns</name>
     <message>
         <source>&amp;Sort by This Column</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trier selon cette colonne</translation>
     </message>
 </context>
 <context>
     <name>Host::TidyDialog</name>
     <message>
         <source>%1: %2, and again at %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: %2, et de nouveau à %3</translation>
     </message>
     <message>
         <source>Tidy Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Nettoyer</translation>
     </message>
     <message>
         <source>These flights stand &amp;twice, as a card leaves them that was clicked twice. The second one of each that is ticked is removed, with its discharge and the cycle of its battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces vols figurent en &amp;double, comme en laisse une carte sur laquelle on a cliqué deux fois. Le second de chaque paire cochée est retiré, avec sa décharge et le cycle de sa batterie.</translation>
     </message>
     <message>
         <source>Flights that stand twice</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols en double</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
 </context>
 <context>
     <name>Host::TodayTab</name>
     <message>
         <source>There is no battery yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas encore de batterie. Ajoutez la première&#xa0;: appuyez sur le bouton du menu, puis sur Édition.</translation>
     </message>
     <message>
         <source>Nothing to do today.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien à faire aujourd’hui.</translation>
     </message>
     <message>
         <source>What to do today. Click a line to see its battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>À faire aujourd’hui. Cliquez sur une ligne pour voir sa batterie.</translation>
     </message>
     <message>
         <source>What to do today</source>
-        <translation type="unfinished"></translation>
+        <translation>À faire aujourd’hui</translation>
     </message>
     <message>
         <source>Warning: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Alerte&#xa0;: %1</translation>
     </message>
     <message>
         <source>Notice: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Avis&#xa0;: %1</translation>
     </message>
     <message>
         <source>Show “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher «&#xa0;%1&#xa0;»</translation>
     </message>
 </context>
 <context>
     <name>Host::VersionsModel</name>
     <message>
         <source>Copy of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie du %1</translation>
     </message>
     <message>
         <source>%1 (damaged)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (endommagée)</translation>
     </message>
     <message>
         <source>%1 (cannot be read)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (illisible)</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteries</translation>
     </message>
     <message>
         <source>Models</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèles</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Décharges</translation>
     </message>
 </context>
 <context>
     <name>Import</name>
     <message>
         <source>doubtful: counter %1, current says %2</source>
-        <translation type="unfinished"></translation>
+        <translation>douteux&#xa0;: compteur %1, le courant indique %2</translation>
     </message>
     <message>
         <source>goes on with an earlier import</source>
-        <translation type="unfinished"></translation>
+        <translation>poursuit une importation précédente</translation>
     </message>
     <message>
         <source>a part of the discharge before</source>
-        <translation type="unfinished"></translation>
+        <translation>une partie de la décharge précédente</translation>
     </message>
     <message>
         <source>the radio&apos;s clock was never set</source>
-        <translation type="unfinished"></translation>
+        <translation>l’horloge de la radio n’a jamais été réglée</translation>
     </message>
     <message>
         <source>neither consumption nor current was measured</source>
-        <translation type="unfinished"></translation>
+        <translation>ni la consommation ni le courant n’ont été mesurés</translation>
     </message>
     <message>
         <source>shorter than 20 s</source>
-        <translation type="unfinished"></translation>
+        <translation>plus court que 20&#xa0;s</translation>
     </message>
     <message>
         <source>less than 2 % of the capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>moins de 2&#xa0;% de la capacité</translation>
     </message>
     <message>
         <source>you entered the values of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>vous avez saisi les valeurs du vol</translation>
     </message>
     <message>
         <source>the flight has no discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>le vol n’a pas de décharge</translation>
     </message>
     <message>
         <source>the flight has several batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>le vol a plusieurs batteries</translation>
     </message>
     <message>
         <source>another log tells the same</source>
-        <translation type="unfinished"></translation>
+        <translation>un autre journal indique la même chose</translation>
     </message>
     <message>
         <source>parts of it are two flights of the logbook already</source>
-        <translation type="unfinished"></translation>
+        <translation>des parties forment déjà deux vols du carnet</translation>
     </message>
     <message>
         <source>the logbook takes %1 mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>le carnet admet %1&#xa0;mAh</translation>
     </message>
     <message>
         <source>the logbook takes %1 A</source>
-        <translation type="unfinished"></translation>
+        <translation>le carnet admet %1&#xa0;A</translation>
     </message>
     <message>
         <source>the logbook does not have this model</source>
-        <translation type="unfinished"></translation>
+        <translation>le carnet ne contient pas ce modèle</translation>
     </message>
     <message>
         <source>no battery is known for it</source>
-        <translation type="unfinished"></translation>
+        <translation>on ne lui connaît aucune batterie</translation>
     </message>
     <message>
         <source>fills the flight of %1 with %2</source>
-        <translation type="unfinished"></translation>
+        <translation>complète le vol de %1 avec %2</translation>
     </message>
     <message>
         <source>new</source>
-        <translation type="unfinished"></translation>
+        <translation>nouveau</translation>
     </message>
     <message>
         <source>new, with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nouveau, avec %1</translation>
     </message>
     <message>
         <source>known</source>
-        <translation type="unfinished"></translation>
+        <translation>connu</translation>
     </message>
     <message>
         <source>bench test</source>
-        <translation type="unfinished"></translation>
+        <translation>essai au banc</translation>
     </message>
 </context>
 <context>
     <name>LogReading</name>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne peut pas être lu&#xa0;: %1.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un fichier ordinaire.</translation>
     </message>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lecture a été annulée.</translation>
     </message>
 </context>
 <context>
     <name>Losses</name>
     <message>
         <source>a comment in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>un commentaire à la ligne %1</translation>
     </message>
     <message>
         <source>an instruction to other programs in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>une instruction pour d’autres programmes à la ligne %1</translation>
     </message>
     <message>
         <source>everything from line %1 on</source>
-        <translation type="unfinished"></translation>
+        <translation>tout à partir de la ligne %1</translation>
     </message>
     <message>
         <source>model “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>modèle «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>battery “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>batterie «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>the text “%1” of “%2” in line %3</source>
-        <translation type="unfinished"></translation>
+        <translation>le texte «&#xa0;%1&#xa0;» de «&#xa0;%2&#xa0;» à la ligne %3</translation>
     </message>
     <message>
         <source>the element “%1” in line %2</source>
-        <translation type="unfinished"></translation>
+        <translation>l’élément «&#xa0;%1&#xa0;» à la ligne %2</translation>
     </message>
     <message>
         <source>the attribute “%1” (%2) of “%3” in line %4</source>
-        <translation type="unfinished"></translation>
+        <translation>l’attribut «&#xa0;%1&#xa0;» (%2) de «&#xa0;%3&#xa0;» à la ligne %4</translation>
     </message>
 </context>
 <context>
     <name>MeasuredFile</name>
     <message>
         <source>it is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>il est endommagé</translation>
     </message>
     <message>
         <source>a later version of Voltbok wrote it</source>
-        <translation type="unfinished"></translation>
+        <translation>une version plus récente de Voltbok l’a écrit</translation>
     </message>
 </context>
 <context>
     <name>MeasuredStore</name>
     <message>
         <source>The measured values in “%1” are not used: %2. The file is left as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs mesurées de «&#xa0;%1&#xa0;» ne sont pas utilisées&#xa0;: %2. Le fichier est laissé tel quel.</translation>
     </message>
     <message>
         <source>The measured values in “%1” cannot be read: %2. The logbook itself is not concerned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les valeurs mesurées de «&#xa0;%1&#xa0;» ne peuvent pas être lues&#xa0;: %2. Le carnet lui-même n’est pas concerné.</translation>
     </message>
 </context>
 <context>
     <name>Opening</name>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 et %n de plus</numerusform>
+            <numerusform>%1 et %n de plus</numerusform>
         </translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Take the Logbook Over</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre le carnet</translation>
     </message>
     <message>
         <source>The logbook file “%1” is missing, but earlier versions of it are there. Nothing was changed. Restore one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier du carnet «&#xa0;%1&#xa0;» est absent, mais des versions antérieures existent. Rien n’a été modifié. Restaurez l’une d’elles.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is damaged: %2. Nothing was changed. Restore one of its copies, or start with an empty logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier du carnet «&#xa0;%1&#xa0;» est endommagé&#xa0;: %2. Rien n’a été modifié. Restaurez l’une de ses copies, ou commencez avec un carnet vide.</translation>
     </message>
     <message>
         <source>The logbook file “%1” cannot be read: %2. Nothing was changed. Put the right file in its place, or choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier du carnet «&#xa0;%1&#xa0;» ne peut pas être lu&#xa0;: %2. Rien n’a été modifié. Mettez le bon fichier à sa place, ou choisissez un autre dossier.</translation>
     </message>
     <message>
         <source>The version that you chose cannot be read any more. Nothing was changed. Start the program again, and choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La version que vous avez choisie ne peut plus être lue. Rien n’a été modifié. Redémarrez le programme et choisissez-en une autre.</translation>
     </message>
     <message>
         <source>Nothing could be put in the place of “%1”: %2. All is as it was. Free some space, and start the program again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a pu être mis à la place de «&#xa0;%1&#xa0;»&#xa0;: %2. Tout est comme avant. Libérez de l’espace, puis redémarrez le programme.</translation>
     </message>
     <message>
         <source>The logbook file “%1” cannot be checked before it is opened: %2. Nothing was changed. Free some space, or see that the program can write in “%3”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier du carnet «&#xa0;%1&#xa0;» ne peut pas être vérifié avant son ouverture&#xa0;: %2. Rien n’a été modifié. Libérez de l’espace, ou veillez à ce que le programme puisse écrire dans «&#xa0;%3&#xa0;».</translation>
     </message>
     <message>
         <source>The logbook file “%1” holds what this version of Voltbok would drop when it saves, and no copy of it can be put aside: %2. Nothing was changed. Free some space, and start the program again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier du carnet «&#xa0;%1&#xa0;» contient des éléments que cette version de Voltbok perdrait à l’enregistrement, et aucune copie ne peut en être mise de côté&#xa0;: %2. Rien n’a été modifié. Libérez de l’espace, puis redémarrez le programme.</translation>
     </message>
     <message>
         <source>The logbook file holds what this version of Voltbok does not understand, and drops when it saves: %1. The file as it is now is kept as “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier du carnet contient des éléments que cette version de Voltbok ne comprend pas et qu’elle perd à l’enregistrement&#xa0;: %1. Le fichier dans son état actuel est conservé sous le nom «&#xa0;%2&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>Questions</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>Recovery</name>
     <message>
         <source>it is missing, and the folder of its copies cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>il est absent, et le dossier de ses copies ne peut pas être lu</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>il est absent</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est pas un fichier ordinaire</translation>
     </message>
 </context>
 <context>
     <name>RecoveryQuestion</name>
     <message>
         <source>The logbook file “%1” is missing, but earlier versions of it are there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier du carnet «&#xa0;%1&#xa0;» est absent, mais des versions antérieures existent.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is damaged: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier du carnet «&#xa0;%1&#xa0;» est endommagé&#xa0;: %2.</translation>
     </message>
     <message>
         <source>If you keep it on a disk or in a synchronised folder that is not there now, quit and bring it back first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si vous le conservez sur un disque ou dans un dossier synchronisé qui n’est pas là en ce moment, quittez et rétablissez-en d’abord l’accès.</translation>
     </message>
     <message>
         <source>Quitting leaves the damaged file as it is. Otherwise it is kept in the same folder, under a name that begins with “voltbok-broken-”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter laisse le fichier endommagé tel quel. Sinon, il est conservé dans le même dossier, sous un nom qui commence par «&#xa0;voltbok-broken-&#xa0;».</translation>
     </message>
     <message>
         <source>The copies in “%1” cannot be listed just now. Quit and start the program again before you choose anything else.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les copies dans «&#xa0;%1&#xa0;» ne peuvent pas être listées pour le moment. Quittez et redémarrez le programme avant tout autre choix.</translation>
     </message>
     <message>
         <source>No whole copy of it was found. Quit and look for one elsewhere before you start with an empty logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune copie intacte n’en a été trouvée. Quittez et cherchez-en une ailleurs avant de commencer avec un carnet vide.</translation>
     </message>
     <message>
         <source>No whole copy of it was found. Choose what to go on with only after a look at what it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune copie intacte n’en a été trouvée. Regardez ce qu’une version contient avant de la choisir pour continuer.</translation>
     </message>
     <message>
         <source>Choose the version to go on with; the newest is on top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez la version avec laquelle continuer&#x202f;; la plus récente est en haut.</translation>
     </message>
     <message>
         <source>What can still be read of the damaged file</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui peut encore être lu du fichier endommagé</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Start with an Empty Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer un carnet vide</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurer</translation>
     </message>
 </context>
 <context>
     <name>Startup</name>
     <message>
         <source>A new logbook begins in “%1”: there was none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nouveau carnet commence dans «&#xa0;%1&#xa0;»&#xa0;: il n’y en avait pas.</translation>
     </message>
     <message>
         <source>The logbook is checked…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification du carnet…</translation>
     </message>
     <message>
         <source>The picture “%1” was not written: there is a file of that name, and it is no picture. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image «&#xa0;%1&#xa0;» n’a pas été écrite&#xa0;: un fichier de ce nom existe, et ce n’est pas une image. Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>The picture “%1” cannot be written: %2. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image «&#xa0;%1&#xa0;» ne peut pas être écrite&#xa0;: %2. Choisissez un autre nom.</translation>
     </message>
 </context>
 <context>
     <name>StatisticsChart</name>
     <message>
         <source>(no name)</source>
-        <translation type="unfinished"></translation>
+        <translation>(sans nom)</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutes</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Déchargé (mAh)</translation>
     </message>
     <message>
         <source>%1 by month</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 par mois</translation>
     </message>
     <message numerus="yes">
         <source>%1 by month, the newest %n months</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 par mois, %n mois le plus récent</numerusform>
+            <numerusform>%1 par mois, les %n mois les plus récents</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 by model</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 par modèle</translation>
     </message>
     <message numerus="yes">
         <source>%1 by model, the %n with the most</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 par modèle, %n modèle en tête</numerusform>
+            <numerusform>%1 par modèle, les %n modèles en tête</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 by location</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 par lieu</translation>
     </message>
     <message numerus="yes">
         <source>%1 by location, the %n with the most</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 par lieu, %n lieu en tête</numerusform>
+            <numerusform>%1 par lieu, les %n lieux en tête</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
 </context>
 <context>
     <name>StorageFolder</name>
     <message>
         <source>A logbook cannot be kept in “%1”: “%2” is not a directory. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un carnet ne peut pas être conservé dans «&#xa0;%1&#xa0;»&#xa0;: «&#xa0;%2&#xa0;» n’est pas un dossier. Choisissez un autre dossier.</translation>
     </message>
     <message>
         <source>A logbook cannot be kept in “%1”: there is no permission to read and write in “%2”. Choose another folder, or ask its owner for access.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un carnet ne peut pas être conservé dans «&#xa0;%1&#xa0;»&#xa0;: vous n’avez pas le droit de lire et d’écrire dans «&#xa0;%2&#xa0;». Choisissez un autre dossier, ou demandez l’accès à son propriétaire.</translation>
     </message>
 </context>
 <context>
     <name>TablePrinting</name>
     <message>
         <source>The table was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tableau n’a pas été imprimé&#xa0;: l’imprimante ou son fichier n’est pas accessible en écriture. Choisissez une autre destination.</translation>
     </message>
 </context>
 <context>
     <name>VoltbokGui</name>
     <message>
         <source>MainWindow</source>
-        <translation type="unfinished"></translation>
+        <translation>MainWindow</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Accueil</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteries</translation>
     </message>
     <message>
         <source>Model whose batteries are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle dont les batteries sont affichées</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle</translation>
     </message>
     <message>
         <source>Welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Bienvenue</translation>
     </message>
     <message>
         <source>Please go to Options and add new model and battery!</source>
-        <translation type="unfinished"></translation>
+        <translation>Allez dans Options et ajoutez un modèle et une batterie&#x202f;!</translation>
     </message>
     <message>
         <source>Battery data</source>
-        <translation type="unfinished"></translation>
+        <translation>Données de batterie</translation>
     </message>
     <message>
         <source>Battery whose discharges are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie dont les décharges sont affichées</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>Capacity discharged, in mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacité déchargée, en mAh</translation>
     </message>
     <message>
         <source>Capacity in mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacité en mAh</translation>
     </message>
     <message>
         <source>Maximum current, in A</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant maximal, en A</translation>
     </message>
     <message>
         <source>Maximum current in A</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant maximal en A</translation>
     </message>
     <message>
         <source>Maximum current, in multiples of the capacity (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant maximal, en multiples de la capacité (C)</translation>
     </message>
     <message>
         <source>Maximum current in C</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant maximal en C</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>Add a location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un lieu</translation>
     </message>
     <message>
         <source>Add a battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une batterie</translation>
     </message>
     <message>
         <source>Add a model</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un modèle</translation>
     </message>
     <message>
         <source>Modify</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier</translation>
     </message>
     <message>
         <source>Modify the battery chosen below. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier la batterie choisie ci-dessous. Tant qu’il n’y en a pas, sans effet.</translation>
     </message>
     <message>
         <source>Modify the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier la batterie</translation>
     </message>
     <message>
         <source>Modify the model chosen below. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le modèle choisi ci-dessous. Tant qu’il n’y en a pas, sans effet.</translation>
     </message>
     <message>
         <source>Modify the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le modèle</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Delete a location</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer un lieu</translation>
     </message>
     <message>
         <source>Delete a battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer une batterie</translation>
     </message>
     <message>
         <source>Delete a model</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer un modèle</translation>
     </message>
     <message>
         <source>Model to which batteries are assigned</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle auquel des batteries sont attribuées</translation>
     </message>
     <message>
         <source>Battery to assign to the model, or to remove from it</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie à attribuer au modèle ou à en retirer</translation>
     </message>
     <message>
         <source>Add the battery to the model. While there is no model, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter la batterie au modèle. Tant qu’il n’y a pas de modèle, sans effet.</translation>
     </message>
     <message>
         <source>Add the battery to the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter la batterie au modèle</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Remove the battery from the model. While there is no model, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer la batterie du modèle. Tant qu’il n’y a pas de modèle, sans effet.</translation>
     </message>
     <message>
         <source>Remove the battery from the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer la batterie du modèle</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Carnet</translation>
     </message>
     <message>
         <source>Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphique</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Édition</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode</translation>
     </message>
     <message>
         <source>Data capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Relevé des données</translation>
     </message>
     <message>
         <source>Quick</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapide</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished"></translation>
+        <translation>Complet</translation>
     </message>
     <message>
         <source>In Quick mode you will not be asked to enter any data when battery was discharged!</source>
-        <translation type="unfinished"></translation>
+        <translation>En mode Rapide, aucune donnée ne vous sera demandée lorsqu’une batterie a été déchargée&#x202f;!</translation>
     </message>
     <message>
         <source>Add location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un lieu</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Add battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une batterie</translation>
     </message>
     <message>
         <source>MyBattery</source>
-        <translation type="unfinished"></translation>
+        <translation>MaBatterie</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacité (mAh)</translation>
     </message>
     <message>
         <source>00000</source>
-        <translation type="unfinished"></translation>
+        <translation>00000</translation>
     </message>
     <message>
         <source>1000</source>
-        <translation type="unfinished"></translation>
+        <translation>1000</translation>
     </message>
     <message>
         <source>Discharge rate (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux de décharge (C)</translation>
     </message>
     <message>
         <source>000</source>
-        <translation type="unfinished"></translation>
+        <translation>000</translation>
     </message>
     <message>
         <source>30</source>
-        <translation type="unfinished"></translation>
+        <translation>30</translation>
     </message>
     <message>
         <source>Charge  rate (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux de charge (C)</translation>
     </message>
     <message>
         <source>0.0</source>
-        <translation type="unfinished"></translation>
+        <translation>0.0</translation>
     </message>
     <message>
         <source>2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>2.0</translation>
     </message>
     <message>
         <source>Cycles already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Cycles déjà effectués</translation>
     </message>
     <message>
         <source>0000</source>
-        <translation type="unfinished"></translation>
+        <translation>0000</translation>
     </message>
     <message>
         <source>0</source>
-        <translation type="unfinished"></translation>
+        <translation>0</translation>
     </message>
     <message>
         <source>Date of purchase (Y/M/D)</source>
-        <translation type="unfinished"></translation>
+        <translation>Date d’achat (A/M/J)</translation>
     </message>
     <message>
         <source>2020-01-01</source>
-        <translation type="unfinished"></translation>
+        <translation>2020-01-01</translation>
     </message>
     <message>
         <source>Add model</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un modèle</translation>
     </message>
     <message>
         <source>MyHeli</source>
-        <translation type="unfinished"></translation>
+        <translation>MonHélico</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Heli</source>
-        <translation type="unfinished"></translation>
+        <translation>Hélico</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Poids</translation>
     </message>
     <message>
         <source>1.00</source>
-        <translation type="unfinished"></translation>
+        <translation>1.00</translation>
     </message>
     <message>
         <source>In the unit of your choice</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans l’unité de votre choix</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>700</source>
-        <translation type="unfinished"></translation>
+        <translation>700</translation>
     </message>
     <message>
         <source>Flights already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Vols déjà effectués</translation>
     </message>
     <message>
         <source>Additional notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes complémentaires</translation>
     </message>
     <message>
         <source>Delete battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer une batterie</translation>
     </message>
     <message>
         <source>Battery to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie à supprimer</translation>
     </message>
     <message>
         <source>Really?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vraiment&#x202f;?</translation>
     </message>
     <message>
         <source>Delete the battery. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer la batterie. Tant qu’il n’y en a pas, sans effet.</translation>
     </message>
     <message>
         <source>Delete model</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer un modèle</translation>
     </message>
     <message>
         <source>Model to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle à supprimer</translation>
     </message>
     <message>
         <source>Delete the model. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le modèle. Tant qu’il n’y en a pas, sans effet.</translation>
     </message>
     <message>
         <source>Delete location</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer un lieu</translation>
     </message>
     <message>
         <source>Location to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu à supprimer</translation>
     </message>
     <message>
         <source>Delete the location. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le lieu. Tant qu’il n’y en a pas, sans effet.</translation>
     </message>
     <message>
         <source>Log book</source>
-        <translation type="unfinished"></translation>
+        <translation>Carnet</translation>
     </message>
     <message>
         <source>Model whose flights are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle dont les vols sont affichés</translation>
     </message>
     <message>
         <source>&lt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;</translation>
     </message>
     <message>
         <source>Earlier flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol précédent</translation>
     </message>
     <message>
         <source>&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&gt;</translation>
     </message>
     <message>
         <source>Later flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol suivant</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Ambient temp</source>
-        <translation type="unfinished"></translation>
+        <translation>Temp. ambiante</translation>
     </message>
     <message>
         <source>Maximum current (A)</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant maximal (A)</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes</translation>
     </message>
     <message>
         <source>Battery discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie déchargée</translation>
     </message>
     <message>
         <source>Year-month-day</source>
-        <translation type="unfinished"></translation>
+        <translation>Année-mois-jour</translation>
     </message>
     <message>
         <source>Date, year-month-day</source>
-        <translation type="unfinished"></translation>
+        <translation>Date, année-mois-jour</translation>
     </message>
     <message>
         <source>Hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Heures:minutes:secondes</translation>
     </message>
     <message>
         <source>Time, hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure, heures:minutes:secondes</translation>
     </message>
     <message>
         <source>Flight log</source>
-        <translation type="unfinished"></translation>
+        <translation>Données du vol</translation>
     </message>
     <message>
         <source>Location of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu du vol</translation>
     </message>
     <message>
         <source>Duration, hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée, heures:minutes:secondes</translation>
     </message>
     <message>
         <source>In °C</source>
-        <translation type="unfinished"></translation>
+        <translation>En °C</translation>
     </message>
     <message>
         <source>Ambient temperature in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>Température ambiante en °C</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Modify model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier le modèle</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre à jour</translation>
     </message>
     <message>
         <source>Modify battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier la batterie</translation>
     </message>
     <message>
         <source>Battery age: %1 years</source>
-        <translation type="unfinished"></translation>
+        <translation>Âge de la batterie&#xa0;: %1 ans</translation>
     </message>
     <message>
         <source>Chart of %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphique de %1 en %2</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Oui</translation>
     </message>
 </context>
 <context>
     <name>WholeFile</name>
     <message>
         <source>it brings a document type of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>il déclare son propre type de document</translation>
     </message>
     <message>
         <source>it is not a logbook: its root element is “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est pas un carnet&#xa0;: son élément racine est «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>il est vide</translation>
     </message>
     <message>
         <source>it contains zero bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>il contient des octets nuls</translation>
     </message>
     <message>
         <source>line %1 cannot be understood (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>la ligne %1 est incompréhensible (%2)</translation>
     </message>
     <message>
         <source>it is a link to “%1”, which does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est un lien vers «&#xa0;%1&#xa0;», qui n’existe pas</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est un dossier</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>it is larger than %1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>il dépasse %1&#xa0;Mo</translation>
     </message>
     <message>
         <source>it was written, but reads differently</source>
-        <translation type="unfinished"></translation>
+        <translation>il a été écrit, mais sa relecture diffère</translation>
     </message>
     <message>
         <source>permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>accès refusé</translation>
     </message>
     <message>
         <source>operation not permitted</source>
-        <translation type="unfinished"></translation>
+        <translation>opération non permise</translation>
     </message>
     <message>
         <source>the disk is read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>le disque est en lecture seule</translation>
     </message>
     <message>
         <source>no space left on device</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne reste plus d’espace sur le périphérique</translation>
     </message>
     <message>
         <source>no space left within your quota</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne reste plus d’espace dans votre quota</translation>
     </message>
     <message>
         <source>the file would be too large</source>
-        <translation type="unfinished"></translation>
+        <translation>le fichier serait trop grand</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>le disque signale une erreur</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>ce fichier n’existe pas</translation>
     </message>
     <message>
         <source>its name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>son nom est trop long</translation>
     </message>
     <message>
         <source>too many files are open</source>
-        <translation type="unfinished"></translation>
+        <translation>trop de fichiers sont ouverts</translation>
     </message>
     <message>
         <source>no space is left on the disk</source>
-        <translation type="unfinished"></translation>
+        <translation>il ne reste plus d’espace sur le disque</translation>
     </message>
     <message>
         <source>there is no permission to write in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>vous n’avez pas le droit d’écrire dans son dossier</translation>
     </message>
 </context>
 <context>
     <name>Xlsx</name>
     <message>
         <source>there is not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>la mémoire est insuffisante</translation>
     </message>
     <message>
         <source>a sheet has no more than 1,048,576 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>une feuille n’a pas plus de 1&#x202f;048&#x202f;576 lignes</translation>
     </message>
     <message>
         <source>this build of the program cannot write workbooks</source>
-        <translation type="unfinished"></translation>
+        <translation>cette version compilée du programme ne sait pas écrire de classeurs</translation>
     </message>
 </context>
 </TS>
