@@ -5,147 +5,147 @@
     <name>Advice</name>
     <message numerus="yes">
         <source>Bring “%1” to storage charge: it has been charged, and not used, for %n days.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Ponga “%1” en carga de almacenamiento: lleva %n día cargada y sin usar.</numerusform>
+            <numerusform>Ponga “%1” en carga de almacenamiento: lleva %n días cargada y sin usar.</numerusform>
         </translation>
     </message>
     <message>
         <source>Land earlier with “%1”: one of its last discharges took %2 of its capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aterrice antes con “%1”: una de sus últimas descargas consumió el %2 de su capacidad.</translation>
     </message>
     <message>
         <source>Load “%1” less: one of its last discharges reached %2 C, and its label allows %3 C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Exija menos a “%1”: una de sus últimas descargas llegó a %2&#xa0;C, y su etiqueta permite %3&#xa0;C.</translation>
     </message>
     <message>
         <source>Warm “%1” before you fly: its last flight was at %2 °C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Caliente “%1” antes de volar: su último vuelo fue a %2&#xa0;°C.</translation>
     </message>
     <message numerus="yes">
         <source>Check the voltage of “%1”: it has not been used for %n days.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Compruebe la tensión de “%1”: lleva %n día sin usar.</numerusform>
+            <numerusform>Compruebe la tensión de “%1”: lleva %n días sin usar.</numerusform>
         </translation>
     </message>
     <message>
         <source>Watch how “%1” performs: it was bought on %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vigile el rendimiento de “%1”: se compró el %2.</translation>
     </message>
     <message>
         <source>Set the timer of “%1” to %2 for “%3”: its flights on this battery show how much it needs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponga el temporizador de “%1” en %2 para “%3”: sus vuelos con esta batería muestran cuánto necesita.</translation>
     </message>
 </context>
 <context>
     <name>AdviceLimits</name>
     <message>
         <source>Charged and not used, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargada y sin usar, aviso tras</translation>
     </message>
     <message numerus="yes">
         <source> days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> día</numerusform>
+            <numerusform> días</numerusform>
         </translation>
     </message>
     <message>
         <source>Charged and not used, warning after</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargada y sin usar, alerta tras</translation>
     </message>
     <message>
         <source>Deep discharge, notice over</source>
-        <translation type="unfinished"></translation>
+        <translation>Descarga profunda, aviso sobre el</translation>
     </message>
     <message numerus="yes">
         <source> % of the capacity</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> % de la capacidad</numerusform>
+            <numerusform> % de la capacidad</numerusform>
         </translation>
     </message>
     <message>
         <source>Deep discharges, warning over</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargas profundas, alerta sobre el</translation>
     </message>
     <message>
         <source>Deep discharges, warning from</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargas profundas, alerta desde</translation>
     </message>
     <message numerus="yes">
         <source> of them</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> de ellas</numerusform>
+            <numerusform> de ellas</numerusform>
         </translation>
     </message>
     <message>
         <source>Newest discharges that are looked at</source>
-        <translation type="unfinished"></translation>
+        <translation>Últimas descargas que se examinan</translation>
     </message>
     <message numerus="yes">
         <source> discharges</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> descarga</numerusform>
+            <numerusform> descargas</numerusform>
         </translation>
     </message>
     <message>
         <source>Cold flight, below</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo con frío, por debajo de</translation>
     </message>
     <message numerus="yes">
         <source> °C</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> °C</numerusform>
+            <numerusform> °C</numerusform>
         </translation>
     </message>
     <message>
         <source>Cold flight, within the last</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo con frío, hace menos de</translation>
     </message>
     <message>
         <source>Not used, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin usar, aviso tras</translation>
     </message>
     <message>
         <source>Old battery, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería vieja, aviso tras</translation>
     </message>
     <message numerus="yes">
         <source> years</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> año</numerusform>
+            <numerusform> años</numerusform>
         </translation>
     </message>
     <message>
         <source>Timer, for a discharge of</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporizador, para una descarga del</translation>
     </message>
     <message>
         <source>Timer, from so many flights on</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporizador, a partir de</translation>
     </message>
     <message numerus="yes">
         <source> flights</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> vuelo</numerusform>
+            <numerusform> vuelos</numerusform>
         </translation>
     </message>
     <message>
         <source>Timer, rounded down to</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporizador, redondeo a la baja a</translation>
     </message>
     <message numerus="yes">
         <source> seconds</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> segundo</numerusform>
+            <numerusform> segundos</numerusform>
         </translation>
     </message>
 </context>
@@ -153,90 +153,90 @@
     <name>BackupKeeper</name>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. Rename or remove it; the program tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede guardar ninguna copia del libro en “%1”: %2. Cambie el nombre de este elemento o elimínelo; el programa vuelve a intentarlo por sí solo.</translation>
     </message>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. Free some space; the program tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede guardar ninguna copia del libro en “%1”: %2. Libere espacio; el programa vuelve a intentarlo por sí solo.</translation>
     </message>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. See that the program can write there; it tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede guardar ninguna copia del libro en “%1”: %2. Procure que el programa pueda escribir ahí; vuelve a intentarlo por sí solo.</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta</translation>
     </message>
 </context>
 <context>
     <name>Backups</name>
     <message>
         <source>it is a link that leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>es un enlace que no lleva a ninguna parte</translation>
     </message>
     <message>
         <source>it is not a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>no es una carpeta</translation>
     </message>
     <message>
         <source>the copies that are there cannot be listed</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede obtener la lista de las copias que hay</translation>
     </message>
 </context>
 <context>
     <name>BatteryChart</name>
     <message>
         <source>Capacity, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad, %1</translation>
     </message>
     <message>
         <source>Permitted by the rating, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitido por la etiqueta, %1</translation>
     </message>
     <message>
         <source>%1 (%2 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 %)</translation>
     </message>
     <message>
         <source>Capacity used</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad usada</translation>
     </message>
     <message>
         <source>Maximum current</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriente máxima</translation>
     </message>
     <message>
         <source>Highest load</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasa C máxima</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>A</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>C</source>
-        <translation type="unfinished"></translation>
+        <translation>C</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2: %Ln discharges from %3 to %4, %5 to %6.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 de %2: %Ln descarga del %3 al %4, de %5 a %6.</numerusform>
+            <numerusform>%1 de %2: %Ln descargas del %3 al %4, de %5 a %6.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln discharges without a time are in the table alone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln descarga sin hora solo está en la tabla.</numerusform>
+            <numerusform>%Ln descargas sin hora solo están en la tabla.</numerusform>
         </translation>
     </message>
 </context>
@@ -244,1382 +244,1382 @@
     <name>BatteryWidget</name>
     <message>
         <source>BatteryWidget</source>
-        <translation type="unfinished"></translation>
+        <translation>BatteryWidget</translation>
     </message>
     <message>
         <source>Last use:</source>
-        <translation type="unfinished"></translation>
+        <translation>Último uso:</translation>
     </message>
     <message>
         <source>Discharged:</source>
-        <translation type="unfinished"></translation>
+        <translation>Descarga:</translation>
     </message>
     <message>
         <source>Max. Current:</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriente máx.:</translation>
     </message>
     <message>
         <source>Cycles:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciclos:</translation>
     </message>
     <message>
         <source>Charged</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargada</translation>
     </message>
     <message>
         <source>Discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargada</translation>
     </message>
     <message>
         <source>%1: charged; press when discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: cargada; pulse cuando esté descargada</translation>
     </message>
     <message>
         <source>%1: discharged; press when charged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: descargada; pulse cuando esté cargada</translation>
     </message>
 </context>
 <context>
     <name>CatalogueFile</name>
     <message>
         <source>the disk took only a part of it</source>
-        <translation type="unfinished"></translation>
+        <translation>el disco solo aceptó una parte</translation>
     </message>
 </context>
 <context>
     <name>Changes</name>
     <message>
         <source>Battery %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería %1 renombrada</translation>
     </message>
     <message>
         <source>Charged %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería %1 cargada</translation>
     </message>
     <message>
         <source>Discharged %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería %1 descargada</translation>
     </message>
     <message>
         <source>Battery %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería %1 modificada</translation>
     </message>
     <message>
         <source>Model %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo %1 renombrado</translation>
     </message>
     <message>
         <source>Batteries of %1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Baterías de %1 modificadas</translation>
     </message>
     <message>
         <source>Flight of %1 recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo de %1 registrado</translation>
     </message>
     <message>
         <source>Flight of %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo de %1 eliminado</translation>
     </message>
     <message>
         <source>Flight of %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo de %1 modificado</translation>
     </message>
     <message>
         <source>Model %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo %1 modificado</translation>
     </message>
     <message>
         <source>Battery %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería %1 añadida</translation>
     </message>
     <message>
         <source>Battery %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería %1 eliminada</translation>
     </message>
     <message>
         <source>Model %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo %1 añadido</translation>
     </message>
     <message>
         <source>Model %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo %1 eliminado</translation>
     </message>
     <message>
         <source>Location %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar %1 añadido</translation>
     </message>
     <message>
         <source>Location %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar %1 eliminado</translation>
     </message>
     <message>
         <source>Change of the logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio del libro</translation>
     </message>
 </context>
 <context>
     <name>DateMark</name>
     <message>
         <source>Not a valid date: no date will be stored</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha no válida: no se guardará ninguna fecha</translation>
     </message>
 </context>
 <context>
     <name>Demo</name>
     <message>
         <source>The sample logbook “%1” cannot be written: %2. Free some space, or check the rights of its folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir el libro de ejemplo “%1”: %2. Libere espacio o revise los permisos de su carpeta.</translation>
     </message>
 </context>
 <context>
     <name>Edits</name>
     <message>
         <source>There is no such time: the clock leaves it out, as it does where summer time begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esa hora no existe: el reloj se la salta, como ocurre al empezar el horario de verano.</translation>
     </message>
     <message>
         <source>The year must be from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El año debe estar entre %1 y %2.</translation>
     </message>
     <message>
         <source>The temperature must be from %1 to %2 °C.</source>
-        <translation type="unfinished"></translation>
+        <translation>La temperatura debe estar entre %1 y %2&#xa0;°C.</translation>
     </message>
     <message>
         <source>The duration must be less than 24 hours.</source>
-        <translation type="unfinished"></translation>
+        <translation>La duración debe ser inferior a 24 horas.</translation>
     </message>
     <message>
         <source>The discharge must be from 0 to %1 mAh.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descarga debe estar entre 0 y %1&#xa0;mAh.</translation>
     </message>
     <message>
         <source>The current must be from 0 to %1 A.</source>
-        <translation type="unfinished"></translation>
+        <translation>La corriente debe estar entre 0 y %1&#xa0;A.</translation>
     </message>
     <message>
         <source>The text holds a control character, or half a character, which the logbook file cannot hold. Leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>El texto contiene un carácter de control o medio carácter, que el archivo del libro no admite. Quítelo.</translation>
     </message>
     <message>
         <source>The flight of %1 has a discharge of the battery “%2” already.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vuelo del %1 ya tiene una descarga de la batería “%2”.</translation>
     </message>
     <message>
         <source>None of these flights has a discharge of the battery “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno de estos vuelos tiene una descarga de la batería “%1”.</translation>
     </message>
     <message>
         <source>The name must not be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre no debe estar vacío.</translation>
     </message>
     <message>
         <source>There is “%1” already. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” ya existe. Elija otro nombre.</translation>
     </message>
 </context>
 <context>
     <name>ExportFormats</name>
     <message>
         <source>Workbook for spreadsheets (XLSX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de hoja de cálculo (XLSX)</translation>
     </message>
     <message>
         <source>Tables for your spreadsheet (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablas para su hoja de cálculo (CSV)</translation>
     </message>
     <message>
         <source>Tables for other programs (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablas para otros programas (CSV)</translation>
     </message>
     <message>
         <source>Everything for scripts (JSON)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo para scripts (JSON)</translation>
     </message>
     <message>
         <source>One file with five sheets, with real numbers and dates. The best choice for LibreOffice, Excel and other spreadsheets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un solo archivo con cinco hojas, con números y fechas auténticos. La mejor opción para LibreOffice, Excel y otras hojas de cálculo.</translation>
     </message>
     <message>
         <source>Five files in a folder, with the decimal sign of your country. A text that looks like a formula gets an apostrophe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cinco archivos en una carpeta, con el signo decimal de su país. Los textos que parecen fórmulas llevan un apóstrofo.</translation>
     </message>
     <message>
         <source>Five files in a folder, the same on every computer, for databases and other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cinco archivos en una carpeta, iguales en todos los ordenadores, para bases de datos y otros programas.</translation>
     </message>
     <message>
         <source>One file that holds everything with its relations, for programs of your own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un solo archivo que lo contiene todo con sus relaciones, para programas propios.</translation>
     </message>
 </context>
 <context>
     <name>Exporting</name>
     <message>
         <source>“%1” cannot be put in its place: %2. Export again.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” no se puede poner en su sitio: %2. Vuelva a exportar.</translation>
     </message>
     <message>
         <source>“%1” cannot be written: %2. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” no se puede escribir: %2. No se ha exportado nada.</translation>
     </message>
     <message>
         <source>This build of Voltbok cannot write XLSX. Choose csv-local for your spreadsheet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta compilación de Voltbok no puede escribir XLSX. Elija csv-local para su hoja de cálculo.</translation>
     </message>
     <message>
         <source>“%1” exists already. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” ya existe. No se ha exportado nada.</translation>
     </message>
     <message>
         <source>“%1” is there already, and is no file that could be replaced. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” ya está ahí y no es un archivo que se pueda reemplazar. No se ha exportado nada.</translation>
     </message>
     <message>
         <source>“%1” is a logbook, and nothing takes its place. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” es un libro y nada ocupa su lugar. Elija otro nombre.</translation>
     </message>
     <message>
         <source>“%1” is not a folder. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” no es una carpeta. No se ha exportado nada.</translation>
     </message>
     <message>
         <source>There is no folder “%1”. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe la carpeta “%1”. No se ha exportado nada.</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be made. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear la carpeta “%1”. No se ha exportado nada.</translation>
     </message>
 </context>
 <context>
     <name>Findings</name>
     <message>
         <source>%1 (line %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (línea %2)</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>model “%1”: no battery has a discharge at the time of the flight of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>modelo “%1”: ninguna batería tiene una descarga a la hora del vuelo del %2</translation>
     </message>
     <message>
         <source>model “%1”: a flight has no time, so that no discharge belongs to it</source>
-        <translation type="unfinished"></translation>
+        <translation>modelo “%1”: un vuelo no tiene hora, por lo que no le corresponde ninguna descarga</translation>
     </message>
     <message>
         <source>battery “%1”: no model has a flight at the time of the discharge of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>batería “%1”: ningún modelo tiene un vuelo a la hora de la descarga del %2</translation>
     </message>
     <message>
         <source>battery “%1”: a discharge has no time, so that no flight belongs to it</source>
-        <translation type="unfinished"></translation>
+        <translation>batería “%1”: una descarga no tiene hora, por lo que no le corresponde ningún vuelo</translation>
     </message>
     <message>
         <source>several batteries are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>varias baterías se llaman “%1” (líneas %2)</translation>
     </message>
     <message>
         <source>several models are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>varios modelos se llaman “%1” (líneas %2)</translation>
     </message>
     <message>
         <source>several locations are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>varios lugares se llaman “%1” (líneas %2)</translation>
     </message>
 </context>
 <context>
     <name>FlightBook</name>
     <message>
         <source>Flight book</source>
-        <translation type="unfinished"></translation>
+        <translation>Libro de vuelos</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>del %1 al %2</translation>
     </message>
     <message>
         <source>from %1 on</source>
-        <translation type="unfinished"></translation>
+        <translation>desde el %1</translation>
     </message>
     <message>
         <source>until %1</source>
-        <translation type="unfinished"></translation>
+        <translation>hasta el %1</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Baterías</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Página %1 de %2</translation>
     </message>
     <message>
         <source>Page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Página %1</translation>
     </message>
     <message>
         <source>Place and date</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar y fecha</translation>
     </message>
     <message>
         <source>Signature</source>
-        <translation type="unfinished"></translation>
+        <translation>Firma</translation>
     </message>
     <message>
         <source>This page</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta página</translation>
     </message>
     <message>
         <source>Brought forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma anterior</translation>
     </message>
     <message>
         <source>In all</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>Carried forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma y sigue</translation>
     </message>
     <message>
         <source>Flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos: %1</translation>
     </message>
     <message>
         <source>There are no flights within these limits.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay vuelos dentro de estos límites.</translation>
     </message>
     <message>
         <source>There are no flights in this logbook yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía no hay vuelos en este libro.</translation>
     </message>
 </context>
 <context>
     <name>FlightEdits</name>
     <message numerus="yes">
         <source>Enter a figure for each of the %n batteries, with a semicolon between them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Introduzca %n valor para la batería.</numerusform>
+            <numerusform>Introduzca un valor para cada una de las %n baterías, separados por punto y coma.</numerusform>
         </translation>
     </message>
     <message>
         <source>The logbook has changed meanwhile. Look at the table again, and repeat what you did.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro ha cambiado entretanto. Mire de nuevo la tabla y repita lo que hizo.</translation>
     </message>
 </context>
 <context>
     <name>FolderLock</name>
     <message>
         <source>The folder “%1” cannot be made: %2. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear la carpeta “%1”: %2. Elija otra carpeta.</translation>
     </message>
     <message>
         <source>The folder “%1”, which keeps two windows from one logbook, cannot be made: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear la carpeta “%1”, que impide que dos ventanas usen el mismo libro: %2.</translation>
     </message>
     <message>
         <source>Another program keeps the folder “%1” locked. Wait until it is done, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa mantiene bloqueada la carpeta “%1”. Espere a que termine y vuelva a intentarlo.</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: the lock file “%2” was left behind and cannot be removed (%3). Ask the owner of the file or of its folder to remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede bloquear el libro en “%1”: el archivo de bloqueo “%2” quedó ahí y no se puede eliminar (%3). Pida al propietario del archivo o de su carpeta que lo elimine.</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: the lock file “%2” cannot be written (%3).</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede bloquear el libro en “%1”: no se puede escribir el archivo de bloqueo “%2” (%3).</translation>
     </message>
     <message>
         <source>somebody else writes it</source>
-        <translation type="unfinished"></translation>
+        <translation>otra persona lo está escribiendo</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: “%2” is in the way, and is not a regular file. Remove or rename it, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede bloquear el libro en “%1”: “%2” lo impide y no es un archivo normal. Elimínelo o cámbiele el nombre y vuelva a intentarlo.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is locked by the user “%2”, whose lock file “%3” cannot be read. Ask “%2” to close it first. If “%2” does not have it open, you can take it over.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro en “%1” está bloqueado por el usuario “%2”, cuyo archivo de bloqueo “%3” no se puede leer. Pida primero a “%2” que lo cierre. Si “%2” no lo tiene abierto, puede hacerse cargo de él.</translation>
     </message>
     <message>
         <source>unknown program</source>
-        <translation type="unfinished"></translation>
+        <translation>programa desconocido</translation>
     </message>
     <message>
         <source>%1, process %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, proceso %2</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open on the computer “%2” (%3), says the lock file “%4”. Close it there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro en “%1” está abierto en el ordenador “%2” (%3), según el archivo de bloqueo “%4”. Ciérrelo primero allí.</translation>
     </message>
     <message>
         <source>If that computer was switched off without closing it, you can take the logbook over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si ese ordenador se apagó sin cerrarlo, puede hacerse cargo del libro.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open already: the user “%2” has it (%3), says the lock file “%4”. It must be closed there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro en “%1” ya está abierto: lo tiene el usuario “%2” (%3), según el archivo de bloqueo “%4”. Primero hay que cerrarlo allí.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open already (%2). Use the window that shows it, or close that first.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro en “%1” ya está abierto (%2). Use la ventana que lo muestra o ciérrela primero.</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteriesModel</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargas</translation>
     </message>
     <message>
         <source>Measured or entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Medidas o introducidas</translation>
     </message>
     <message>
         <source>Full cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciclos completos</translation>
     </message>
     <message>
         <source>Median depth (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Profundidad mediana (%)</translation>
     </message>
     <message>
         <source>Deepest (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Profundidad máx. (%)</translation>
     </message>
     <message>
         <source>Highest load (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasa máx. (C)</translation>
     </message>
     <message>
         <source>Age (years)</source>
-        <translation type="unfinished"></translation>
+        <translation>Edad (años)</translation>
     </message>
     <message>
         <source>Days since use</source>
-        <translation type="unfinished"></translation>
+        <translation>Días sin uso</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutos</translation>
     </message>
     <message>
         <source>mAh per minute</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh por minuto</translation>
     </message>
     <message>
         <source>Total (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Total (mAh)</translation>
     </message>
     <message>
         <source>The name of the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre de la batería.</translation>
     </message>
     <message>
         <source>How many discharges are recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuántas descargas hay registradas.</translation>
     </message>
     <message>
         <source>How many of the discharges were measured by a radio or entered by you: medians, means and maxima are taken from these alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuántas de las descargas midió una emisora o introdujo usted: medianas, medias y máximos se calculan solo a partir de ellas.</translation>
     </message>
     <message>
         <source>Everything that was ever drawn from the battery, divided by its capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo lo que se ha extraído de la batería, dividido por su capacidad.</translation>
     </message>
     <message>
         <source>Half of the discharges used less of the capacity than this, half of them more.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mitad de las descargas usó una parte menor de la capacidad; la otra mitad, una mayor.</translation>
     </message>
     <message>
         <source>The largest part of the capacity that one discharge used.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mayor parte de la capacidad que usó una sola descarga.</translation>
     </message>
     <message>
         <source>The highest current, divided by the capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>La corriente más alta, dividida por la capacidad.</translation>
     </message>
     <message>
         <source>The time since the battery was bought.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tiempo desde que se compró la batería.</translation>
     </message>
     <message>
         <source>The days since the battery was last used or discharged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los días desde que la batería se usó o se descargó por última vez.</translation>
     </message>
     <message>
         <source>The flights of all models at the times of its discharges.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los vuelos de todos los modelos a las horas de sus descargas.</translation>
     </message>
     <message>
         <source>How long these flights took together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuánto duraron estos vuelos en conjunto.</translation>
     </message>
     <message>
         <source>What a minute of flight draws from the battery on average.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que un minuto de vuelo extrae de la batería por término medio.</translation>
     </message>
     <message>
         <source>Everything that was ever drawn from the battery, guessed values included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo lo que se ha extraído de la batería, valores estimados incluidos.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>%1 (%2 guessed)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 estimados)</translation>
     </message>
     <message>
         <source>%1 measured or entered</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 medidas o introducidas</translation>
     </message>
     <message numerus="yes">
         <source>%n days old</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n día de edad</numerusform>
+            <numerusform>%n días de edad</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>The date of purchase is still to come.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fecha de compra aún está por llegar.</translation>
     </message>
     <message>
         <source>No date of purchase was entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha introducido ninguna fecha de compra.</translation>
     </message>
     <message>
         <source>No use before today is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se conoce ningún uso anterior a hoy.</translation>
     </message>
     <message>
         <source>The battery was not used yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La batería aún no se ha usado.</translation>
     </message>
     <message>
         <source>The battery was not discharged yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La batería aún no se ha descargado.</translation>
     </message>
     <message>
         <source>The capacity of the battery is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se conoce la capacidad de la batería.</translation>
     </message>
     <message>
         <source>No discharge was measured or entered: what was guessed does not count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna descarga se ha medido ni introducido: lo estimado no cuenta.</translation>
     </message>
     <message>
         <source>No discharge that was measured or entered has a flight with a duration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna descarga medida o introducida tiene un vuelo con duración.</translation>
     </message>
     <message>
         <source>No current was measured or entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha medido ni introducido ninguna corriente.</translation>
     </message>
     <message>
         <source>No used capacity was measured or entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha medido ni introducido ninguna capacidad usada.</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteriesTab</name>
     <message>
         <source>There is no battery yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía no hay ninguna batería. Añada la primera: pulse el botón del menú y después Editar.</translation>
     </message>
     <message>
         <source>Batteries and their figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Las baterías y sus cifras</translation>
     </message>
     <message>
         <source>Batteries, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Baterías, %1</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteryPlot</name>
     <message>
         <source>As a &amp;table</source>
-        <translation type="unfinished"></translation>
+        <translation>Como &amp;tabla</translation>
     </message>
     <message>
         <source>Pl&amp;ot:</source>
-        <translation type="unfinished"></translation>
+        <translation>Grá&amp;fico:</translation>
     </message>
     <message>
         <source>What is plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué muestra el gráfico</translation>
     </message>
     <message>
         <source>Shows the discharges of the battery as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra las descargas de la batería como tabla</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargas</translation>
     </message>
     <message>
         <source>Choose a battery to see what became of it over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija una batería para ver su evolución en el tiempo.</translation>
     </message>
     <message>
         <source>“%1” was never discharged. Record a flight with it: click its card.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” no se ha descargado nunca. Registre un vuelo con ella: haga clic en su tarjeta.</translation>
     </message>
     <message>
         <source>No discharge of “%1” has a time and this figure: there is nothing to plot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna descarga de “%1” tiene hora y este valor: no hay nada que representar.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
 </context>
 <context>
     <name>Host::DischargesModel</name>
     <message>
         <source>Not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>No introducido</translation>
     </message>
     <message>
         <source>Guessed</source>
-        <translation type="unfinished"></translation>
+        <translation>Estimado</translation>
     </message>
     <message>
         <source>Entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Introducido</translation>
     </message>
     <message>
         <source>Measured</source>
-        <translation type="unfinished"></translation>
+        <translation>Medido</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora</translation>
     </message>
     <message>
         <source>Used (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Usado (mAh)</translation>
     </message>
     <message>
         <source>Used (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Usado (%)</translation>
     </message>
     <message>
         <source>Current (A)</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriente (A)</translation>
     </message>
     <message>
         <source>Load (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasa (C)</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Origen</translation>
     </message>
 </context>
 <context>
     <name>Host::ExportDialog</name>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora no se puede leer el libro. Libere espacio y vuelva a intentarlo.</translation>
     </message>
     <message>
         <source>Only these &amp;batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo estas &amp;baterías</translation>
     </message>
     <message>
         <source>Only these &amp;models</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo estos &amp;modelos</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar</translation>
     </message>
     <message>
         <source>Progress of the export</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso de la exportación</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportar…</translation>
     </message>
     <message>
         <source>&amp;Format</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Formato</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato</translation>
     </message>
     <message>
         <source>F&amp;rom</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desde</translation>
     </message>
     <message>
         <source>&amp;To</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hasta</translation>
     </message>
     <message numerus="yes">
         <source>&amp;Preview: the first %n rows of each table</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&amp;Vista previa: %n fila de cada tabla</numerusform>
+            <numerusform>&amp;Vista previa: las primeras %n filas de cada tabla</numerusform>
         </translation>
     </message>
     <message>
         <source>The first day is later than the last one. Change one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>El primer día es posterior al último. Cambie uno de los dos.</translation>
     </message>
     <message>
         <source>Export the Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar el libro</translation>
     </message>
     <message>
         <source>Workbook (*.xlsx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja de cálculo (*.xlsx)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>Export Five Files into a Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar cinco archivos a una carpeta</translation>
     </message>
     <message>
         <source>The folder has files of these names already.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta ya contiene archivos con estos nombres.</translation>
     </message>
     <message>
         <source>The export replaces %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>La exportación reemplaza %1.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>The export was stopped. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>La exportación se ha detenido. No se ha escrito nada.</translation>
     </message>
     <message>
         <source>Choose another place, or free some space, and export again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija otro sitio o libere espacio, y vuelva a exportar.</translation>
     </message>
     <message>
         <source>The logbook was exported to “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro se ha exportado a “%1”.</translation>
     </message>
     <message>
         <source>Texts that are too long for a cell (32,767 characters) were cut: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se han cortado textos demasiado largos para una celda (32&#x202f;767 caracteres): %1.</translation>
     </message>
 </context>
 <context>
     <name>Host::ExportPreview</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>First rows of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Primeras filas de %1</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>Host::FilterBar</name>
     <message>
         <source>Search flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar vuelos</translation>
     </message>
     <message>
         <source>Only flights of the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo los vuelos del modelo</translation>
     </message>
     <message>
         <source>All models</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los modelos</translation>
     </message>
     <message>
         <source>Only flights with the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo los vuelos con la batería</translation>
     </message>
     <message>
         <source>All batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las baterías</translation>
     </message>
     <message>
         <source>Only flights at the location</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo los vuelos en el lugar</translation>
     </message>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los lugares</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Desde</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Hasta</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightBookDialog</name>
     <message>
         <source>Flight Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Libro de vuelos</translation>
     </message>
     <message>
         <source>&amp;From:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desde:</translation>
     </message>
     <message>
         <source>First day</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer día</translation>
     </message>
     <message>
         <source>&amp;To:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hasta:</translation>
     </message>
     <message>
         <source>Last day</source>
-        <translation type="unfinished"></translation>
+        <translation>Último día</translation>
     </message>
     <message>
         <source>Models in the book</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelos del libro de vuelos</translation>
     </message>
     <message>
         <source>&amp;Models:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modelos:</translation>
     </message>
     <message>
         <source>A4</source>
-        <translation type="unfinished"></translation>
+        <translation>A4</translation>
     </message>
     <message>
         <source>Letter</source>
-        <translation type="unfinished"></translation>
+        <translation>Letter</translation>
     </message>
     <message>
         <source>Paper of the PDF file</source>
-        <translation type="unfinished"></translation>
+        <translation>Papel del archivo PDF</translation>
     </message>
     <message>
         <source>P&amp;aper:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Papel:</translation>
     </message>
     <message>
         <source>%1 is limited</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: limitado</translation>
     </message>
     <message>
         <source>Pa&amp;ge:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pá&amp;gina:</translation>
     </message>
     <message>
         <source>Page that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Página que se muestra</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imprimir…</translation>
     </message>
     <message>
         <source>&amp;Save as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>G&amp;uardar como PDF…</translation>
     </message>
     <message>
         <source>The first day is after the last one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El primer día es posterior al último.</translation>
     </message>
     <message>
         <source>Flights: %1, time in the air: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos: %1, tiempo en el aire: %2.</translation>
     </message>
     <message>
         <source>of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>de %1</translation>
     </message>
     <message>
         <source>The flight book was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro de vuelos no se ha impreso: no se puede escribir en la impresora o en su archivo. Elija otro destino.</translation>
     </message>
     <message>
         <source>The flight book is printed…</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimiendo el libro de vuelos…</translation>
     </message>
     <message>
         <source>The flight book is saved…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardando el libro de vuelos…</translation>
     </message>
     <message>
         <source>Save the Flight Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el libro de vuelos</translation>
     </message>
     <message>
         <source>PDF document (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Documento PDF (*.pdf)</translation>
     </message>
     <message>
         <source>it is a logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>es un libro</translation>
     </message>
     <message>
         <source>The flight book is saved in “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro de vuelos se ha guardado en “%1”.</translation>
     </message>
     <message>
         <source>The flight book was not saved in “%1”: %2. Choose another place for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro de vuelos no se ha guardado en “%1”: %2. Elija otro sitio para él.</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightBookPreview</name>
     <message>
         <source>Preview of page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa de la página %1</translation>
     </message>
     <message>
         <source>No preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin vista previa</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightDialog</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna</translation>
     </message>
     <message>
         <source>Add a Flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir un vuelo</translation>
     </message>
     <message>
         <source> mAh</source>
-        <translation type="unfinished"></translation>
+        <translation> mAh</translation>
     </message>
     <message>
         <source> A</source>
-        <translation type="unfinished"></translation>
+        <translation> A</translation>
     </message>
     <message>
         <source> °C</source>
-        <translation type="unfinished"></translation>
+        <translation> °C</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modelo</translation>
     </message>
     <message>
         <source>&amp;Time</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hora</translation>
     </message>
     <message>
         <source>&amp;Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Duración</translation>
     </message>
     <message>
         <source>&amp;Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Batería</translation>
     </message>
     <message>
         <source>D&amp;ischarged</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;scargado</translation>
     </message>
     <message>
         <source>Maximum &amp;current</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Corriente máxima</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lugar</translation>
     </message>
     <message>
         <source>Tem&amp;perature</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Temperatura</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notas</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Flight added</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo añadido</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsModel</name>
     <message>
         <source>not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>no introducido</translation>
     </message>
     <message>
         <source>guessed: what a capture presets for the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>estimado: lo que la captura propone para la batería</translation>
     </message>
     <message>
         <source>measured: from a radio&apos;s log</source>
-        <translation type="unfinished"></translation>
+        <translation>medido: del registro de una emisora</translation>
     </message>
     <message>
         <source>entered</source>
-        <translation type="unfinished"></translation>
+        <translation>introducido</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>no discharge at the time of this flight</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguna descarga a la hora de este vuelo</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Baterías</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>Max. A</source>
-        <translation type="unfinished"></translation>
+        <translation>Máx. A</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>°C</source>
-        <translation type="unfinished"></translation>
+        <translation>°C</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsTab</name>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Añadir…</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>El&amp;iminar</translation>
     </message>
     <message>
         <source>&amp;Move…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mover…</translation>
     </message>
     <message>
         <source>&amp;Tidy Up…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Depurar…</translation>
     </message>
     <message>
         <source>&amp;Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renombrar…</translation>
     </message>
     <message>
         <source>There is no model yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía no hay ningún modelo. Añada el primero: pulse el botón del menú y después Editar.</translation>
     </message>
     <message>
         <source>There is no flight yet. Add one here, or click the card of a charged battery when you have flown it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía no hay ningún vuelo. Añada uno aquí, o haga clic en la tarjeta de una batería cargada cuando la haya usado en vuelo.</translation>
     </message>
     <message>
         <source>Flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos: %1</translation>
     </message>
     <message>
         <source>Flights: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos: %1 de %2</translation>
     </message>
     <message>
         <source>Flight edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo modificado</translation>
     </message>
     <message>
         <source>Delete this flight?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar este vuelo?</translation>
     </message>
     <message numerus="yes">
         <source>Delete these %n flights?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>¿Eliminar %n vuelo?</numerusform>
+            <numerusform>¿Eliminar estos %n vuelos?</numerusform>
         </translation>
     </message>
     <message>
         <source>Discharges at the same times can be deleted with them; the cycles of the batteries are then reduced. The models&apos; numbers of flights stay as they are. This can be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las descargas a las mismas horas se pueden eliminar con ellos; los ciclos de las baterías se reducen entonces. El número de vuelos de los modelos no cambia. Esto se puede deshacer.</translation>
     </message>
     <message>
         <source>Delete With Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar con las descargas</translation>
     </message>
     <message>
         <source>Delete Flights Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar solo los vuelos</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Flight deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo eliminado</translation>
     </message>
     <message numerus="yes">
         <source>%n flights deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n vuelo eliminado</numerusform>
+            <numerusform>%n vuelos eliminados</numerusform>
         </translation>
     </message>
     <message>
         <source>Flight moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo movido</translation>
     </message>
     <message numerus="yes">
         <source>%n flights moved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n vuelo movido</numerusform>
+            <numerusform>%n vuelos movidos</numerusform>
         </translation>
     </message>
     <message>
         <source>No flight stands twice. A flight is taken for a double when it is at most 5 s after another one of the same model and the same in everything else.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún vuelo está repetido. Un vuelo se considera repetido si sigue en 5&#xa0;s como máximo a otro del mismo modelo y es igual en todo lo demás.</translation>
     </message>
     <message>
         <source>Flights that stood twice removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos repetidos quitados</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsTable</name>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos</translation>
     </message>
 </context>
 <context>
     <name>Host::ImportDialog</name>
     <message>
         <source>Choose &amp;Logs…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir re&amp;gistros…</translation>
     </message>
     <message>
         <source>Choose &amp;Folder or Card…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir carpeta o &amp;tarjeta…</translation>
     </message>
     <message>
         <source>&amp;Replace values that were entered</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reemplazar los valores introducidos</translation>
     </message>
     <message>
         <source>&amp;Not imported:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;No importados:</translation>
     </message>
     <message>
         <source>Import Radio Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar registros de emisora</translation>
     </message>
     <message>
         <source>Choose Logs of Radios</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir registros de emisoras</translation>
     </message>
     <message>
         <source>Logs (*.csv *.CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros (*.csv *.CSV)</translation>
     </message>
     <message>
         <source>Choose a Folder with Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir una carpeta con registros</translation>
     </message>
     <message>
         <source>Choose logs that a radio with EdgeTX or OpenTX has written, or the folder or card that they are on. Nothing on a card is ever changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija registros escritos por una emisora con EdgeTX u OpenTX, o la carpeta o la tarjeta en la que están. En una tarjeta nunca se modifica nada.</translation>
     </message>
     <message>
         <source>Discharges in the logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargas de los registros</translation>
     </message>
     <message>
         <source>Files that are not imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos que no se importan</translation>
     </message>
     <message>
         <source>Progress of the reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso de la lectura</translation>
     </message>
     <message>
         <source>&amp;Import</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importar</translation>
     </message>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora no se puede leer el libro. Libere espacio y vuelva a intentarlo.</translation>
     </message>
     <message>
         <source>The reading was stopped. What was read before is still listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lectura se ha detenido. Lo que se leyó antes sigue en la lista.</translation>
     </message>
     <message>
         <source>There is no discharge in these logs.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna descarga en estos registros.</translation>
     </message>
     <message>
         <source>What is new is added when you tick it. To choose its model or battery, double-click there, or press F2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo nuevo se añade si lo marca. Para elegir su modelo o su batería, haga doble clic ahí o pulse F2.</translation>
     </message>
     <message>
         <source>&amp;Correct the radio&apos;s clock: it seems to be %1 h slow</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Corregir el reloj de la emisora: parece ir atrasado %1&#xa0;h</translation>
     </message>
     <message>
         <source>&amp;Correct the radio&apos;s clock: it seems to be %1 h fast</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Corregir el reloj de la emisora: parece ir adelantado %1&#xa0;h</translation>
     </message>
     <message>
         <source>“%1” is no log of a radio: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” no es un registro de emisora: %2</translation>
     </message>
     <message>
         <source>“%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”: %2</translation>
     </message>
     <message>
         <source>“%1” holds no values.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” no contiene ningún valor.</translation>
     </message>
     <message>
         <source>Imported 1 radio log</source>
-        <translation type="unfinished"></translation>
+        <translation>1 registro de emisora importado</translation>
     </message>
     <message numerus="yes">
         <source>Imported %n radio logs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n registro de emisora importado</numerusform>
+            <numerusform>%n registros de emisora importados</numerusform>
         </translation>
     </message>
     <message>
         <source>%1. Flights filled: %2; discharges added: %3. Undo in the menu Edit takes all of it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Vuelos completados: %2; descargas añadidas: %3. Deshacer, en el menú Editar, lo revierte todo.</translation>
     </message>
 </context>
 <context>
     <name>Host::ImportModel</name>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir…</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>What will happen</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué ocurrirá</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>Maximum A</source>
-        <translation type="unfinished"></translation>
+        <translation>A máxima</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro</translation>
     </message>
 </context>
 <context>
@@ -1634,137 +1634,139 @@
     <name>Host::MainWindow</name>
     <message>
         <source>&amp;Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Libro</translation>
     </message>
     <message>
         <source>&amp;Open Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Abrir carpeta…</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir &amp;reciente</translation>
     </message>
     <message>
         <source>&amp;Import Radio Logs…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importar registros de emisora…</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportar…</translation>
     </message>
     <message>
         <source>&amp;Flight Book (print, PDF)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Libro de &amp;vuelos (imprimir, PDF)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rehacer</translation>
     </message>
     <message>
         <source>Re&amp;name…</source>
-        <translation type="unfinished"></translation>
+        <translation>Re&amp;nombrar…</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Preferencias…</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ver</translation>
     </message>
     <message>
         <source>&amp;Side Panel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Panel lateral</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ay&amp;uda</translation>
     </message>
     <message>
         <source>&amp;Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Manual</translation>
     </message>
     <message>
         <source>&amp;About Voltbok</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Acerca de Voltbok</translation>
     </message>
     <message>
         <source>&amp;Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deshacer: %1</translation>
     </message>
     <message>
         <source>&amp;Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rehacer: %1</translation>
     </message>
     <message>
         <source>No other folder yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay otra carpeta</translation>
     </message>
     <message>
         <source>Open the Logbook in a Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir el libro de una carpeta</translation>
     </message>
     <message>
         <source>Voltbok %1, a battery and flight logbook for radio-controlled models.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok %1, un libro de baterías y vuelos para modelos radiocontrolados.</translation>
     </message>
     <message>
         <source>Voltbok is free software under the GNU General Public License, version 3 or later. Linked with Qt Charts, which is under version 3, the whole is under version 3.
 
 This logbook is kept in “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok es software libre bajo la Licencia Pública General de GNU, versión 3 o posterior. Enlazado con Qt Charts, que está bajo la versión 3, el conjunto está bajo la versión 3.
+
+Este libro se guarda en “%1”.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>The flight on this page is not recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>El vuelo de esta página no está registrado.</translation>
     </message>
     <message>
         <source>What you entered on this page is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que ha introducido en esta página no está guardado.</translation>
     </message>
     <message>
         <source>Go back to record it, or leave the page without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelva para registrarlo o abandone la página sin hacerlo.</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonar</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver</translation>
     </message>
     <message>
         <source>Voltbok - sample logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok - libro de ejemplo</translation>
     </message>
     <message>
         <source>The logbook is opened…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abriendo el libro…</translation>
     </message>
     <message>
         <source>The settings cannot be saved: there is no permission to write “%1”. What you choose will be forgotten. Change the permissions of this file and its folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden guardar los ajustes: no hay permiso para escribir “%1”. Lo que elija se olvidará. Cambie los permisos de este archivo y de su carpeta.</translation>
     </message>
     <message>
         <source>The logbook is now kept in “%1”. Open this folder the next time, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro se guarda ahora en “%1”. Abra esta carpeta también la próxima vez.</translation>
     </message>
     <message>
         <source>&amp;Language</source>
@@ -1795,512 +1797,512 @@ This logbook is kept in “%1”.</source>
     <name>Host::ManualWindow</name>
     <message>
         <source>Voltbok Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Manual de Voltbok</translation>
     </message>
 </context>
 <context>
     <name>Host::MessageBar</name>
     <message>
         <source>Close this message</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar este mensaje</translation>
     </message>
 </context>
 <context>
     <name>Host::MoveDialog</name>
     <message>
         <source>(Stay)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Igual)</translation>
     </message>
     <message>
         <source>Move Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover vuelos</translation>
     </message>
     <message>
         <source>To the &amp;model</source>
-        <translation type="unfinished"></translation>
+        <translation>Al &amp;modelo</translation>
     </message>
     <message>
         <source>&amp;Discharges of the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descargas de la batería</translation>
     </message>
     <message>
         <source>To the &amp;battery</source>
-        <translation type="unfinished"></translation>
+        <translation>A la &amp;batería</translation>
     </message>
     <message>
         <source>Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover</translation>
     </message>
 </context>
 <context>
     <name>Host::OpenLogbook</name>
     <message>
         <source>Nothing was changed: what radio logs tell cannot be written: %1. See that “%2” can be written, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha cambiado nada: no se pueden escribir los datos de los registros de emisora: %1. Procure que “%2” se pueda escribir y vuelva a intentarlo.</translation>
     </message>
     <message>
         <source>Nothing was changed: there is no space left in “%1”. Free some, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha cambiado nada: no queda espacio en “%1”. Libere algo y vuelva a intentarlo.</translation>
     </message>
     <message>
         <source>Nothing was changed: you have cancelled it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha cambiado nada: usted lo ha cancelado.</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook has changed meanwhile. Look at it again, and repeat what you did.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha cambiado nada: el libro ha cambiado entretanto. Mírelo de nuevo y repita lo que hizo.</translation>
     </message>
     <message>
         <source>The logbook is changed…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiando el libro…</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file cannot hold what you entered. Leave out control characters, and times that the clock does not have.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha cambiado nada: el archivo del libro no admite lo que ha introducido. Quite los caracteres de control y las horas que el reloj no tiene.</translation>
     </message>
     <message>
         <source>Record the flight on the discharge page first, or leave that page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Registre primero el vuelo en la página de descarga o abandone esa página.</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file does not hold what this window shows. See the message above the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha cambiado nada: el archivo del libro no contiene lo que muestra esta ventana. Vea el mensaje encima del libro.</translation>
     </message>
     <message>
         <source>it cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede volver a leer</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file cannot be written: %1. See that “%2” can be written, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha cambiado nada: no se puede escribir el archivo del libro: %1. Procure que “%2” se pueda escribir y vuelva a intentarlo.</translation>
     </message>
 </context>
 <context>
     <name>Host::PlotButtons</name>
     <message>
         <source>&amp;Save Plot…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar g&amp;ráfico…</translation>
     </message>
     <message>
         <source>Save the plot as a picture (PNG or SVG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el gráfico como imagen (PNG o SVG)</translation>
     </message>
     <message>
         <source>&amp;Copy Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar gráfico</translation>
     </message>
     <message>
         <source>Copy the plot to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar el gráfico al portapapeles</translation>
     </message>
     <message>
         <source>&amp;Print Plot…</source>
-        <translation type="unfinished"></translation>
+        <translation>Im&amp;primir gráfico…</translation>
     </message>
     <message>
         <source>Print the plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir el gráfico</translation>
     </message>
     <message>
         <source>Print T&amp;able…</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir ta&amp;bla…</translation>
     </message>
     <message>
         <source>Print the table above</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir la tabla de arriba</translation>
     </message>
     <message>
         <source>Save the Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el gráfico</translation>
     </message>
     <message>
         <source>PNG picture (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen PNG (*.png)</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujo SVG (*.svg)</translation>
     </message>
     <message>
         <source>The plot was not saved: a picture is PNG or SVG. Give it a name that ends with “.png” or “.svg”.</source>
-        <translation type="unfinished"></translation>
+        <translation>El gráfico no se ha guardado: una imagen es PNG o SVG. Dele un nombre que termine en “.png” o “.svg”.</translation>
     </message>
     <message>
         <source>The plot was not saved in “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El gráfico no se ha guardado en “%1”: %2.</translation>
     </message>
     <message>
         <source>The plot was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El gráfico no se ha impreso: no se puede escribir en la impresora o en su archivo. Elija otro destino.</translation>
     </message>
 </context>
 <context>
     <name>Host::PreferencesDialog</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias</translation>
     </message>
     <message>
         <source>When there is something to do</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuándo hay algo que hacer</translation>
     </message>
 </context>
 <context>
     <name>Host::RadioLog</name>
     <message>
         <source>It does not begin with the columns Date and Time.</source>
-        <translation type="unfinished"></translation>
+        <translation>No empieza con las columnas Date y Time.</translation>
     </message>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer: %1.</translation>
     </message>
     <message>
         <source>It is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Está vacío.</translation>
     </message>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lectura se ha cancelado.</translation>
     </message>
     <message>
         <source>Its time jumps in too many places.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su hora da saltos en demasiados sitios.</translation>
     </message>
     <message>
         <source>Most of its rows have more or fewer fields than its header.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mayoría de sus filas tiene más o menos campos que su cabecera.</translation>
     </message>
     <message>
         <source>Its rows do not begin with a date and a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus filas no empiezan con una fecha y una hora.</translation>
     </message>
     <message>
         <source>Most of its rows do not begin with a date and a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mayoría de sus filas no empieza con una fecha y una hora.</translation>
     </message>
     <message>
         <source>It has a header, but no rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiene cabecera, pero ninguna fila.</translation>
     </message>
 </context>
 <context>
     <name>Host::RenameDialog</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renombrar</translation>
     </message>
     <message>
         <source>&amp;What</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Qué</translation>
     </message>
     <message>
         <source>&amp;Present name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre &amp;actual</translation>
     </message>
     <message>
         <source>&amp;New name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre &amp;nuevo</translation>
     </message>
     <message>
         <source>There is none yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía no hay ninguno.</translation>
     </message>
     <message>
         <source>There are several of this name. Only the chosen one is renamed; models and flights that name it keep the other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay varios con este nombre. Solo se renombra el elegido; los modelos y los vuelos que lo nombran conservan el otro.</translation>
     </message>
     <message>
         <source>It is renamed everywhere at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se renombra en todas partes a la vez.</translation>
     </message>
     <message>
         <source>Battery %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería %1 renombrada</translation>
     </message>
     <message>
         <source>Model %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo %1 renombrado</translation>
     </message>
     <message>
         <source>Location %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar %1 renombrado</translation>
     </message>
 </context>
 <context>
     <name>Host::SaveCare</name>
     <message>
         <source>it cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede volver a leer</translation>
     </message>
     <message>
         <source>The logbook is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro no está guardado.</translation>
     </message>
     <message>
         <source>What you recorded last would be lost. Go back, and try again or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo último que registró se perdería. Vuelva y pruebe de nuevo, o guarde el libro en otro sitio.</translation>
     </message>
     <message>
         <source>What you recorded last would be lost. Go back, and restore the last state or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo último que registró se perdería. Vuelva y restaure el último estado, o guarde el libro en otro sitio.</translation>
     </message>
     <message>
         <source>Quit Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir igualmente</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>el disco notifica un error</translation>
     </message>
     <message>
         <source>Another program has changed the logbook file. This window still shows what it held before, and your next change overwrites the file. A copy of the other version is kept in “%1”; start Voltbok again to see it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa ha modificado el archivo del libro. Esta ventana sigue mostrando lo que contenía antes, y su próximo cambio sobrescribirá el archivo. Una copia de la otra versión se guarda en “%1”; inicie Voltbok de nuevo para verla.</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Reintentar</translation>
     </message>
     <message>
         <source>Restore Last State</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar último estado</translation>
     </message>
     <message>
         <source>Keep Elsewhere…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar en otro sitio…</translation>
     </message>
     <message>
         <source>Nothing can be saved in “%1”: %2. See that the file can be written, or keep the logbook in another folder, before you record anything.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede guardar nada en “%1”: %2. Procure que el archivo se pueda escribir, o guarde el libro en otra carpeta, antes de registrar nada.</translation>
     </message>
     <message>
         <source>The logbook is not saved in “%1”: %2. This window still shows everything. See that the file can be written, then try again; or keep the logbook in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro no está guardado en “%1”: %2. Esta ventana aún lo muestra todo. Procure que el archivo se pueda escribir y vuelva a intentarlo; o guarde el libro en otra carpeta.</translation>
     </message>
     <message>
         <source>Your last change could not be saved in “%1”: %2. File and window are as they were before. See that the file can be written, or keep the logbook in another folder; then enter the change again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su último cambio no se ha podido guardar en “%1”: %2. El archivo y la ventana están como antes. Procure que el archivo se pueda escribir, o guarde el libro en otra carpeta; después introduzca el cambio de nuevo.</translation>
     </message>
     <message>
         <source>The logbook could not be saved in “%1”: %2. This window shows less than you have recorded. Restore the last state, or keep it in another folder; then enter your last change again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro no se ha podido guardar en “%1”: %2. Esta ventana muestra menos de lo que ha registrado. Restaure el último estado o guárdelo en otra carpeta; después introduzca de nuevo su último cambio.</translation>
     </message>
     <message>
         <source>it is not written to its end</source>
-        <translation type="unfinished"></translation>
+        <translation>no está escrito hasta el final</translation>
     </message>
     <message>
         <source>The logbook still cannot be saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro sigue sin poder guardarse: %1.</translation>
     </message>
     <message>
         <source>there is no whole copy</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna copia íntegra</translation>
     </message>
     <message>
         <source>The last state cannot be restored: %1. Nothing was changed. Free some space, or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede restaurar el último estado: %1. No se ha cambiado nada. Libere espacio o guarde el libro en otro sitio.</translation>
     </message>
     <message>
         <source>The last state is restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>El último estado se ha restaurado.</translation>
     </message>
     <message>
         <source>The last state is restored. The file that was there is kept as “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>El último estado se ha restaurado. El archivo que había se conserva como “%1”.</translation>
     </message>
     <message>
         <source>Keep the Logbook in Another Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el libro en otra carpeta</translation>
     </message>
     <message>
         <source>There is a logbook in “%1” already. Choose an empty folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay un libro en “%1”. Elija una carpeta vacía.</translation>
     </message>
     <message>
         <source>there is no whole state of it</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ningún estado íntegro de él</translation>
     </message>
     <message>
         <source>The logbook cannot be kept in “%1”: %2. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro no se puede guardar en “%1”: %2. Elija otra carpeta.</translation>
     </message>
 </context>
 <context>
     <name>Host::SidePanel</name>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoy</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Baterías</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Estadísticas</translation>
     </message>
     <message>
         <source>Side panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Panel lateral</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora no</translation>
     </message>
     <message>
         <source>The panel is about to read the logbook, which is long. Press here to go on without what is new.</source>
-        <translation type="unfinished"></translation>
+        <translation>El panel está a punto de leer el libro, que es largo. Pulse aquí para seguir sin lo nuevo.</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Refrescar</translation>
     </message>
     <message>
         <source>The panel does not show yet what is new. Press here to read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El panel aún no muestra lo nuevo. Pulse aquí para leerlo.</translation>
     </message>
 </context>
 <context>
     <name>Host::StatisticsModel</name>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutos</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargado (mAh)</translation>
     </message>
 </context>
 <context>
     <name>Host::StatisticsTab</name>
     <message>
         <source>There is nothing to add up yet. Add a battery and a model first: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía no hay nada que sumar. Añada primero una batería y un modelo: pulse el botón del menú y después Editar.</translation>
     </message>
     <message>
         <source>There is nothing to add up yet. Record your first flight: click the card of a charged battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía no hay nada que sumar. Registre su primer vuelo: haga clic en la tarjeta de una batería cargada.</translation>
     </message>
     <message>
         <source>&amp;From:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desde:</translation>
     </message>
     <message>
         <source>&amp;To:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hasta:</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Add up &amp;by:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sumar por:</translation>
     </message>
     <message>
         <source>Add up by</source>
-        <translation type="unfinished"></translation>
+        <translation>Sumar por</translation>
     </message>
     <message>
         <source>Pl&amp;ot:</source>
-        <translation type="unfinished"></translation>
+        <translation>Grá&amp;fico:</translation>
     </message>
     <message>
         <source>What is plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué muestra el gráfico</translation>
     </message>
     <message>
         <source>First day</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer día</translation>
     </message>
     <message>
         <source>Last day</source>
-        <translation type="unfinished"></translation>
+        <translation>Último día</translation>
     </message>
     <message>
         <source>%1 is limited</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: limitado</translation>
     </message>
     <message>
         <source>Flights, added up</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos, sumados</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>The first day is after the last one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El primer día es posterior al último.</translation>
     </message>
     <message numerus="yes">
         <source>In all: %Ln flights, %1 minutes, %2 mAh.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>En total: %Ln vuelo, %1 minutos, %2&#xa0;mAh.</numerusform>
+            <numerusform>En total: %Ln vuelos, %1 minutos, %2&#xa0;mAh.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln flights without a time are not in the table.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln vuelo sin hora no está en la tabla.</numerusform>
+            <numerusform>%Ln vuelos sin hora no están en la tabla.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln flights without a location are not in the table.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln vuelo sin lugar no está en la tabla.</numerusform>
+            <numerusform>%Ln vuelos sin lugar no están en la tabla.</numerusform>
         </translation>
     </message>
 </context>
@@ -2308,1052 +2310,1052 @@ This logbook is kept in “%1”.</source>
     <name>Host::TableColumns</name>
     <message>
         <source>&amp;Sort by This Column</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordenar por esta columna</translation>
     </message>
 </context>
 <context>
     <name>Host::TidyDialog</name>
     <message>
         <source>%1: %2, and again at %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2, y otra vez a las %3</translation>
     </message>
     <message>
         <source>Tidy Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Depurar</translation>
     </message>
     <message>
         <source>These flights stand &amp;twice, as a card leaves them that was clicked twice. The second one of each that is ticked is removed, with its discharge and the cycle of its battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estos vuelos están repe&amp;tidos, como los deja una tarjeta en la que se hizo clic dos veces. El segundo de cada pareja marcada se quita, con su descarga y el ciclo de su batería.</translation>
     </message>
     <message>
         <source>Flights that stand twice</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos repetidos</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
 </context>
 <context>
     <name>Host::TodayTab</name>
     <message>
         <source>There is no battery yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía no hay ninguna batería. Añada la primera: pulse el botón del menú y después Editar.</translation>
     </message>
     <message>
         <source>Nothing to do today.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoy no hay nada que hacer.</translation>
     </message>
     <message>
         <source>What to do today. Click a line to see its battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué hacer hoy. Haga clic en una línea para ver su batería.</translation>
     </message>
     <message>
         <source>What to do today</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué hacer hoy</translation>
     </message>
     <message>
         <source>Warning: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Alerta: %1</translation>
     </message>
     <message>
         <source>Notice: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aviso: %1</translation>
     </message>
     <message>
         <source>Show “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar “%1”</translation>
     </message>
 </context>
 <context>
     <name>Host::VersionsModel</name>
     <message>
         <source>Copy of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia del %1</translation>
     </message>
     <message>
         <source>%1 (damaged)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (dañada)</translation>
     </message>
     <message>
         <source>%1 (cannot be read)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (ilegible)</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Baterías</translation>
     </message>
     <message>
         <source>Models</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelos</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargas</translation>
     </message>
 </context>
 <context>
     <name>Import</name>
     <message>
         <source>doubtful: counter %1, current says %2</source>
-        <translation type="unfinished"></translation>
+        <translation>dudoso: contador %1, la corriente indica %2</translation>
     </message>
     <message>
         <source>goes on with an earlier import</source>
-        <translation type="unfinished"></translation>
+        <translation>continúa una importación anterior</translation>
     </message>
     <message>
         <source>a part of the discharge before</source>
-        <translation type="unfinished"></translation>
+        <translation>una parte de la descarga anterior</translation>
     </message>
     <message>
         <source>the radio&apos;s clock was never set</source>
-        <translation type="unfinished"></translation>
+        <translation>el reloj de la emisora nunca se puso en hora</translation>
     </message>
     <message>
         <source>neither consumption nor current was measured</source>
-        <translation type="unfinished"></translation>
+        <translation>no se midió ni consumo ni corriente</translation>
     </message>
     <message>
         <source>shorter than 20 s</source>
-        <translation type="unfinished"></translation>
+        <translation>más corto que 20&#xa0;s</translation>
     </message>
     <message>
         <source>less than 2 % of the capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>menos del 2&#xa0;% de la capacidad</translation>
     </message>
     <message>
         <source>you entered the values of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>usted introdujo los valores del vuelo</translation>
     </message>
     <message>
         <source>the flight has no discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>el vuelo no tiene descarga</translation>
     </message>
     <message>
         <source>the flight has several batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>el vuelo tiene varias baterías</translation>
     </message>
     <message>
         <source>another log tells the same</source>
-        <translation type="unfinished"></translation>
+        <translation>otro registro dice lo mismo</translation>
     </message>
     <message>
         <source>parts of it are two flights of the logbook already</source>
-        <translation type="unfinished"></translation>
+        <translation>partes de la descarga ya son dos vuelos del libro</translation>
     </message>
     <message>
         <source>the logbook takes %1 mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>el libro admite %1&#xa0;mAh</translation>
     </message>
     <message>
         <source>the logbook takes %1 A</source>
-        <translation type="unfinished"></translation>
+        <translation>el libro admite %1&#xa0;A</translation>
     </message>
     <message>
         <source>the logbook does not have this model</source>
-        <translation type="unfinished"></translation>
+        <translation>el libro no tiene este modelo</translation>
     </message>
     <message>
         <source>no battery is known for it</source>
-        <translation type="unfinished"></translation>
+        <translation>no se le conoce ninguna batería</translation>
     </message>
     <message>
         <source>fills the flight of %1 with %2</source>
-        <translation type="unfinished"></translation>
+        <translation>completa el vuelo de las %1 con %2</translation>
     </message>
     <message>
         <source>new</source>
-        <translation type="unfinished"></translation>
+        <translation>nuevo</translation>
     </message>
     <message>
         <source>new, with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nuevo, con %1</translation>
     </message>
     <message>
         <source>known</source>
-        <translation type="unfinished"></translation>
+        <translation>conocido</translation>
     </message>
     <message>
         <source>bench test</source>
-        <translation type="unfinished"></translation>
+        <translation>prueba en banco</translation>
     </message>
 </context>
 <context>
     <name>LogReading</name>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer: %1.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un archivo normal.</translation>
     </message>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lectura se ha cancelado.</translation>
     </message>
 </context>
 <context>
     <name>Losses</name>
     <message>
         <source>a comment in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>un comentario en la línea %1</translation>
     </message>
     <message>
         <source>an instruction to other programs in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>una instrucción para otros programas en la línea %1</translation>
     </message>
     <message>
         <source>everything from line %1 on</source>
-        <translation type="unfinished"></translation>
+        <translation>todo a partir de la línea %1</translation>
     </message>
     <message>
         <source>model “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>modelo “%1”</translation>
     </message>
     <message>
         <source>battery “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>batería “%1”</translation>
     </message>
     <message>
         <source>the text “%1” of “%2” in line %3</source>
-        <translation type="unfinished"></translation>
+        <translation>el texto “%1” de “%2” en la línea %3</translation>
     </message>
     <message>
         <source>the element “%1” in line %2</source>
-        <translation type="unfinished"></translation>
+        <translation>el elemento “%1” en la línea %2</translation>
     </message>
     <message>
         <source>the attribute “%1” (%2) of “%3” in line %4</source>
-        <translation type="unfinished"></translation>
+        <translation>el atributo “%1” (%2) de “%3” en la línea %4</translation>
     </message>
 </context>
 <context>
     <name>MeasuredFile</name>
     <message>
         <source>it is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>está dañado</translation>
     </message>
     <message>
         <source>a later version of Voltbok wrote it</source>
-        <translation type="unfinished"></translation>
+        <translation>lo escribió una versión posterior de Voltbok</translation>
     </message>
 </context>
 <context>
     <name>MeasuredStore</name>
     <message>
         <source>The measured values in “%1” are not used: %2. The file is left as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los valores medidos de “%1” no se usan: %2. El archivo se deja como está.</translation>
     </message>
     <message>
         <source>The measured values in “%1” cannot be read: %2. The logbook itself is not concerned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los valores medidos de “%1” no se pueden leer: %2. El libro en sí no está afectado.</translation>
     </message>
 </context>
 <context>
     <name>Opening</name>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 y %n más</numerusform>
+            <numerusform>%1 y %n más</numerusform>
         </translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Take the Logbook Over</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacerse cargo del libro</translation>
     </message>
     <message>
         <source>The logbook file “%1” is missing, but earlier versions of it are there. Nothing was changed. Restore one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el archivo del libro “%1”, pero hay versiones anteriores de él. No se ha cambiado nada. Restaure una de ellas.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is damaged: %2. Nothing was changed. Restore one of its copies, or start with an empty logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo del libro “%1” está dañado: %2. No se ha cambiado nada. Restaure una de sus copias o empiece con un libro vacío.</translation>
     </message>
     <message>
         <source>The logbook file “%1” cannot be read: %2. Nothing was changed. Put the right file in its place, or choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo del libro “%1” no se puede leer: %2. No se ha cambiado nada. Ponga el archivo correcto en su lugar o elija otra carpeta.</translation>
     </message>
     <message>
         <source>The version that you chose cannot be read any more. Nothing was changed. Start the program again, and choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La versión que eligió ya no se puede leer. No se ha cambiado nada. Inicie el programa de nuevo y elija otra.</translation>
     </message>
     <message>
         <source>Nothing could be put in the place of “%1”: %2. All is as it was. Free some space, and start the program again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido poner nada en el lugar de “%1”: %2. Todo está como estaba. Libere espacio e inicie el programa de nuevo.</translation>
     </message>
     <message>
         <source>The logbook file “%1” cannot be checked before it is opened: %2. Nothing was changed. Free some space, or see that the program can write in “%3”.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo del libro “%1” no se puede comprobar antes de abrirlo: %2. No se ha cambiado nada. Libere espacio o procure que el programa pueda escribir en “%3”.</translation>
     </message>
     <message>
         <source>The logbook file “%1” holds what this version of Voltbok would drop when it saves, and no copy of it can be put aside: %2. Nothing was changed. Free some space, and start the program again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo del libro “%1” contiene algo que esta versión de Voltbok perdería al guardar, y no se puede apartar ninguna copia de él: %2. No se ha cambiado nada. Libere espacio e inicie el programa de nuevo.</translation>
     </message>
     <message>
         <source>The logbook file holds what this version of Voltbok does not understand, and drops when it saves: %1. The file as it is now is kept as “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo del libro contiene algo que esta versión de Voltbok no entiende y que pierde al guardar: %1. El archivo tal como está ahora se conserva como “%2”.</translation>
     </message>
 </context>
 <context>
     <name>Questions</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
 </context>
 <context>
     <name>Recovery</name>
     <message>
         <source>it is missing, and the folder of its copies cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>falta, y la carpeta de sus copias no se puede leer</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo normal</translation>
     </message>
 </context>
 <context>
     <name>RecoveryQuestion</name>
     <message>
         <source>The logbook file “%1” is missing, but earlier versions of it are there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el archivo del libro “%1”, pero hay versiones anteriores de él.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is damaged: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo del libro “%1” está dañado: %2.</translation>
     </message>
     <message>
         <source>If you keep it on a disk or in a synchronised folder that is not there now, quit and bring it back first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si lo guarda en un disco o en una carpeta sincronizada que ahora no está, salga y recupérelo primero.</translation>
     </message>
     <message>
         <source>Quitting leaves the damaged file as it is. Otherwise it is kept in the same folder, under a name that begins with “voltbok-broken-”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Al salir, el archivo dañado queda como está. En otro caso se conserva en la misma carpeta, con un nombre que empieza por “voltbok-broken-”.</translation>
     </message>
     <message>
         <source>The copies in “%1” cannot be listed just now. Quit and start the program again before you choose anything else.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora mismo no se puede obtener la lista de las copias en “%1”. Salga e inicie el programa de nuevo antes de elegir otra cosa.</translation>
     </message>
     <message>
         <source>No whole copy of it was found. Quit and look for one elsewhere before you start with an empty logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha encontrado ninguna copia íntegra de él. Salga y busque una en otro sitio antes de empezar con un libro vacío.</translation>
     </message>
     <message>
         <source>No whole copy of it was found. Choose what to go on with only after a look at what it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha encontrado ninguna copia íntegra de él. Mire lo que contiene una versión antes de elegirla para continuar.</translation>
     </message>
     <message>
         <source>Choose the version to go on with; the newest is on top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija la versión con la que continuar; la más reciente está arriba.</translation>
     </message>
     <message>
         <source>What can still be read of the damaged file</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que aún se puede leer del archivo dañado</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Start with an Empty Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Empezar un libro vacío</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar</translation>
     </message>
 </context>
 <context>
     <name>Startup</name>
     <message>
         <source>A new logbook begins in “%1”: there was none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un libro nuevo empieza en “%1”: no había ninguno.</translation>
     </message>
     <message>
         <source>The logbook is checked…</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobando el libro…</translation>
     </message>
     <message>
         <source>The picture “%1” was not written: there is a file of that name, and it is no picture. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen “%1” no se ha escrito: hay un archivo con ese nombre y no es una imagen. Elija otro nombre.</translation>
     </message>
     <message>
         <source>The picture “%1” cannot be written: %2. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen “%1” no se puede escribir: %2. Elija otro nombre.</translation>
     </message>
 </context>
 <context>
     <name>StatisticsChart</name>
     <message>
         <source>(no name)</source>
-        <translation type="unfinished"></translation>
+        <translation>(sin nombre)</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutos</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargado (mAh)</translation>
     </message>
     <message>
         <source>%1 by month</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 por mes</translation>
     </message>
     <message numerus="yes">
         <source>%1 by month, the newest %n months</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 por mes, %n mes más reciente</numerusform>
+            <numerusform>%1 por mes, los %n meses más recientes</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 by model</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 por modelo</translation>
     </message>
     <message numerus="yes">
         <source>%1 by model, the %n with the most</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 por modelo, %n modelo con más</numerusform>
+            <numerusform>%1 por modelo, los %n con más</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 by location</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 por lugar</translation>
     </message>
     <message numerus="yes">
         <source>%1 by location, the %n with the most</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 por lugar, %n lugar con más</numerusform>
+            <numerusform>%1 por lugar, los %n con más</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
 </context>
 <context>
     <name>StorageFolder</name>
     <message>
         <source>A logbook cannot be kept in “%1”: “%2” is not a directory. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede guardar un libro en “%1”: “%2” no es una carpeta. Elija otra carpeta.</translation>
     </message>
     <message>
         <source>A logbook cannot be kept in “%1”: there is no permission to read and write in “%2”. Choose another folder, or ask its owner for access.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede guardar un libro en “%1”: no hay permiso para leer y escribir en “%2”. Elija otra carpeta o pida acceso a su propietario.</translation>
     </message>
 </context>
 <context>
     <name>TablePrinting</name>
     <message>
         <source>The table was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla no se ha impreso: no se puede escribir en la impresora o en su archivo. Elija otro destino.</translation>
     </message>
 </context>
 <context>
     <name>VoltbokGui</name>
     <message>
         <source>MainWindow</source>
-        <translation type="unfinished"></translation>
+        <translation>MainWindow</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menú</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Baterías</translation>
     </message>
     <message>
         <source>Model whose batteries are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo cuyas baterías se muestran</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>Welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Bienvenida</translation>
     </message>
     <message>
         <source>Please go to Options and add new model and battery!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Vaya a Opciones y añada un modelo y una batería!</translation>
     </message>
     <message>
         <source>Battery data</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos de la batería</translation>
     </message>
     <message>
         <source>Battery whose discharges are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería cuyas descargas se muestran</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería</translation>
     </message>
     <message>
         <source>Capacity discharged, in mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad descargada, en mAh</translation>
     </message>
     <message>
         <source>Capacity in mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad en mAh</translation>
     </message>
     <message>
         <source>Maximum current, in A</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriente máxima, en A</translation>
     </message>
     <message>
         <source>Maximum current in A</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriente máxima en A</translation>
     </message>
     <message>
         <source>Maximum current, in multiples of the capacity (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriente máxima, en múltiplos de la capacidad (C)</translation>
     </message>
     <message>
         <source>Maximum current in C</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriente máxima en C</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Add a location</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir un lugar</translation>
     </message>
     <message>
         <source>Add a battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una batería</translation>
     </message>
     <message>
         <source>Add a model</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir un modelo</translation>
     </message>
     <message>
         <source>Modify</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar</translation>
     </message>
     <message>
         <source>Modify the battery chosen below. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar la batería elegida abajo. Mientras no haya ninguna, no hace nada.</translation>
     </message>
     <message>
         <source>Modify the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar la batería</translation>
     </message>
     <message>
         <source>Modify the model chosen below. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar el modelo elegido abajo. Mientras no haya ninguno, no hace nada.</translation>
     </message>
     <message>
         <source>Modify the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar el modelo</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Delete a location</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar un lugar</translation>
     </message>
     <message>
         <source>Delete a battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar una batería</translation>
     </message>
     <message>
         <source>Delete a model</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar un modelo</translation>
     </message>
     <message>
         <source>Model to which batteries are assigned</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo al que se asignan baterías</translation>
     </message>
     <message>
         <source>Battery to assign to the model, or to remove from it</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería que se asigna al modelo o se quita de él</translation>
     </message>
     <message>
         <source>Add the battery to the model. While there is no model, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir la batería al modelo. Mientras no haya ningún modelo, no hace nada.</translation>
     </message>
     <message>
         <source>Add the battery to the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir la batería al modelo</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Remove the battery from the model. While there is no model, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar la batería del modelo. Mientras no haya ningún modelo, no hace nada.</translation>
     </message>
     <message>
         <source>Remove the battery from the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar la batería del modelo</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Libro</translation>
     </message>
     <message>
         <source>Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráfico</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo</translation>
     </message>
     <message>
         <source>Data capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Captura de datos</translation>
     </message>
     <message>
         <source>Quick</source>
-        <translation type="unfinished"></translation>
+        <translation>Rápido</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished"></translation>
+        <translation>Completo</translation>
     </message>
     <message>
         <source>In Quick mode you will not be asked to enter any data when battery was discharged!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡En el modo Rápido no se le pedirá ningún dato cuando se haya descargado una batería!</translation>
     </message>
     <message>
         <source>Add location</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir lugar</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Add battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir batería</translation>
     </message>
     <message>
         <source>MyBattery</source>
-        <translation type="unfinished"></translation>
+        <translation>MiBatería</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad (mAh)</translation>
     </message>
     <message>
         <source>00000</source>
-        <translation type="unfinished"></translation>
+        <translation>00000</translation>
     </message>
     <message>
         <source>1000</source>
-        <translation type="unfinished"></translation>
+        <translation>1000</translation>
     </message>
     <message>
         <source>Discharge rate (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasa de descarga (C)</translation>
     </message>
     <message>
         <source>000</source>
-        <translation type="unfinished"></translation>
+        <translation>000</translation>
     </message>
     <message>
         <source>30</source>
-        <translation type="unfinished"></translation>
+        <translation>30</translation>
     </message>
     <message>
         <source>Charge  rate (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasa de carga (C)</translation>
     </message>
     <message>
         <source>0.0</source>
-        <translation type="unfinished"></translation>
+        <translation>0.0</translation>
     </message>
     <message>
         <source>2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>2.0</translation>
     </message>
     <message>
         <source>Cycles already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciclos ya usados</translation>
     </message>
     <message>
         <source>0000</source>
-        <translation type="unfinished"></translation>
+        <translation>0000</translation>
     </message>
     <message>
         <source>0</source>
-        <translation type="unfinished"></translation>
+        <translation>0</translation>
     </message>
     <message>
         <source>Date of purchase (Y/M/D)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha de compra (A/M/D)</translation>
     </message>
     <message>
         <source>2020-01-01</source>
-        <translation type="unfinished"></translation>
+        <translation>2020-01-01</translation>
     </message>
     <message>
         <source>Add model</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir modelo</translation>
     </message>
     <message>
         <source>MyHeli</source>
-        <translation type="unfinished"></translation>
+        <translation>MiHeli</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Heli</source>
-        <translation type="unfinished"></translation>
+        <translation>Heli</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>1.00</source>
-        <translation type="unfinished"></translation>
+        <translation>1.00</translation>
     </message>
     <message>
         <source>In the unit of your choice</source>
-        <translation type="unfinished"></translation>
+        <translation>En la unidad que prefiera</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>700</source>
-        <translation type="unfinished"></translation>
+        <translation>700</translation>
     </message>
     <message>
         <source>Flights already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelos ya hechos</translation>
     </message>
     <message>
         <source>Additional notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas adicionales</translation>
     </message>
     <message>
         <source>Delete battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar batería</translation>
     </message>
     <message>
         <source>Battery to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería que se elimina</translation>
     </message>
     <message>
         <source>Really?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro?</translation>
     </message>
     <message>
         <source>Delete the battery. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar la batería. Mientras no haya ninguna, no hace nada.</translation>
     </message>
     <message>
         <source>Delete model</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar modelo</translation>
     </message>
     <message>
         <source>Model to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo que se elimina</translation>
     </message>
     <message>
         <source>Delete the model. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar el modelo. Mientras no haya ninguno, no hace nada.</translation>
     </message>
     <message>
         <source>Delete location</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar lugar</translation>
     </message>
     <message>
         <source>Location to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar que se elimina</translation>
     </message>
     <message>
         <source>Delete the location. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar el lugar. Mientras no haya ninguno, no hace nada.</translation>
     </message>
     <message>
         <source>Log book</source>
-        <translation type="unfinished"></translation>
+        <translation>Libro</translation>
     </message>
     <message>
         <source>Model whose flights are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo cuyos vuelos se muestran</translation>
     </message>
     <message>
         <source>&lt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;</translation>
     </message>
     <message>
         <source>Earlier flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo anterior</translation>
     </message>
     <message>
         <source>&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&gt;</translation>
     </message>
     <message>
         <source>Later flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo posterior</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración</translation>
     </message>
     <message>
         <source>Ambient temp</source>
-        <translation type="unfinished"></translation>
+        <translation>Temp. ambiente</translation>
     </message>
     <message>
         <source>Maximum current (A)</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriente máxima (A)</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas</translation>
     </message>
     <message>
         <source>Battery discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería descargada</translation>
     </message>
     <message>
         <source>Year-month-day</source>
-        <translation type="unfinished"></translation>
+        <translation>Año-mes-día</translation>
     </message>
     <message>
         <source>Date, year-month-day</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha, año-mes-día</translation>
     </message>
     <message>
         <source>Hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas:minutos:segundos</translation>
     </message>
     <message>
         <source>Time, hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora, horas:minutos:segundos</translation>
     </message>
     <message>
         <source>Flight log</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos del vuelo</translation>
     </message>
     <message>
         <source>Location of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar del vuelo</translation>
     </message>
     <message>
         <source>Duration, hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración, horas:minutos:segundos</translation>
     </message>
     <message>
         <source>In °C</source>
-        <translation type="unfinished"></translation>
+        <translation>En °C</translation>
     </message>
     <message>
         <source>Ambient temperature in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura ambiente en °C</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Modify model</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar modelo</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar</translation>
     </message>
     <message>
         <source>Modify battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar batería</translation>
     </message>
     <message>
         <source>Battery age: %1 years</source>
-        <translation type="unfinished"></translation>
+        <translation>Edad de la batería: %1 años</translation>
     </message>
     <message>
         <source>Chart of %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráfico de %1 en %2</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
 </context>
 <context>
     <name>WholeFile</name>
     <message>
         <source>it brings a document type of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>declara un tipo de documento propio</translation>
     </message>
     <message>
         <source>it is not a logbook: its root element is “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un libro: su elemento raíz es “%1”</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>está vacío</translation>
     </message>
     <message>
         <source>it contains zero bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>contiene bytes nulos</translation>
     </message>
     <message>
         <source>line %1 cannot be understood (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>no se entiende la línea %1 (%2)</translation>
     </message>
     <message>
         <source>it is a link to “%1”, which does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>es un enlace a “%1”, que no existe</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>es una carpeta</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo normal</translation>
     </message>
     <message>
         <source>it is larger than %1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>ocupa más de %1&#xa0;MB</translation>
     </message>
     <message>
         <source>it was written, but reads differently</source>
-        <translation type="unfinished"></translation>
+        <translation>se escribió, pero se lee distinto</translation>
     </message>
     <message>
         <source>permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>permiso denegado</translation>
     </message>
     <message>
         <source>operation not permitted</source>
-        <translation type="unfinished"></translation>
+        <translation>operación no permitida</translation>
     </message>
     <message>
         <source>the disk is read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>el disco es de solo lectura</translation>
     </message>
     <message>
         <source>no space left on device</source>
-        <translation type="unfinished"></translation>
+        <translation>no queda espacio en el dispositivo</translation>
     </message>
     <message>
         <source>no space left within your quota</source>
-        <translation type="unfinished"></translation>
+        <translation>no queda espacio dentro de su cuota</translation>
     </message>
     <message>
         <source>the file would be too large</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo sería demasiado grande</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>el disco notifica un error</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>no existe tal archivo</translation>
     </message>
     <message>
         <source>its name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>su nombre es demasiado largo</translation>
     </message>
     <message>
         <source>too many files are open</source>
-        <translation type="unfinished"></translation>
+        <translation>hay demasiados archivos abiertos</translation>
     </message>
     <message>
         <source>no space is left on the disk</source>
-        <translation type="unfinished"></translation>
+        <translation>no queda espacio en el disco</translation>
     </message>
     <message>
         <source>there is no permission to write in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay permiso para escribir en su carpeta</translation>
     </message>
 </context>
 <context>
     <name>Xlsx</name>
     <message>
         <source>there is not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay memoria suficiente</translation>
     </message>
     <message>
         <source>a sheet has no more than 1,048,576 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>una hoja no tiene más de 1&#x202f;048&#x202f;576 filas</translation>
     </message>
     <message>
         <source>this build of the program cannot write workbooks</source>
-        <translation type="unfinished"></translation>
+        <translation>esta compilación del programa no puede escribir archivos de hoja de cálculo</translation>
     </message>
 </context>
 </TS>
