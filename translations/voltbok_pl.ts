@@ -5,157 +5,157 @@
     <name>Advice</name>
     <message numerus="yes">
         <source>Bring “%1” to storage charge: it has been charged, and not used, for %n days.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Doprowadzić „%1” do napięcia składowania: pakiet jest naładowany i nieużywany od %n dnia.</numerusform>
+            <numerusform>Doprowadzić „%1” do napięcia składowania: pakiet jest naładowany i nieużywany od %n dni.</numerusform>
+            <numerusform>Doprowadzić „%1” do napięcia składowania: pakiet jest naładowany i nieużywany od %n dni.</numerusform>
         </translation>
     </message>
     <message>
         <source>Land earlier with “%1”: one of its last discharges took %2 of its capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lądować wcześniej z „%1”: jedno z ostatnich rozładowań pobrało %2 pojemności.</translation>
     </message>
     <message>
         <source>Load “%1” less: one of its last discharges reached %2 C, and its label allows %3 C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mniej obciążać „%1”: jedno z ostatnich rozładowań osiągnęło %2 C, a etykieta dopuszcza %3 C.</translation>
     </message>
     <message>
         <source>Warm “%1” before you fly: its last flight was at %2 °C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogrzać „%1” przed lotem: ostatni lot odbył się przy %2 °C.</translation>
     </message>
     <message numerus="yes">
         <source>Check the voltage of “%1”: it has not been used for %n days.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Sprawdzić napięcie „%1”: pakiet nie był używany od %n dnia.</numerusform>
+            <numerusform>Sprawdzić napięcie „%1”: pakiet nie był używany od %n dni.</numerusform>
+            <numerusform>Sprawdzić napięcie „%1”: pakiet nie był używany od %n dni.</numerusform>
         </translation>
     </message>
     <message>
         <source>Watch how “%1” performs: it was bought on %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obserwować sprawność „%1”: pakiet kupiono %2.</translation>
     </message>
     <message>
         <source>Set the timer of “%1” to %2 for “%3”: its flights on this battery show how much it needs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ustawić timer modelu „%1” na %2 dla „%3”: loty na tym pakiecie pokazują, ile go potrzeba.</translation>
     </message>
 </context>
 <context>
     <name>AdviceLimits</name>
     <message>
         <source>Charged and not used, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowany i nieużywany, uwaga po upływie</translation>
     </message>
     <message numerus="yes">
         <source> days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> dnia</numerusform>
+            <numerusform> dni</numerusform>
+            <numerusform> dni</numerusform>
         </translation>
     </message>
     <message>
         <source>Charged and not used, warning after</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowany i nieużywany, ostrzeżenie po upływie</translation>
     </message>
     <message>
         <source>Deep discharge, notice over</source>
-        <translation type="unfinished"></translation>
+        <translation>Głębokie rozładowanie, uwaga powyżej</translation>
     </message>
     <message numerus="yes">
         <source> % of the capacity</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> % pojemności</numerusform>
+            <numerusform> % pojemności</numerusform>
+            <numerusform> % pojemności</numerusform>
         </translation>
     </message>
     <message>
         <source>Deep discharges, warning over</source>
-        <translation type="unfinished"></translation>
+        <translation>Głębokie rozładowania, ostrzeżenie powyżej</translation>
     </message>
     <message>
         <source>Deep discharges, warning from</source>
-        <translation type="unfinished"></translation>
+        <translation>Głębokie rozładowania, ostrzeżenie od</translation>
     </message>
     <message numerus="yes">
         <source> of them</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> z nich</numerusform>
+            <numerusform> z nich</numerusform>
+            <numerusform> z nich</numerusform>
         </translation>
     </message>
     <message>
         <source>Newest discharges that are looked at</source>
-        <translation type="unfinished"></translation>
+        <translation>Brane pod uwagę: ostatnie</translation>
     </message>
     <message numerus="yes">
         <source> discharges</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> rozładowanie</numerusform>
+            <numerusform> rozładowania</numerusform>
+            <numerusform> rozładowań</numerusform>
         </translation>
     </message>
     <message>
         <source>Cold flight, below</source>
-        <translation type="unfinished"></translation>
+        <translation>Lot w zimnie, poniżej</translation>
     </message>
     <message numerus="yes">
         <source> °C</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> °C</numerusform>
+            <numerusform> °C</numerusform>
+            <numerusform> °C</numerusform>
         </translation>
     </message>
     <message>
         <source>Cold flight, within the last</source>
-        <translation type="unfinished"></translation>
+        <translation>Lot w zimnie, w ciągu ostatnich</translation>
     </message>
     <message>
         <source>Not used, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Nieużywany, uwaga po upływie</translation>
     </message>
     <message>
         <source>Old battery, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Stary pakiet, uwaga po upływie</translation>
     </message>
     <message numerus="yes">
         <source> years</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> roku</numerusform>
+            <numerusform> lat</numerusform>
+            <numerusform> lat</numerusform>
         </translation>
     </message>
     <message>
         <source>Timer, for a discharge of</source>
-        <translation type="unfinished"></translation>
+        <translation>Timer, dla rozładowania w wysokości</translation>
     </message>
     <message>
         <source>Timer, from so many flights on</source>
-        <translation type="unfinished"></translation>
+        <translation>Timer, począwszy od</translation>
     </message>
     <message numerus="yes">
         <source> flights</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> lotu</numerusform>
+            <numerusform> lotów</numerusform>
+            <numerusform> lotów</numerusform>
         </translation>
     </message>
     <message>
         <source>Timer, rounded down to</source>
-        <translation type="unfinished"></translation>
+        <translation>Timer, zaokrąglany w dół do</translation>
     </message>
     <message numerus="yes">
         <source> seconds</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> sekundy</numerusform>
+            <numerusform> sekund</numerusform>
+            <numerusform> sekund</numerusform>
         </translation>
     </message>
 </context>
@@ -163,92 +163,92 @@
     <name>BackupKeeper</name>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. Rename or remove it; the program tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można przechowywać kopii dziennika w „%1”: %2. Należy zmienić nazwę tego elementu lub go usunąć; program sam spróbuje ponownie.</translation>
     </message>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. Free some space; the program tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można przechowywać kopii dziennika w „%1”: %2. Należy zwolnić trochę miejsca; program sam spróbuje ponownie.</translation>
     </message>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. See that the program can write there; it tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można przechowywać kopii dziennika w „%1”: %2. Należy zadbać, aby program mógł tam zapisywać; sam spróbuje ponownie.</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>brakuje go</translation>
     </message>
 </context>
 <context>
     <name>Backups</name>
     <message>
         <source>it is a link that leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>to dowiązanie, które prowadzi donikąd</translation>
     </message>
     <message>
         <source>it is not a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>to nie jest folder</translation>
     </message>
     <message>
         <source>the copies that are there cannot be listed</source>
-        <translation type="unfinished"></translation>
+        <translation>nie można wyświetlić listy istniejących kopii</translation>
     </message>
 </context>
 <context>
     <name>BatteryChart</name>
     <message>
         <source>Capacity, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pojemność, %1</translation>
     </message>
     <message>
         <source>Permitted by the rating, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dopuszczalne wg współczynnika C, %1</translation>
     </message>
     <message>
         <source>%1 (%2 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 %)</translation>
     </message>
     <message>
         <source>Capacity used</source>
-        <translation type="unfinished"></translation>
+        <translation>Zużyta pojemność</translation>
     </message>
     <message>
         <source>Maximum current</source>
-        <translation type="unfinished"></translation>
+        <translation>Prąd maksymalny</translation>
     </message>
     <message>
         <source>Highest load</source>
-        <translation type="unfinished"></translation>
+        <translation>Największe obciążenie</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>A</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>C</source>
-        <translation type="unfinished"></translation>
+        <translation>C</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2: %Ln discharges from %3 to %4, %5 to %6.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 pakietu %2: %Ln rozładowanie od %3 do %4, od %5 do %6.</numerusform>
+            <numerusform>%1 pakietu %2: %Ln rozładowania od %3 do %4, od %5 do %6.</numerusform>
+            <numerusform>%1 pakietu %2: %Ln rozładowań od %3 do %4, od %5 do %6.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln discharges without a time are in the table alone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln rozładowanie bez daty jest tylko w tabeli.</numerusform>
+            <numerusform>%Ln rozładowania bez daty są tylko w tabeli.</numerusform>
+            <numerusform>%Ln rozładowań bez daty jest tylko w tabeli.</numerusform>
         </translation>
     </message>
 </context>
@@ -256,1389 +256,1389 @@
     <name>BatteryWidget</name>
     <message>
         <source>BatteryWidget</source>
-        <translation type="unfinished"></translation>
+        <translation>BatteryWidget</translation>
     </message>
     <message>
         <source>Last use:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostatnio:</translation>
     </message>
     <message>
         <source>Discharged:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowano:</translation>
     </message>
     <message>
         <source>Max. Current:</source>
-        <translation type="unfinished"></translation>
+        <translation>Prąd maks.:</translation>
     </message>
     <message>
         <source>Cycles:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cykle:</translation>
     </message>
     <message>
         <source>Charged</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowany</translation>
     </message>
     <message>
         <source>Discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowany</translation>
     </message>
     <message>
         <source>%1: charged; press when discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: naładowany; nacisnąć po rozładowaniu</translation>
     </message>
     <message>
         <source>%1: discharged; press when charged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: rozładowany; nacisnąć po naładowaniu</translation>
     </message>
 </context>
 <context>
     <name>CatalogueFile</name>
     <message>
         <source>the disk took only a part of it</source>
-        <translation type="unfinished"></translation>
+        <translation>dysk przyjął tylko jego część</translation>
     </message>
 </context>
 <context>
     <name>Changes</name>
     <message>
         <source>Battery %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmieniono nazwę pakietu %1</translation>
     </message>
     <message>
         <source>Charged %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Naładowano %1</translation>
     </message>
     <message>
         <source>Discharged %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowano %1</translation>
     </message>
     <message>
         <source>Battery %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmieniono pakiet %1</translation>
     </message>
     <message>
         <source>Model %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmieniono nazwę modelu %1</translation>
     </message>
     <message>
         <source>Batteries of %1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmieniono pakiety modelu %1</translation>
     </message>
     <message>
         <source>Flight of %1 recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisano lot modelu %1</translation>
     </message>
     <message>
         <source>Flight of %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Usunięto lot modelu %1</translation>
     </message>
     <message>
         <source>Flight of %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmieniono lot modelu %1</translation>
     </message>
     <message>
         <source>Model %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmieniono model %1</translation>
     </message>
     <message>
         <source>Battery %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodano pakiet %1</translation>
     </message>
     <message>
         <source>Battery %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Usunięto pakiet %1</translation>
     </message>
     <message>
         <source>Model %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodano model %1</translation>
     </message>
     <message>
         <source>Model %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Usunięto model %1</translation>
     </message>
     <message>
         <source>Location %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodano miejsce %1</translation>
     </message>
     <message>
         <source>Location %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Usunięto miejsce %1</translation>
     </message>
     <message>
         <source>Change of the logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmiana w dzienniku</translation>
     </message>
 </context>
 <context>
     <name>DateMark</name>
     <message>
         <source>Not a valid date: no date will be stored</source>
-        <translation type="unfinished"></translation>
+        <translation>Nieprawidłowa data: żadna nie zostanie zapisana</translation>
     </message>
 </context>
 <context>
     <name>Demo</name>
     <message>
         <source>The sample logbook “%1” cannot be written: %2. Free some space, or check the rights of its folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać przykładowego dziennika „%1”: %2. Należy zwolnić trochę miejsca lub sprawdzić uprawnienia jego folderu.</translation>
     </message>
 </context>
 <context>
     <name>Edits</name>
     <message>
         <source>There is no such time: the clock leaves it out, as it does where summer time begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Taka godzina nie istnieje: zegar ją pomija, jak przy przejściu na czas letni.</translation>
     </message>
     <message>
         <source>The year must be from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rok musi mieścić się w zakresie od %1 do %2.</translation>
     </message>
     <message>
         <source>The temperature must be from %1 to %2 °C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura musi mieścić się w zakresie od %1 do %2 °C.</translation>
     </message>
     <message>
         <source>The duration must be less than 24 hours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Czas trwania musi być krótszy niż 24 godziny.</translation>
     </message>
     <message>
         <source>The discharge must be from 0 to %1 mAh.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowanie musi mieścić się w zakresie od 0 do %1 mAh.</translation>
     </message>
     <message>
         <source>The current must be from 0 to %1 A.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prąd musi mieścić się w zakresie od 0 do %1 A.</translation>
     </message>
     <message>
         <source>The text holds a control character, or half a character, which the logbook file cannot hold. Leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tekst zawiera znak sterujący lub połowę znaku, czego plik dziennika nie może przechować. Należy to pominąć.</translation>
     </message>
     <message>
         <source>The flight of %1 has a discharge of the battery “%2” already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lot z %1 ma już rozładowanie pakietu „%2”.</translation>
     </message>
     <message>
         <source>None of these flights has a discharge of the battery “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Żaden z tych lotów nie ma rozładowania pakietu „%1”.</translation>
     </message>
     <message>
         <source>The name must not be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nazwa nie może być pusta.</translation>
     </message>
     <message>
         <source>There is “%1” already. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” już istnieje. Należy wybrać inną nazwę.</translation>
     </message>
 </context>
 <context>
     <name>ExportFormats</name>
     <message>
         <source>Workbook for spreadsheets (XLSX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Skoroszyt dla arkuszy kalkulacyjnych (XLSX)</translation>
     </message>
     <message>
         <source>Tables for your spreadsheet (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabele dla własnego arkusza kalkulacyjnego (CSV)</translation>
     </message>
     <message>
         <source>Tables for other programs (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabele dla innych programów (CSV)</translation>
     </message>
     <message>
         <source>Everything for scripts (JSON)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystko dla skryptów (JSON)</translation>
     </message>
     <message>
         <source>One file with five sheets, with real numbers and dates. The best choice for LibreOffice, Excel and other spreadsheets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden plik z pięcioma arkuszami, z prawdziwymi liczbami i datami. Najlepszy wybór dla LibreOffice, Excela i innych arkuszy kalkulacyjnych.</translation>
     </message>
     <message>
         <source>Five files in a folder, with the decimal sign of your country. A text that looks like a formula gets an apostrophe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pięć plików w folderze, ze znakiem dziesiętnym danego kraju. Tekst, który wygląda jak formuła, otrzymuje apostrof.</translation>
     </message>
     <message>
         <source>Five files in a folder, the same on every computer, for databases and other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pięć plików w folderze, takich samych na każdym komputerze, dla baz danych i innych programów.</translation>
     </message>
     <message>
         <source>One file that holds everything with its relations, for programs of your own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden plik, który zawiera wszystko wraz z powiązaniami, dla własnych programów.</translation>
     </message>
 </context>
 <context>
     <name>Exporting</name>
     <message>
         <source>“%1” cannot be put in its place: %2. Export again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można wstawić „%1” na właściwe miejsce: %2. Należy wyeksportować ponownie.</translation>
     </message>
     <message>
         <source>“%1” cannot be written: %2. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać „%1”: %2. Nic nie wyeksportowano.</translation>
     </message>
     <message>
         <source>This build of Voltbok cannot write XLSX. Choose csv-local for your spreadsheet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ta kompilacja programu Voltbok nie potrafi zapisywać XLSX. Dla arkusza kalkulacyjnego należy wybrać csv-local.</translation>
     </message>
     <message>
         <source>“%1” exists already. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” już istnieje. Nic nie wyeksportowano.</translation>
     </message>
     <message>
         <source>“%1” is there already, and is no file that could be replaced. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” już istnieje i nie jest plikiem, który można zastąpić. Nic nie wyeksportowano.</translation>
     </message>
     <message>
         <source>“%1” is a logbook, and nothing takes its place. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” jest dziennikiem i nic go nie zastąpi. Należy wybrać inną nazwę.</translation>
     </message>
     <message>
         <source>“%1” is not a folder. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nie jest folderem. Nic nie wyeksportowano.</translation>
     </message>
     <message>
         <source>There is no folder “%1”. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma folderu „%1”. Nic nie wyeksportowano.</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be made. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można utworzyć folderu „%1”. Nic nie wyeksportowano.</translation>
     </message>
 </context>
 <context>
     <name>Findings</name>
     <message>
         <source>%1 (line %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (wiersz %2)</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>model “%1”: no battery has a discharge at the time of the flight of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>model „%1”: żaden pakiet nie ma rozładowania w czasie lotu z %2</translation>
     </message>
     <message>
         <source>model “%1”: a flight has no time, so that no discharge belongs to it</source>
-        <translation type="unfinished"></translation>
+        <translation>model „%1”: lot nie ma daty, więc nie należy do niego żadne rozładowanie</translation>
     </message>
     <message>
         <source>battery “%1”: no model has a flight at the time of the discharge of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>pakiet „%1”: żaden model nie ma lotu w czasie rozładowania z %2</translation>
     </message>
     <message>
         <source>battery “%1”: a discharge has no time, so that no flight belongs to it</source>
-        <translation type="unfinished"></translation>
+        <translation>pakiet „%1”: rozładowanie nie ma daty, więc nie należy do niego żaden lot</translation>
     </message>
     <message>
         <source>several batteries are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>kilka pakietów nosi nazwę „%1” (wiersze %2)</translation>
     </message>
     <message>
         <source>several models are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>kilka modeli nosi nazwę „%1” (wiersze %2)</translation>
     </message>
     <message>
         <source>several locations are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>kilka miejsc nosi nazwę „%1” (wiersze %2)</translation>
     </message>
 </context>
 <context>
     <name>FlightBook</name>
     <message>
         <source>Flight book</source>
-        <translation type="unfinished"></translation>
+        <translation>Książka lotów</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>od %1 do %2</translation>
     </message>
     <message>
         <source>from %1 on</source>
-        <translation type="unfinished"></translation>
+        <translation>od %1</translation>
     </message>
     <message>
         <source>until %1</source>
-        <translation type="unfinished"></translation>
+        <translation>do %1</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Data</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Czas trwania</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiety</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Miejsce</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notatki</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Strona %1 z %2</translation>
     </message>
     <message>
         <source>Page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Strona %1</translation>
     </message>
     <message>
         <source>Place and date</source>
-        <translation type="unfinished"></translation>
+        <translation>Miejscowość i data</translation>
     </message>
     <message>
         <source>Signature</source>
-        <translation type="unfinished"></translation>
+        <translation>Podpis</translation>
     </message>
     <message>
         <source>This page</source>
-        <translation type="unfinished"></translation>
+        <translation>Ta strona</translation>
     </message>
     <message>
         <source>Brought forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Z przeniesienia</translation>
     </message>
     <message>
         <source>In all</source>
-        <translation type="unfinished"></translation>
+        <translation>Razem</translation>
     </message>
     <message>
         <source>Carried forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Do przeniesienia</translation>
     </message>
     <message>
         <source>Flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Loty: %1</translation>
     </message>
     <message>
         <source>There are no flights within these limits.</source>
-        <translation type="unfinished"></translation>
+        <translation>W tych granicach nie ma lotów.</translation>
     </message>
     <message>
         <source>There are no flights in this logbook yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>W tym dzienniku nie ma jeszcze lotów.</translation>
     </message>
 </context>
 <context>
     <name>FlightEdits</name>
     <message numerus="yes">
         <source>Enter a figure for each of the %n batteries, with a semicolon between them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Należy wpisać liczbę dla %n pakietu, kilka rozdzielonych średnikiem.</numerusform>
+            <numerusform>Należy wpisać liczbę dla każdego z %n pakietów, rozdzielone średnikiem.</numerusform>
+            <numerusform>Należy wpisać liczbę dla każdego z %n pakietów, rozdzielone średnikiem.</numerusform>
         </translation>
     </message>
     <message>
         <source>The logbook has changed meanwhile. Look at the table again, and repeat what you did.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dziennik w międzyczasie się zmienił. Należy jeszcze raz obejrzeć tabelę i powtórzyć czynność.</translation>
     </message>
 </context>
 <context>
     <name>FolderLock</name>
     <message>
         <source>The folder “%1” cannot be made: %2. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można utworzyć folderu „%1”: %2. Należy wybrać inny folder.</translation>
     </message>
     <message>
         <source>The folder “%1”, which keeps two windows from one logbook, cannot be made: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można utworzyć folderu „%1”, który nie dopuszcza dwóch okien do jednego dziennika: %2.</translation>
     </message>
     <message>
         <source>Another program keeps the folder “%1” locked. Wait until it is done, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inny program blokuje folder „%1”. Należy poczekać, aż skończy, i spróbować ponownie.</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: the lock file “%2” was left behind and cannot be removed (%3). Ask the owner of the file or of its folder to remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zablokować dziennika w „%1”: pozostał plik blokady „%2”, którego nie można usunąć (%3). O usunięcie należy poprosić właściciela tego pliku lub jego folderu.</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: the lock file “%2” cannot be written (%3).</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zablokować dziennika w „%1”: nie można zapisać pliku blokady „%2” (%3).</translation>
     </message>
     <message>
         <source>somebody else writes it</source>
-        <translation type="unfinished"></translation>
+        <translation>zapisuje go ktoś inny</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: “%2” is in the way, and is not a regular file. Remove or rename it, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zablokować dziennika w „%1”: na przeszkodzie stoi „%2”, które nie jest zwykłym plikiem. Należy to usunąć lub zmienić nazwę, potem spróbować ponownie.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is locked by the user “%2”, whose lock file “%3” cannot be read. Ask “%2” to close it first. If “%2” does not have it open, you can take it over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dziennik w „%1” jest zablokowany przez użytkownika „%2”, którego pliku blokady „%3” nie można odczytać. Należy poprosić „%2” o jego zamknięcie. Jeśli „%2” nie ma go otwartego, można go przejąć.</translation>
     </message>
     <message>
         <source>unknown program</source>
-        <translation type="unfinished"></translation>
+        <translation>nieznany program</translation>
     </message>
     <message>
         <source>%1, process %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, proces %2</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open on the computer “%2” (%3), says the lock file “%4”. Close it there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dziennik w „%1” jest otwarty na komputerze „%2” (%3), jak podaje plik blokady „%4”. Należy go tam najpierw zamknąć.</translation>
     </message>
     <message>
         <source>If that computer was switched off without closing it, you can take the logbook over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeśli tamten komputer wyłączono bez zamknięcia dziennika, można go przejąć.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open already: the user “%2” has it (%3), says the lock file “%4”. It must be closed there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dziennik w „%1” jest już otwarty: ma go użytkownik „%2” (%3), jak podaje plik blokady „%4”. Najpierw trzeba go tam zamknąć.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open already (%2). Use the window that shows it, or close that first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dziennik w „%1” jest już otwarty (%2). Należy użyć okna, które go pokazuje, lub najpierw je zamknąć.</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteriesModel</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiet</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowania</translation>
     </message>
     <message>
         <source>Measured or entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmierzone lub wpisane</translation>
     </message>
     <message>
         <source>Full cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Pełne cykle</translation>
     </message>
     <message>
         <source>Median depth (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana głębokości (%)</translation>
     </message>
     <message>
         <source>Deepest (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Najgłębsze (%)</translation>
     </message>
     <message>
         <source>Highest load (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Największe obciążenie (C)</translation>
     </message>
     <message>
         <source>Age (years)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiek (lata)</translation>
     </message>
     <message>
         <source>Days since use</source>
-        <translation type="unfinished"></translation>
+        <translation>Dni od użycia</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Loty</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuty</translation>
     </message>
     <message>
         <source>mAh per minute</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh na minutę</translation>
     </message>
     <message>
         <source>Total (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Razem (mAh)</translation>
     </message>
     <message>
         <source>The name of the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nazwa pakietu.</translation>
     </message>
     <message>
         <source>How many discharges are recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ile rozładowań zapisano.</translation>
     </message>
     <message>
         <source>How many of the discharges were measured by a radio or entered by you: medians, means and maxima are taken from these alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ile rozładowań zmierzyła aparatura lub wpisano ręcznie: tylko z nich liczone są mediany, średnie i maksima.</translation>
     </message>
     <message>
         <source>Everything that was ever drawn from the battery, divided by its capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystko, co kiedykolwiek pobrano z pakietu, podzielone przez jego pojemność.</translation>
     </message>
     <message>
         <source>Half of the discharges used less of the capacity than this, half of them more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Połowa rozładowań zużyła mniejszą część pojemności, połowa większą.</translation>
     </message>
     <message>
         <source>The largest part of the capacity that one discharge used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Największa część pojemności, jaką zużyło jedno rozładowanie.</translation>
     </message>
     <message>
         <source>The highest current, divided by the capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Największy prąd podzielony przez pojemność.</translation>
     </message>
     <message>
         <source>The time since the battery was bought.</source>
-        <translation type="unfinished"></translation>
+        <translation>Czas od zakupu pakietu.</translation>
     </message>
     <message>
         <source>The days since the battery was last used or discharged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liczba dni od ostatniego użycia lub rozładowania pakietu.</translation>
     </message>
     <message>
         <source>The flights of all models at the times of its discharges.</source>
-        <translation type="unfinished"></translation>
+        <translation>Loty wszystkich modeli w czasie jego rozładowań.</translation>
     </message>
     <message>
         <source>How long these flights took together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak długo trwały te loty łącznie.</translation>
     </message>
     <message>
         <source>What a minute of flight draws from the battery on average.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ile średnio pobiera z pakietu minuta lotu.</translation>
     </message>
     <message>
         <source>Everything that was ever drawn from the battery, guessed values included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystko, co kiedykolwiek pobrano z pakietu, łącznie z wartościami oszacowanymi.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>%1 (%2 guessed)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (w tym oszacowane: %2)</translation>
     </message>
     <message>
         <source>%1 measured or entered</source>
-        <translation type="unfinished"></translation>
+        <translation>zmierzone lub wpisane: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n days old</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>wiek: %n dzień</numerusform>
+            <numerusform>wiek: %n dni</numerusform>
+            <numerusform>wiek: %n dni</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>The date of purchase is still to come.</source>
-        <translation type="unfinished"></translation>
+        <translation>Data zakupu jest jeszcze przed nami.</translation>
     </message>
     <message>
         <source>No date of purchase was entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie wpisano daty zakupu.</translation>
     </message>
     <message>
         <source>No use before today is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie wiadomo o użyciu przed dzisiejszym dniem.</translation>
     </message>
     <message>
         <source>The battery was not used yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiet nie był jeszcze używany.</translation>
     </message>
     <message>
         <source>The battery was not discharged yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiet nie był jeszcze rozładowany.</translation>
     </message>
     <message>
         <source>The capacity of the battery is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pojemność pakietu nie jest znana.</translation>
     </message>
     <message>
         <source>No discharge was measured or entered: what was guessed does not count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Żadnego rozładowania nie zmierzono ani nie wpisano: oszacowane się nie liczą.</translation>
     </message>
     <message>
         <source>No discharge that was measured or entered has a flight with a duration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Żadne zmierzone lub wpisane rozładowanie nie ma lotu z czasem trwania.</translation>
     </message>
     <message>
         <source>No current was measured or entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie zmierzono ani nie wpisano prądu.</translation>
     </message>
     <message>
         <source>No used capacity was measured or entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie zmierzono ani nie wpisano zużytej pojemności.</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteriesTab</name>
     <message>
         <source>There is no battery yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma jeszcze żadnego pakietu. Aby dodać pierwszy, należy nacisnąć przycisk menu, a potem Edycja.</translation>
     </message>
     <message>
         <source>Batteries and their figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiety i ich dane</translation>
     </message>
     <message>
         <source>Batteries, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiety, %1</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteryPlot</name>
     <message>
         <source>As a &amp;table</source>
-        <translation type="unfinished"></translation>
+        <translation>Jako &amp;tabela</translation>
     </message>
     <message>
         <source>Pl&amp;ot:</source>
-        <translation type="unfinished"></translation>
+        <translation>W&amp;ykres:</translation>
     </message>
     <message>
         <source>What is plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>Co pokazuje wykres</translation>
     </message>
     <message>
         <source>Shows the discharges of the battery as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokazuje rozładowania pakietu jako tabelę</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowania</translation>
     </message>
     <message>
         <source>Choose a battery to see what became of it over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wybór pakietu pokaże, co się z nim działo z upływem czasu.</translation>
     </message>
     <message>
         <source>“%1” was never discharged. Record a flight with it: click its card.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nigdy nie był rozładowany. Aby zapisać z nim lot, należy kliknąć jego kartę.</translation>
     </message>
     <message>
         <source>No discharge of “%1” has a time and this figure: there is nothing to plot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Żadne rozładowanie „%1” nie ma daty i tej wartości: nie ma czego wykreślić.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 pakietu %2</translation>
     </message>
 </context>
 <context>
     <name>Host::DischargesModel</name>
     <message>
         <source>Not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie wpisano</translation>
     </message>
     <message>
         <source>Guessed</source>
-        <translation type="unfinished"></translation>
+        <translation>Oszacowane</translation>
     </message>
     <message>
         <source>Entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Wpisane</translation>
     </message>
     <message>
         <source>Measured</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmierzone</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Data i czas</translation>
     </message>
     <message>
         <source>Used (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zużyte (mAh)</translation>
     </message>
     <message>
         <source>Used (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zużyte (%)</translation>
     </message>
     <message>
         <source>Current (A)</source>
-        <translation type="unfinished"></translation>
+        <translation>Prąd (A)</translation>
     </message>
     <message>
         <source>Load (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Obciążenie (C)</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Źródło</translation>
     </message>
 </context>
 <context>
     <name>Host::ExportDialog</name>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można teraz odczytać dziennika. Należy zwolnić trochę miejsca i spróbować ponownie.</translation>
     </message>
     <message>
         <source>Only these &amp;batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Tylko te p&amp;akiety</translation>
     </message>
     <message>
         <source>Only these &amp;models</source>
-        <translation type="unfinished"></translation>
+        <translation>Tylko te &amp;modele</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksport</translation>
     </message>
     <message>
         <source>Progress of the export</source>
-        <translation type="unfinished"></translation>
+        <translation>Postęp eksportu</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eksportuj…</translation>
     </message>
     <message>
         <source>&amp;Format</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Format</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
     </message>
     <message>
         <source>F&amp;rom</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Od</translation>
     </message>
     <message>
         <source>&amp;To</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Do</translation>
     </message>
     <message numerus="yes">
         <source>&amp;Preview: the first %n rows of each table</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&amp;Podgląd: pierwszy %n wiersz każdej tabeli</numerusform>
+            <numerusform>&amp;Podgląd: pierwsze %n wiersze każdej tabeli</numerusform>
+            <numerusform>&amp;Podgląd: pierwsze %n wierszy każdej tabeli</numerusform>
         </translation>
     </message>
     <message>
         <source>The first day is later than the last one. Change one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pierwszy dzień jest późniejszy niż ostatni. Należy zmienić jeden z nich.</translation>
     </message>
     <message>
         <source>Export the Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksport dziennika</translation>
     </message>
     <message>
         <source>Workbook (*.xlsx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Skoroszyt (*.xlsx)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>Export Five Files into a Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksport pięciu plików do folderu</translation>
     </message>
     <message>
         <source>The folder has files of these names already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Folder zawiera już pliki o tych nazwach.</translation>
     </message>
     <message>
         <source>The export replaces %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksport zastąpi %1.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastąp</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Anuluj</translation>
     </message>
     <message>
         <source>The export was stopped. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksport zatrzymano. Nic nie zapisano.</translation>
     </message>
     <message>
         <source>Choose another place, or free some space, and export again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Należy wybrać inne miejsce lub zwolnić trochę miejsca i wyeksportować ponownie.</translation>
     </message>
     <message>
         <source>The logbook was exported to “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dziennik wyeksportowano do „%1”.</translation>
     </message>
     <message>
         <source>Texts that are too long for a cell (32,767 characters) were cut: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Teksty zbyt długie dla komórki (32&#xa0;767 znaków) zostały skrócone: %1.</translation>
     </message>
 </context>
 <context>
     <name>Host::ExportPreview</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Podgląd</translation>
     </message>
     <message>
         <source>First rows of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pierwsze wiersze tabeli %1</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>Host::FilterBar</name>
     <message>
         <source>Search flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Szukaj lotów</translation>
     </message>
     <message>
         <source>Only flights of the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Tylko loty modelu</translation>
     </message>
     <message>
         <source>All models</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystkie modele</translation>
     </message>
     <message>
         <source>Only flights with the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Tylko loty z pakietem</translation>
     </message>
     <message>
         <source>All batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystkie pakiety</translation>
     </message>
     <message>
         <source>Only flights at the location</source>
-        <translation type="unfinished"></translation>
+        <translation>Tylko loty w miejscu</translation>
     </message>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Wszystkie miejsca</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Od</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Do</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightBookDialog</name>
     <message>
         <source>Flight Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Książka lotów</translation>
     </message>
     <message>
         <source>&amp;From:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Od:</translation>
     </message>
     <message>
         <source>First day</source>
-        <translation type="unfinished"></translation>
+        <translation>Pierwszy dzień</translation>
     </message>
     <message>
         <source>&amp;To:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Do:</translation>
     </message>
     <message>
         <source>Last day</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostatni dzień</translation>
     </message>
     <message>
         <source>Models in the book</source>
-        <translation type="unfinished"></translation>
+        <translation>Modele w książce</translation>
     </message>
     <message>
         <source>&amp;Models:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modele:</translation>
     </message>
     <message>
         <source>A4</source>
-        <translation type="unfinished"></translation>
+        <translation>A4</translation>
     </message>
     <message>
         <source>Letter</source>
-        <translation type="unfinished"></translation>
+        <translation>Letter</translation>
     </message>
     <message>
         <source>Paper of the PDF file</source>
-        <translation type="unfinished"></translation>
+        <translation>Papier pliku PDF</translation>
     </message>
     <message>
         <source>P&amp;aper:</source>
-        <translation type="unfinished"></translation>
+        <translation>Pap&amp;ier:</translation>
     </message>
     <message>
         <source>%1 is limited</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ograniczony</translation>
     </message>
     <message>
         <source>Pa&amp;ge:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Strona:</translation>
     </message>
     <message>
         <source>Page that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokazana strona</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dru&amp;kuj…</translation>
     </message>
     <message>
         <source>&amp;Save as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zapisz jako PDF…</translation>
     </message>
     <message>
         <source>The first day is after the last one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pierwszy dzień jest po ostatnim.</translation>
     </message>
     <message>
         <source>Flights: %1, time in the air: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Loty: %1, czas w powietrzu: %2.</translation>
     </message>
     <message>
         <source>of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>z %1</translation>
     </message>
     <message>
         <source>The flight book was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Książki lotów nie wydrukowano: nie można zapisać do drukarki lub jej pliku. Należy wybrać inną drukarkę lub inny plik.</translation>
     </message>
     <message>
         <source>The flight book is printed…</source>
-        <translation type="unfinished"></translation>
+        <translation>Drukowanie książki lotów…</translation>
     </message>
     <message>
         <source>The flight book is saved…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisywanie książki lotów…</translation>
     </message>
     <message>
         <source>Save the Flight Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapis książki lotów</translation>
     </message>
     <message>
         <source>PDF document (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument PDF (*.pdf)</translation>
     </message>
     <message>
         <source>it is a logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>to jest dziennik</translation>
     </message>
     <message>
         <source>The flight book is saved in “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Książkę lotów zapisano w „%1”.</translation>
     </message>
     <message>
         <source>The flight book was not saved in “%1”: %2. Choose another place for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Książki lotów nie zapisano w „%1”: %2. Należy wybrać dla niej inne miejsce.</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightBookPreview</name>
     <message>
         <source>Preview of page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Podgląd strony %1</translation>
     </message>
     <message>
         <source>No preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak podglądu</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightDialog</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Brak</translation>
     </message>
     <message>
         <source>Add a Flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodawanie lotu</translation>
     </message>
     <message>
         <source> mAh</source>
-        <translation type="unfinished"></translation>
+        <translation> mAh</translation>
     </message>
     <message>
         <source> A</source>
-        <translation type="unfinished"></translation>
+        <translation> A</translation>
     </message>
     <message>
         <source> °C</source>
-        <translation type="unfinished"></translation>
+        <translation> °C</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Model</translation>
     </message>
     <message>
         <source>&amp;Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Data i &amp;czas</translation>
     </message>
     <message>
         <source>&amp;Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Czas tr&amp;wania</translation>
     </message>
     <message>
         <source>&amp;Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pakiet</translation>
     </message>
     <message>
         <source>D&amp;ischarged</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rozładowano</translation>
     </message>
     <message>
         <source>Maximum &amp;current</source>
-        <translation type="unfinished"></translation>
+        <translation>Prąd ma&amp;ksymalny</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>M&amp;iejsce</translation>
     </message>
     <message>
         <source>Tem&amp;perature</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Temperatura</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notatki</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj</translation>
     </message>
     <message>
         <source>Flight added</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodano lot</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsModel</name>
     <message>
         <source>not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>nie wpisano</translation>
     </message>
     <message>
         <source>guessed: what a capture presets for the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>oszacowane: wartość wstępna, którą rejestracja danych przyjmuje dla pakietu</translation>
     </message>
     <message>
         <source>measured: from a radio&apos;s log</source>
-        <translation type="unfinished"></translation>
+        <translation>zmierzone: z logu aparatury</translation>
     </message>
     <message>
         <source>entered</source>
-        <translation type="unfinished"></translation>
+        <translation>wpisane</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>no discharge at the time of this flight</source>
-        <translation type="unfinished"></translation>
+        <translation>brak rozładowania w czasie tego lotu</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Data i czas</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiety</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Czas trwania</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>Max. A</source>
-        <translation type="unfinished"></translation>
+        <translation>Maks. A</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Miejsce</translation>
     </message>
     <message>
         <source>°C</source>
-        <translation type="unfinished"></translation>
+        <translation>°C</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notatki</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsTab</name>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished"></translation>
+        <translation>Dod&amp;aj…</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usuń</translation>
     </message>
     <message>
         <source>&amp;Move…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Przenieś…</translation>
     </message>
     <message>
         <source>&amp;Tidy Up…</source>
-        <translation type="unfinished"></translation>
+        <translation>Upo&amp;rządkuj…</translation>
     </message>
     <message>
         <source>&amp;Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmień &amp;nazwę…</translation>
     </message>
     <message>
         <source>There is no model yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma jeszcze żadnego modelu. Aby dodać pierwszy, należy nacisnąć przycisk menu, a potem Edycja.</translation>
     </message>
     <message>
         <source>There is no flight yet. Add one here, or click the card of a charged battery when you have flown it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma jeszcze żadnego lotu. Można dodać go tutaj lub kliknąć kartę naładowanego pakietu po locie.</translation>
     </message>
     <message>
         <source>Flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Loty: %1</translation>
     </message>
     <message>
         <source>Flights: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Loty: %1 z %2</translation>
     </message>
     <message>
         <source>Flight edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmieniono lot</translation>
     </message>
     <message>
         <source>Delete this flight?</source>
-        <translation type="unfinished"></translation>
+        <translation>Usunąć ten lot?</translation>
     </message>
     <message numerus="yes">
         <source>Delete these %n flights?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Usunąć %n lot?</numerusform>
+            <numerusform>Usunąć te %n loty?</numerusform>
+            <numerusform>Usunąć te %n lotów?</numerusform>
         </translation>
     </message>
     <message>
         <source>Discharges at the same times can be deleted with them; the cycles of the batteries are then reduced. The models&apos; numbers of flights stay as they are. This can be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Razem z nimi można usunąć rozładowania z tego samego czasu; zmniejszy się wtedy liczba cykli pakietów. Liczby lotów modeli pozostaną bez zmian. Można to cofnąć.</translation>
     </message>
     <message>
         <source>Delete With Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuń z rozładowaniami</translation>
     </message>
     <message>
         <source>Delete Flights Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuń tylko loty</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Anuluj</translation>
     </message>
     <message>
         <source>Flight deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Usunięto lot</translation>
     </message>
     <message numerus="yes">
         <source>%n flights deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Usunięto %n lot</numerusform>
+            <numerusform>Usunięto %n loty</numerusform>
+            <numerusform>Usunięto %n lotów</numerusform>
         </translation>
     </message>
     <message>
         <source>Flight moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Przeniesiono lot</translation>
     </message>
     <message numerus="yes">
         <source>%n flights moved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Przeniesiono %n lot</numerusform>
+            <numerusform>Przeniesiono %n loty</numerusform>
+            <numerusform>Przeniesiono %n lotów</numerusform>
         </translation>
     </message>
     <message>
         <source>No flight stands twice. A flight is taken for a double when it is at most 5 s after another one of the same model and the same in everything else.</source>
-        <translation type="unfinished"></translation>
+        <translation>Żaden lot nie występuje podwójnie. Lot uważa się za powtórzony, gdy jest najwyżej 5 s po innym locie tego samego modelu i poza tym niczym się nie różni.</translation>
     </message>
     <message>
         <source>Flights that stood twice removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Usunięto podwójne loty</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsTable</name>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Loty</translation>
     </message>
 </context>
 <context>
     <name>Host::ImportDialog</name>
     <message>
         <source>Choose &amp;Logs…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wybierz &amp;logi…</translation>
     </message>
     <message>
         <source>Choose &amp;Folder or Card…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wybierz &amp;folder lub kartę…</translation>
     </message>
     <message>
         <source>&amp;Replace values that were entered</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zastąp wpisane wartości</translation>
     </message>
     <message>
         <source>&amp;Not imported:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nie zaimportowano:</translation>
     </message>
     <message>
         <source>Import Radio Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Import logów z aparatury</translation>
     </message>
     <message>
         <source>Choose Logs of Radios</source>
-        <translation type="unfinished"></translation>
+        <translation>Wybór logów z aparatury</translation>
     </message>
     <message>
         <source>Logs (*.csv *.CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Logi (*.csv *.CSV)</translation>
     </message>
     <message>
         <source>Choose a Folder with Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Wybór folderu z logami</translation>
     </message>
     <message>
         <source>Choose logs that a radio with EdgeTX or OpenTX has written, or the folder or card that they are on. Nothing on a card is ever changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Należy wybrać logi zapisane przez aparaturę z EdgeTX lub OpenTX albo folder lub kartę, na której się znajdują. Na karcie nic nie jest zmieniane.</translation>
     </message>
     <message>
         <source>Discharges in the logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowania w logach</translation>
     </message>
     <message>
         <source>Files that are not imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Pliki, których nie zaimportowano</translation>
     </message>
     <message>
         <source>Progress of the reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Postęp odczytu</translation>
     </message>
     <message>
         <source>&amp;Import</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importuj</translation>
     </message>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można teraz odczytać dziennika. Należy zwolnić trochę miejsca i spróbować ponownie.</translation>
     </message>
     <message>
         <source>The reading was stopped. What was read before is still listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odczyt zatrzymano. To, co odczytano wcześniej, jest nadal na liście.</translation>
     </message>
     <message>
         <source>There is no discharge in these logs.</source>
-        <translation type="unfinished"></translation>
+        <translation>W tych logach nie ma żadnego rozładowania.</translation>
     </message>
     <message>
         <source>What is new is added when you tick it. To choose its model or battery, double-click there, or press F2.</source>
-        <translation type="unfinished"></translation>
+        <translation>To, co nowe, zostanie dodane po zaznaczeniu. Aby wybrać model lub pakiet, należy kliknąć go dwukrotnie lub nacisnąć F2.</translation>
     </message>
     <message>
         <source>&amp;Correct the radio&apos;s clock: it seems to be %1 h slow</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Skoryguj zegar aparatury: wygląda na to, że spóźnia się o %1 h</translation>
     </message>
     <message>
         <source>&amp;Correct the radio&apos;s clock: it seems to be %1 h fast</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Skoryguj zegar aparatury: wygląda na to, że spieszy się o %1 h</translation>
     </message>
     <message>
         <source>“%1” is no log of a radio: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nie jest logiem z aparatury: %2</translation>
     </message>
     <message>
         <source>“%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1”: %2</translation>
     </message>
     <message>
         <source>“%1” holds no values.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1” nie zawiera wartości.</translation>
     </message>
     <message>
         <source>Imported 1 radio log</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaimportowano 1 log z aparatury</translation>
     </message>
     <message numerus="yes">
         <source>Imported %n radio logs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Zaimportowano %n log z aparatury</numerusform>
+            <numerusform>Zaimportowano %n logi z aparatury</numerusform>
+            <numerusform>Zaimportowano %n logów z aparatury</numerusform>
         </translation>
     </message>
     <message>
         <source>%1. Flights filled: %2; discharges added: %3. Undo in the menu Edit takes all of it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Uzupełnione loty: %2; dodane rozładowania: %3. Polecenie Cofnij w menu Edycja wycofa wszystko.</translation>
     </message>
 </context>
 <context>
     <name>Host::ImportModel</name>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wybierz…</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>What will happen</source>
-        <translation type="unfinished"></translation>
+        <translation>Co się stanie</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiet</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Czas trwania</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>Maximum A</source>
-        <translation type="unfinished"></translation>
+        <translation>Maks. A</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Log</translation>
     </message>
 </context>
 <context>
@@ -1653,137 +1653,139 @@
     <name>Host::MainWindow</name>
     <message>
         <source>&amp;Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;ziennik</translation>
     </message>
     <message>
         <source>&amp;Open Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otwórz folder…</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostatnio ot&amp;warte</translation>
     </message>
     <message>
         <source>&amp;Import Radio Logs…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importuj logi z aparatury…</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eksportuj…</translation>
     </message>
     <message>
         <source>&amp;Flight Book (print, PDF)…</source>
-        <translation type="unfinished"></translation>
+        <translation>Książka lotów (druk, &amp;PDF)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Za&amp;kończ</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Edycja</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cofnij</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;onów</translation>
     </message>
     <message>
         <source>Re&amp;name…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmień &amp;nazwę…</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Preferencje…</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Widok</translation>
     </message>
     <message>
         <source>&amp;Side Panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Panel &amp;boczny</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Pomo&amp;c</translation>
     </message>
     <message>
         <source>&amp;Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Podręcznik</translation>
     </message>
     <message>
         <source>&amp;About Voltbok</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;O programie Voltbok</translation>
     </message>
     <message>
         <source>&amp;Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cofnij: %1</translation>
     </message>
     <message>
         <source>&amp;Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;onów: %1</translation>
     </message>
     <message>
         <source>No other folder yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma jeszcze innego folderu</translation>
     </message>
     <message>
         <source>Open the Logbook in a Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwarcie dziennika w folderze</translation>
     </message>
     <message>
         <source>Voltbok %1, a battery and flight logbook for radio-controlled models.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok %1, dziennik pakietów i lotów modeli zdalnie sterowanych.</translation>
     </message>
     <message>
         <source>Voltbok is free software under the GNU General Public License, version 3 or later. Linked with Qt Charts, which is under version 3, the whole is under version 3.
 
 This logbook is kept in “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok jest wolnym oprogramowaniem na licencji GNU General Public License w wersji 3 lub późniejszej. W połączeniu z Qt Charts, który podlega wersji 3, całość podlega wersji 3.
+
+Ten dziennik jest przechowywany w „%1”.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zamknij</translation>
     </message>
     <message>
         <source>The flight on this page is not recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lot na tej stronie nie został zapisany.</translation>
     </message>
     <message>
         <source>What you entered on this page is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dane wpisane na tej stronie nie zostały zapisane.</translation>
     </message>
     <message>
         <source>Go back to record it, or leave the page without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Można wrócić i go zapisać albo opuścić stronę bez zapisu.</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation type="unfinished"></translation>
+        <translation>Opuść</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Wróć</translation>
     </message>
     <message>
         <source>Voltbok - sample logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok - przykładowy dziennik</translation>
     </message>
     <message>
         <source>The logbook is opened…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otwieranie dziennika…</translation>
     </message>
     <message>
         <source>The settings cannot be saved: there is no permission to write “%1”. What you choose will be forgotten. Change the permissions of this file and its folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać ustawień: brak uprawnienia do zapisu pliku „%1”. Dokonane wybory zostaną zapomniane. Należy zmienić uprawnienia tego pliku i jego folderu.</translation>
     </message>
     <message>
         <source>The logbook is now kept in “%1”. Open this folder the next time, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dziennik jest teraz przechowywany w „%1”. Także następnym razem należy otworzyć ten folder.</translation>
     </message>
     <message>
         <source>&amp;Language</source>
@@ -1814,515 +1816,515 @@ This logbook is kept in “%1”.</source>
     <name>Host::ManualWindow</name>
     <message>
         <source>Voltbok Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Podręcznik programu Voltbok</translation>
     </message>
 </context>
 <context>
     <name>Host::MessageBar</name>
     <message>
         <source>Close this message</source>
-        <translation type="unfinished"></translation>
+        <translation>Zamknij ten komunikat</translation>
     </message>
 </context>
 <context>
     <name>Host::MoveDialog</name>
     <message>
         <source>(Stay)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Bez zmian)</translation>
     </message>
     <message>
         <source>Move Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Przenoszenie lotów</translation>
     </message>
     <message>
         <source>To the &amp;model</source>
-        <translation type="unfinished"></translation>
+        <translation>Do &amp;modelu</translation>
     </message>
     <message>
         <source>&amp;Discharges of the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rozładowania pakietu</translation>
     </message>
     <message>
         <source>To the &amp;battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Do &amp;pakietu</translation>
     </message>
     <message>
         <source>Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Przenieś</translation>
     </message>
 </context>
 <context>
     <name>Host::OpenLogbook</name>
     <message>
         <source>Nothing was changed: what radio logs tell cannot be written: %1. See that “%2” can be written, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic nie zmieniono: nie można zapisać danych z logów aparatury: %1. Należy zadbać, aby zapis do „%2” był możliwy, i spróbować ponownie.</translation>
     </message>
     <message>
         <source>Nothing was changed: there is no space left in “%1”. Free some, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic nie zmieniono: w „%1” nie ma już miejsca. Należy zwolnić trochę miejsca i spróbować ponownie.</translation>
     </message>
     <message>
         <source>Nothing was changed: you have cancelled it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic nie zmieniono: czynność została anulowana.</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook has changed meanwhile. Look at it again, and repeat what you did.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic nie zmieniono: dziennik w międzyczasie się zmienił. Należy jeszcze raz go obejrzeć i powtórzyć czynność.</translation>
     </message>
     <message>
         <source>The logbook is changed…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmienianie dziennika…</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file cannot hold what you entered. Leave out control characters, and times that the clock does not have.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic nie zmieniono: plik dziennika nie może przechować wpisanych danych. Należy pominąć znaki sterujące i godziny, których zegar nie ma.</translation>
     </message>
     <message>
         <source>Record the flight on the discharge page first, or leave that page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Najpierw należy zapisać lot na stronie rozładowania lub opuścić tę stronę.</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file does not hold what this window shows. See the message above the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic nie zmieniono: plik dziennika nie zawiera tego, co pokazuje to okno. Patrz komunikat nad dziennikiem.</translation>
     </message>
     <message>
         <source>it cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>nie można go ponownie odczytać</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file cannot be written: %1. See that “%2” can be written, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic nie zmieniono: nie można zapisać pliku dziennika: %1. Należy zadbać, aby zapis do „%2” był możliwy, i spróbować ponownie.</translation>
     </message>
 </context>
 <context>
     <name>Host::PlotButtons</name>
     <message>
         <source>&amp;Save Plot…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapi&amp;sz wykres…</translation>
     </message>
     <message>
         <source>Save the plot as a picture (PNG or SVG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisuje wykres jako obraz (PNG lub SVG)</translation>
     </message>
     <message>
         <source>&amp;Copy Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopiuj wykres</translation>
     </message>
     <message>
         <source>Copy the plot to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiuje wykres do schowka</translation>
     </message>
     <message>
         <source>&amp;Print Plot…</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;rukuj wykres…</translation>
     </message>
     <message>
         <source>Print the plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Drukuje wykres</translation>
     </message>
     <message>
         <source>Print T&amp;able…</source>
-        <translation type="unfinished"></translation>
+        <translation>Drukuj ta&amp;belę…</translation>
     </message>
     <message>
         <source>Print the table above</source>
-        <translation type="unfinished"></translation>
+        <translation>Drukuje tabelę powyżej</translation>
     </message>
     <message>
         <source>Save the Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapis wykresu</translation>
     </message>
     <message>
         <source>PNG picture (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Obraz PNG (*.png)</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rysunek SVG (*.svg)</translation>
     </message>
     <message>
         <source>The plot was not saved: a picture is PNG or SVG. Give it a name that ends with “.png” or “.svg”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wykresu nie zapisano: obraz to PNG lub SVG. Należy nadać mu nazwę z końcówką „.png” lub „.svg”.</translation>
     </message>
     <message>
         <source>The plot was not saved in “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wykresu nie zapisano w „%1”: %2.</translation>
     </message>
     <message>
         <source>The plot was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wykresu nie wydrukowano: nie można zapisać do drukarki lub jej pliku. Należy wybrać inną drukarkę lub inny plik.</translation>
     </message>
 </context>
 <context>
     <name>Host::PreferencesDialog</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencje</translation>
     </message>
     <message>
         <source>When there is something to do</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiedy jest coś do zrobienia</translation>
     </message>
 </context>
 <context>
     <name>Host::RadioLog</name>
     <message>
         <source>It does not begin with the columns Date and Time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie zaczyna się od kolumn Date i Time.</translation>
     </message>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można go odczytać: %1.</translation>
     </message>
     <message>
         <source>It is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jest pusty.</translation>
     </message>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odczyt został anulowany.</translation>
     </message>
     <message>
         <source>Its time jumps in too many places.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jego czas przeskakuje w zbyt wielu miejscach.</translation>
     </message>
     <message>
         <source>Most of its rows have more or fewer fields than its header.</source>
-        <translation type="unfinished"></translation>
+        <translation>Większość jego wierszy ma więcej lub mniej pól niż nagłówek.</translation>
     </message>
     <message>
         <source>Its rows do not begin with a date and a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jego wiersze nie zaczynają się od daty i godziny.</translation>
     </message>
     <message>
         <source>Most of its rows do not begin with a date and a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Większość jego wierszy nie zaczyna się od daty i godziny.</translation>
     </message>
     <message>
         <source>It has a header, but no rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ma nagłówek, ale nie ma wierszy.</translation>
     </message>
 </context>
 <context>
     <name>Host::RenameDialog</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiet</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Miejsce</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmiana nazwy</translation>
     </message>
     <message>
         <source>&amp;What</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Co</translation>
     </message>
     <message>
         <source>&amp;Present name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Obecna nazwa</translation>
     </message>
     <message>
         <source>&amp;New name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nowa nazwa</translation>
     </message>
     <message>
         <source>There is none yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma jeszcze żadnego wpisu.</translation>
     </message>
     <message>
         <source>There are several of this name. Only the chosen one is renamed; models and flights that name it keep the other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jest kilka wpisów o tej nazwie. Zmieni się tylko nazwa wybranego; modele i loty, które go wymieniają, zachowają starą.</translation>
     </message>
     <message>
         <source>It is renamed everywhere at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nazwa zmieni się wszędzie jednocześnie.</translation>
     </message>
     <message>
         <source>Battery %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmieniono nazwę pakietu %1</translation>
     </message>
     <message>
         <source>Model %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmieniono nazwę modelu %1</translation>
     </message>
     <message>
         <source>Location %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmieniono nazwę miejsca %1</translation>
     </message>
 </context>
 <context>
     <name>Host::SaveCare</name>
     <message>
         <source>it cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>nie można go ponownie odczytać</translation>
     </message>
     <message>
         <source>The logbook is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dziennik nie jest zapisany.</translation>
     </message>
     <message>
         <source>What you recorded last would be lost. Go back, and try again or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostatnio zapisane dane zostałyby utracone. Należy wrócić i spróbować ponownie albo przechować dziennik gdzie indziej.</translation>
     </message>
     <message>
         <source>What you recorded last would be lost. Go back, and restore the last state or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostatnio zapisane dane zostałyby utracone. Należy wrócić i przywrócić ostatni stan albo przechować dziennik gdzie indziej.</translation>
     </message>
     <message>
         <source>Quit Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Zakończ mimo to</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Wróć</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>brakuje go</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>dysk zgłasza błąd</translation>
     </message>
     <message>
         <source>Another program has changed the logbook file. This window still shows what it held before, and your next change overwrites the file. A copy of the other version is kept in “%1”; start Voltbok again to see it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inny program zmienił plik dziennika. To okno nadal pokazuje jego poprzednią zawartość, a następna zmiana nadpisze plik. Kopia drugiej wersji jest przechowywana w „%1”; aby ją zobaczyć, należy ponownie uruchomić program Voltbok.</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Spróbuj ponownie</translation>
     </message>
     <message>
         <source>Restore Last State</source>
-        <translation type="unfinished"></translation>
+        <translation>Przywróć ostatni stan</translation>
     </message>
     <message>
         <source>Keep Elsewhere…</source>
-        <translation type="unfinished"></translation>
+        <translation>Przechowaj gdzie indziej…</translation>
     </message>
     <message>
         <source>Nothing can be saved in “%1”: %2. See that the file can be written, or keep the logbook in another folder, before you record anything.</source>
-        <translation type="unfinished"></translation>
+        <translation>W „%1” nie można niczego zapisać: %2. Przed kolejnymi wpisami należy zadbać, aby plik dało się zapisać, lub przechować dziennik w innym folderze.</translation>
     </message>
     <message>
         <source>The logbook is not saved in “%1”: %2. This window still shows everything. See that the file can be written, then try again; or keep the logbook in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dziennik nie jest zapisany w „%1”: %2. To okno nadal pokazuje wszystko. Należy zadbać, aby plik dało się zapisać, i spróbować ponownie albo przechować dziennik w innym folderze.</translation>
     </message>
     <message>
         <source>Your last change could not be saved in “%1”: %2. File and window are as they were before. See that the file can be written, or keep the logbook in another folder; then enter the change again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostatniej zmiany nie udało się zapisać w „%1”: %2. Plik i okno są takie jak przedtem. Należy zadbać, aby plik dało się zapisać, albo przechować dziennik w innym folderze, a potem wprowadzić zmianę ponownie.</translation>
     </message>
     <message>
         <source>The logbook could not be saved in “%1”: %2. This window shows less than you have recorded. Restore the last state, or keep it in another folder; then enter your last change again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się zapisać dziennika w „%1”: %2. To okno pokazuje mniej, niż wpisano. Należy przywrócić ostatni stan lub przechować dziennik w innym folderze, a potem ponownie wprowadzić ostatnią zmianę.</translation>
     </message>
     <message>
         <source>it is not written to its end</source>
-        <translation type="unfinished"></translation>
+        <translation>nie jest zapisany do końca</translation>
     </message>
     <message>
         <source>The logbook still cannot be saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dziennika nadal nie można zapisać: %1.</translation>
     </message>
     <message>
         <source>there is no whole copy</source>
-        <translation type="unfinished"></translation>
+        <translation>brak nieuszkodzonej kopii</translation>
     </message>
     <message>
         <source>The last state cannot be restored: %1. Nothing was changed. Free some space, or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można przywrócić ostatniego stanu: %1. Nic nie zmieniono. Należy zwolnić trochę miejsca lub przechować dziennik gdzie indziej.</translation>
     </message>
     <message>
         <source>The last state is restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Przywrócono ostatni stan.</translation>
     </message>
     <message>
         <source>The last state is restored. The file that was there is kept as “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Przywrócono ostatni stan. Plik, który tam był, zachowano jako „%1”.</translation>
     </message>
     <message>
         <source>Keep the Logbook in Another Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Przechowanie dziennika w innym folderze</translation>
     </message>
     <message>
         <source>There is a logbook in “%1” already. Choose an empty folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>W „%1” jest już dziennik. Należy wybrać pusty folder.</translation>
     </message>
     <message>
         <source>there is no whole state of it</source>
-        <translation type="unfinished"></translation>
+        <translation>nie ma jego nieuszkodzonego stanu</translation>
     </message>
     <message>
         <source>The logbook cannot be kept in “%1”: %2. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można przechować dziennika w „%1”: %2. Należy wybrać inny folder.</translation>
     </message>
 </context>
 <context>
     <name>Host::SidePanel</name>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Dzisiaj</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiety</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Loty</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statystyki</translation>
     </message>
     <message>
         <source>Side panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Panel boczny</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie teraz</translation>
     </message>
     <message>
         <source>The panel is about to read the logbook, which is long. Press here to go on without what is new.</source>
-        <translation type="unfinished"></translation>
+        <translation>Panel ma właśnie odczytać dziennik, który jest długi. Naciśnięcie tutaj pozwala kontynuować bez nowych danych.</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Odśwież</translation>
     </message>
     <message>
         <source>The panel does not show yet what is new. Press here to read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Panel nie pokazuje jeszcze nowych danych. Naciśnięcie tutaj je odczyta.</translation>
     </message>
 </context>
 <context>
     <name>Host::StatisticsModel</name>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Miesiąc</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Miejsce</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Loty</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuty</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowano (mAh)</translation>
     </message>
 </context>
 <context>
     <name>Host::StatisticsTab</name>
     <message>
         <source>There is nothing to add up yet. Add a battery and a model first: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma jeszcze czego sumować. Najpierw należy dodać pakiet i model: nacisnąć przycisk menu, a potem Edycja.</translation>
     </message>
     <message>
         <source>There is nothing to add up yet. Record your first flight: click the card of a charged battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma jeszcze czego sumować. Aby zapisać pierwszy lot, należy kliknąć kartę naładowanego pakietu.</translation>
     </message>
     <message>
         <source>&amp;From:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Od:</translation>
     </message>
     <message>
         <source>&amp;To:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Do:</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Miesiąc</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Miejsce</translation>
     </message>
     <message>
         <source>Add up &amp;by:</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;umowanie:</translation>
     </message>
     <message>
         <source>Add up by</source>
-        <translation type="unfinished"></translation>
+        <translation>Sumowanie</translation>
     </message>
     <message>
         <source>Pl&amp;ot:</source>
-        <translation type="unfinished"></translation>
+        <translation>W&amp;ykres:</translation>
     </message>
     <message>
         <source>What is plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>Co pokazuje wykres</translation>
     </message>
     <message>
         <source>First day</source>
-        <translation type="unfinished"></translation>
+        <translation>Pierwszy dzień</translation>
     </message>
     <message>
         <source>Last day</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostatni dzień</translation>
     </message>
     <message>
         <source>%1 is limited</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ograniczony</translation>
     </message>
     <message>
         <source>Flights, added up</source>
-        <translation type="unfinished"></translation>
+        <translation>Sumy lotów</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>The first day is after the last one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pierwszy dzień jest po ostatnim.</translation>
     </message>
     <message numerus="yes">
         <source>In all: %Ln flights, %1 minutes, %2 mAh.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Razem: %Ln lot, %1 min, %2 mAh.</numerusform>
+            <numerusform>Razem: %Ln loty, %1 min, %2 mAh.</numerusform>
+            <numerusform>Razem: %Ln lotów, %1 min, %2 mAh.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln flights without a time are not in the table.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln lotu bez daty nie ma w tabeli.</numerusform>
+            <numerusform>%Ln lotów bez daty nie ma w tabeli.</numerusform>
+            <numerusform>%Ln lotów bez daty nie ma w tabeli.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln flights without a location are not in the table.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln lotu bez miejsca nie ma w tabeli.</numerusform>
+            <numerusform>%Ln lotów bez miejsca nie ma w tabeli.</numerusform>
+            <numerusform>%Ln lotów bez miejsca nie ma w tabeli.</numerusform>
         </translation>
     </message>
 </context>
@@ -2330,1056 +2332,1056 @@ This logbook is kept in “%1”.</source>
     <name>Host::TableColumns</name>
     <message>
         <source>&amp;Sort by This Column</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sortuj według tej kolumny</translation>
     </message>
 </context>
 <context>
     <name>Host::TidyDialog</name>
     <message>
         <source>%1: %2, and again at %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 i ponownie o %3</translation>
     </message>
     <message>
         <source>Tidy Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Porządkowanie</translation>
     </message>
     <message>
         <source>These flights stand &amp;twice, as a card leaves them that was clicked twice. The second one of each that is ticked is removed, with its discharge and the cycle of its battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Te loty występują &amp;podwójnie, jak po dwukrotnym kliknięciu karty. Z każdej zaznaczonej pary usuwany jest drugi lot wraz z rozładowaniem i cyklem pakietu.</translation>
     </message>
     <message>
         <source>Flights that stand twice</source>
-        <translation type="unfinished"></translation>
+        <translation>Podwójne loty</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuń</translation>
     </message>
 </context>
 <context>
     <name>Host::TodayTab</name>
     <message>
         <source>There is no battery yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie ma jeszcze żadnego pakietu. Aby dodać pierwszy, należy nacisnąć przycisk menu, a potem Edycja.</translation>
     </message>
     <message>
         <source>Nothing to do today.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dzisiaj nic do zrobienia.</translation>
     </message>
     <message>
         <source>What to do today. Click a line to see its battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Do zrobienia dzisiaj. Kliknięcie wiersza pokazuje jego pakiet.</translation>
     </message>
     <message>
         <source>What to do today</source>
-        <translation type="unfinished"></translation>
+        <translation>Do zrobienia dzisiaj</translation>
     </message>
     <message>
         <source>Warning: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostrzeżenie: %1</translation>
     </message>
     <message>
         <source>Notice: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Uwaga: %1</translation>
     </message>
     <message>
         <source>Show “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokaż „%1”</translation>
     </message>
 </context>
 <context>
     <name>Host::VersionsModel</name>
     <message>
         <source>Copy of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopia z %1</translation>
     </message>
     <message>
         <source>%1 (damaged)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (uszkodzona)</translation>
     </message>
     <message>
         <source>%1 (cannot be read)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (nieczytelna)</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Wersja</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozmiar</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiety</translation>
     </message>
     <message>
         <source>Models</source>
-        <translation type="unfinished"></translation>
+        <translation>Modele</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Loty</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowania</translation>
     </message>
 </context>
 <context>
     <name>Import</name>
     <message>
         <source>doubtful: counter %1, current says %2</source>
-        <translation type="unfinished"></translation>
+        <translation>wątpliwe: licznik %1, według prądu %2</translation>
     </message>
     <message>
         <source>goes on with an earlier import</source>
-        <translation type="unfinished"></translation>
+        <translation>kontynuuje wcześniejszy import</translation>
     </message>
     <message>
         <source>a part of the discharge before</source>
-        <translation type="unfinished"></translation>
+        <translation>część poprzedniego rozładowania</translation>
     </message>
     <message>
         <source>the radio&apos;s clock was never set</source>
-        <translation type="unfinished"></translation>
+        <translation>zegar aparatury nigdy nie był ustawiony</translation>
     </message>
     <message>
         <source>neither consumption nor current was measured</source>
-        <translation type="unfinished"></translation>
+        <translation>nie zmierzono ani zużycia, ani prądu</translation>
     </message>
     <message>
         <source>shorter than 20 s</source>
-        <translation type="unfinished"></translation>
+        <translation>krótsze niż 20 s</translation>
     </message>
     <message>
         <source>less than 2 % of the capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>mniej niż 2 % pojemności</translation>
     </message>
     <message>
         <source>you entered the values of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>wartości lotu wpisano ręcznie</translation>
     </message>
     <message>
         <source>the flight has no discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>lot nie ma rozładowania</translation>
     </message>
     <message>
         <source>the flight has several batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>lot ma kilka pakietów</translation>
     </message>
     <message>
         <source>another log tells the same</source>
-        <translation type="unfinished"></translation>
+        <translation>inny log podaje to samo</translation>
     </message>
     <message>
         <source>parts of it are two flights of the logbook already</source>
-        <translation type="unfinished"></translation>
+        <translation>jego części to już dwa loty w dzienniku</translation>
     </message>
     <message>
         <source>the logbook takes %1 mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>dziennik przyjmuje do %1 mAh</translation>
     </message>
     <message>
         <source>the logbook takes %1 A</source>
-        <translation type="unfinished"></translation>
+        <translation>dziennik przyjmuje do %1 A</translation>
     </message>
     <message>
         <source>the logbook does not have this model</source>
-        <translation type="unfinished"></translation>
+        <translation>w dzienniku nie ma tego modelu</translation>
     </message>
     <message>
         <source>no battery is known for it</source>
-        <translation type="unfinished"></translation>
+        <translation>brak znanego pakietu dla niego</translation>
     </message>
     <message>
         <source>fills the flight of %1 with %2</source>
-        <translation type="unfinished"></translation>
+        <translation>uzupełnia lot z %1, pakiet %2</translation>
     </message>
     <message>
         <source>new</source>
-        <translation type="unfinished"></translation>
+        <translation>nowe</translation>
     </message>
     <message>
         <source>new, with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nowe, z %1</translation>
     </message>
     <message>
         <source>known</source>
-        <translation type="unfinished"></translation>
+        <translation>znane</translation>
     </message>
     <message>
         <source>bench test</source>
-        <translation type="unfinished"></translation>
+        <translation>próba na ziemi</translation>
     </message>
 </context>
 <context>
     <name>LogReading</name>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można go odczytać: %1.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation type="unfinished"></translation>
+        <translation>To nie jest zwykły plik.</translation>
     </message>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odczyt został anulowany.</translation>
     </message>
 </context>
 <context>
     <name>Losses</name>
     <message>
         <source>a comment in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>komentarz w wierszu %1</translation>
     </message>
     <message>
         <source>an instruction to other programs in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>instrukcja dla innych programów w wierszu %1</translation>
     </message>
     <message>
         <source>everything from line %1 on</source>
-        <translation type="unfinished"></translation>
+        <translation>wszystko od wiersza %1</translation>
     </message>
     <message>
         <source>model “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>model „%1”</translation>
     </message>
     <message>
         <source>battery “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>pakiet „%1”</translation>
     </message>
     <message>
         <source>the text “%1” of “%2” in line %3</source>
-        <translation type="unfinished"></translation>
+        <translation>tekst „%1” w „%2” w wierszu %3</translation>
     </message>
     <message>
         <source>the element “%1” in line %2</source>
-        <translation type="unfinished"></translation>
+        <translation>element „%1” w wierszu %2</translation>
     </message>
     <message>
         <source>the attribute “%1” (%2) of “%3” in line %4</source>
-        <translation type="unfinished"></translation>
+        <translation>atrybut „%1” (%2) w „%3” w wierszu %4</translation>
     </message>
 </context>
 <context>
     <name>MeasuredFile</name>
     <message>
         <source>it is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>plik jest uszkodzony</translation>
     </message>
     <message>
         <source>a later version of Voltbok wrote it</source>
-        <translation type="unfinished"></translation>
+        <translation>zapisała go późniejsza wersja programu Voltbok</translation>
     </message>
 </context>
 <context>
     <name>MeasuredStore</name>
     <message>
         <source>The measured values in “%1” are not used: %2. The file is left as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmierzone wartości w „%1” nie są używane: %2. Plik pozostaje bez zmian.</translation>
     </message>
     <message>
         <source>The measured values in “%1” cannot be read: %2. The logbook itself is not concerned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można odczytać zmierzonych wartości w „%1”: %2. Samego dziennika to nie dotyczy.</translation>
     </message>
 </context>
 <context>
     <name>Opening</name>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 i jeszcze %n</numerusform>
+            <numerusform>%1 i jeszcze %n</numerusform>
+            <numerusform>%1 i jeszcze %n</numerusform>
         </translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Zakończ</translation>
     </message>
     <message>
         <source>Take the Logbook Over</source>
-        <translation type="unfinished"></translation>
+        <translation>Przejmij dziennik</translation>
     </message>
     <message>
         <source>The logbook file “%1” is missing, but earlier versions of it are there. Nothing was changed. Restore one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brakuje pliku dziennika „%1”, ale są jego wcześniejsze wersje. Nic nie zmieniono. Należy przywrócić jedną z nich.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is damaged: %2. Nothing was changed. Restore one of its copies, or start with an empty logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik dziennika „%1” jest uszkodzony: %2. Nic nie zmieniono. Należy przywrócić jedną z jego kopii lub zacząć od pustego dziennika.</translation>
     </message>
     <message>
         <source>The logbook file “%1” cannot be read: %2. Nothing was changed. Put the right file in its place, or choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można odczytać pliku dziennika „%1”: %2. Nic nie zmieniono. Należy wstawić na jego miejsce właściwy plik lub wybrać inny folder.</translation>
     </message>
     <message>
         <source>The version that you chose cannot be read any more. Nothing was changed. Start the program again, and choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wybranej wersji nie można już odczytać. Nic nie zmieniono. Należy ponownie uruchomić program i wybrać inną.</translation>
     </message>
     <message>
         <source>Nothing could be put in the place of “%1”: %2. All is as it was. Free some space, and start the program again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie udało się niczego wstawić na miejsce „%1”: %2. Wszystko jest jak przedtem. Należy zwolnić trochę miejsca i ponownie uruchomić program.</translation>
     </message>
     <message>
         <source>The logbook file “%1” cannot be checked before it is opened: %2. Nothing was changed. Free some space, or see that the program can write in “%3”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pliku dziennika „%1” nie można sprawdzić przed otwarciem: %2. Nic nie zmieniono. Należy zwolnić trochę miejsca lub zadbać, aby program mógł zapisywać w „%3”.</translation>
     </message>
     <message>
         <source>The logbook file “%1” holds what this version of Voltbok would drop when it saves, and no copy of it can be put aside: %2. Nothing was changed. Free some space, and start the program again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik dziennika „%1” zawiera dane, które ta wersja programu Voltbok pominęłaby przy zapisie, a nie można odłożyć jego kopii: %2. Nic nie zmieniono. Należy zwolnić trochę miejsca i ponownie uruchomić program.</translation>
     </message>
     <message>
         <source>The logbook file holds what this version of Voltbok does not understand, and drops when it saves: %1. The file as it is now is kept as “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik dziennika zawiera dane, których ta wersja programu Voltbok nie rozumie i które pomija przy zapisie: %1. Plik w obecnej postaci zachowano jako „%2”.</translation>
     </message>
 </context>
 <context>
     <name>Questions</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Anuluj</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>Recovery</name>
     <message>
         <source>it is missing, and the folder of its copies cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>brakuje go, a folderu z jego kopiami nie można odczytać</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>brakuje go</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>to nie jest zwykły plik</translation>
     </message>
 </context>
 <context>
     <name>RecoveryQuestion</name>
     <message>
         <source>The logbook file “%1” is missing, but earlier versions of it are there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brakuje pliku dziennika „%1”, ale są jego wcześniejsze wersje.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is damaged: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plik dziennika „%1” jest uszkodzony: %2.</translation>
     </message>
     <message>
         <source>If you keep it on a disk or in a synchronised folder that is not there now, quit and bring it back first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeśli jest przechowywany na dysku lub w synchronizowanym folderze, którego teraz nie ma, należy zakończyć program i najpierw go przywrócić.</translation>
     </message>
     <message>
         <source>Quitting leaves the damaged file as it is. Otherwise it is kept in the same folder, under a name that begins with “voltbok-broken-”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zakończenie pozostawia uszkodzony plik bez zmian. W przeciwnym razie zostanie on zachowany w tym samym folderze pod nazwą zaczynającą się od „voltbok-broken-”.</translation>
     </message>
     <message>
         <source>The copies in “%1” cannot be listed just now. Quit and start the program again before you choose anything else.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można teraz wyświetlić listy kopii w „%1”. Przed wybraniem czegokolwiek innego należy zakończyć i ponownie uruchomić program.</translation>
     </message>
     <message>
         <source>No whole copy of it was found. Quit and look for one elsewhere before you start with an empty logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie znaleziono jego nieuszkodzonej kopii. Przed rozpoczęciem od pustego dziennika należy zakończyć program i poszukać jej gdzie indziej.</translation>
     </message>
     <message>
         <source>No whole copy of it was found. Choose what to go on with only after a look at what it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie znaleziono jego nieuszkodzonej kopii. Przed wyborem, od czego kontynuować, należy sprawdzić, co zawiera.</translation>
     </message>
     <message>
         <source>Choose the version to go on with; the newest is on top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Należy wybrać wersję, od której kontynuować; najnowsza jest na górze.</translation>
     </message>
     <message>
         <source>What can still be read of the damaged file</source>
-        <translation type="unfinished"></translation>
+        <translation>To, co z uszkodzonego pliku można jeszcze odczytać</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Zakończ</translation>
     </message>
     <message>
         <source>Start with an Empty Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Zacznij od pustego dziennika</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Przywróć</translation>
     </message>
 </context>
 <context>
     <name>Startup</name>
     <message>
         <source>A new logbook begins in “%1”: there was none.</source>
-        <translation type="unfinished"></translation>
+        <translation>W „%1” zaczyna się nowy dziennik: dotąd żadnego nie było.</translation>
     </message>
     <message>
         <source>The logbook is checked…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprawdzanie dziennika…</translation>
     </message>
     <message>
         <source>The picture “%1” was not written: there is a file of that name, and it is no picture. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrazu „%1” nie zapisano: istnieje plik o tej nazwie, który nie jest obrazem. Należy wybrać inną nazwę.</translation>
     </message>
     <message>
         <source>The picture “%1” cannot be written: %2. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można zapisać obrazu „%1”: %2. Należy wybrać inną nazwę.</translation>
     </message>
 </context>
 <context>
     <name>StatisticsChart</name>
     <message>
         <source>(no name)</source>
-        <translation type="unfinished"></translation>
+        <translation>(bez nazwy)</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Loty</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuty</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowano (mAh)</translation>
     </message>
     <message>
         <source>%1 by month</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 według miesięcy</translation>
     </message>
     <message numerus="yes">
         <source>%1 by month, the newest %n months</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 według miesięcy, ostatni %n miesiąc</numerusform>
+            <numerusform>%1 według miesięcy, ostatnie %n miesiące</numerusform>
+            <numerusform>%1 według miesięcy, ostatnie %n miesięcy</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 by model</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 według modeli</translation>
     </message>
     <message numerus="yes">
         <source>%1 by model, the %n with the most</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 według modeli, %n o najwyższej wartości</numerusform>
+            <numerusform>%1 według modeli, %n o najwyższych wartościach</numerusform>
+            <numerusform>%1 według modeli, %n o najwyższych wartościach</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 by location</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 według miejsc</translation>
     </message>
     <message numerus="yes">
         <source>%1 by location, the %n with the most</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 według miejsc, %n o najwyższej wartości</numerusform>
+            <numerusform>%1 według miejsc, %n o najwyższych wartościach</numerusform>
+            <numerusform>%1 według miejsc, %n o najwyższych wartościach</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
 </context>
 <context>
     <name>StorageFolder</name>
     <message>
         <source>A logbook cannot be kept in “%1”: “%2” is not a directory. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można przechowywać dziennika w „%1”: „%2” nie jest katalogiem. Należy wybrać inny folder.</translation>
     </message>
     <message>
         <source>A logbook cannot be kept in “%1”: there is no permission to read and write in “%2”. Choose another folder, or ask its owner for access.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie można przechowywać dziennika w „%1”: brak uprawnienia do odczytu i zapisu w „%2”. Należy wybrać inny folder lub poprosić jego właściciela o dostęp.</translation>
     </message>
 </context>
 <context>
     <name>TablePrinting</name>
     <message>
         <source>The table was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabeli nie wydrukowano: nie można zapisać do drukarki lub jej pliku. Należy wybrać inną drukarkę lub inny plik.</translation>
     </message>
 </context>
 <context>
     <name>VoltbokGui</name>
     <message>
         <source>MainWindow</source>
-        <translation type="unfinished"></translation>
+        <translation>MainWindow</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Przegląd</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiety</translation>
     </message>
     <message>
         <source>Model whose batteries are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Model, którego pakiety są pokazane</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Witamy</translation>
     </message>
     <message>
         <source>Please go to Options and add new model and battery!</source>
-        <translation type="unfinished"></translation>
+        <translation>Proszę przejść do Opcji i dodać nowy model i pakiet!</translation>
     </message>
     <message>
         <source>Battery data</source>
-        <translation type="unfinished"></translation>
+        <translation>Dane pakietu</translation>
     </message>
     <message>
         <source>Battery whose discharges are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiet, którego rozładowania są pokazane</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiet</translation>
     </message>
     <message>
         <source>Capacity discharged, in mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozładowana pojemność w mAh</translation>
     </message>
     <message>
         <source>Capacity in mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>Pojemność w mAh</translation>
     </message>
     <message>
         <source>Maximum current, in A</source>
-        <translation type="unfinished"></translation>
+        <translation>Prąd maksymalny w A</translation>
     </message>
     <message>
         <source>Maximum current in A</source>
-        <translation type="unfinished"></translation>
+        <translation>Prąd maksymalny w A</translation>
     </message>
     <message>
         <source>Maximum current, in multiples of the capacity (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Prąd maksymalny jako wielokrotność pojemności (C)</translation>
     </message>
     <message>
         <source>Maximum current in C</source>
-        <translation type="unfinished"></translation>
+        <translation>Prąd maksymalny w C</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Miejsce</translation>
     </message>
     <message>
         <source>Add a location</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj miejsce</translation>
     </message>
     <message>
         <source>Add a battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj pakiet</translation>
     </message>
     <message>
         <source>Add a model</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj model</translation>
     </message>
     <message>
         <source>Modify</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmień</translation>
     </message>
     <message>
         <source>Modify the battery chosen below. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmienia wybrany niżej pakiet. Dopóki żadnego nie ma, nic nie robi.</translation>
     </message>
     <message>
         <source>Modify the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmień pakiet</translation>
     </message>
     <message>
         <source>Modify the model chosen below. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmienia wybrany niżej model. Dopóki żadnego nie ma, nic nie robi.</translation>
     </message>
     <message>
         <source>Modify the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmień model</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuń</translation>
     </message>
     <message>
         <source>Delete a location</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuń miejsce</translation>
     </message>
     <message>
         <source>Delete a battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuń pakiet</translation>
     </message>
     <message>
         <source>Delete a model</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuń model</translation>
     </message>
     <message>
         <source>Model to which batteries are assigned</source>
-        <translation type="unfinished"></translation>
+        <translation>Model, do którego przypisuje się pakiety</translation>
     </message>
     <message>
         <source>Battery to assign to the model, or to remove from it</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiet do przypisania do modelu lub do odłączenia od niego</translation>
     </message>
     <message>
         <source>Add the battery to the model. While there is no model, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaje pakiet do modelu. Dopóki nie ma modelu, nic nie robi.</translation>
     </message>
     <message>
         <source>Add the battery to the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj pakiet do modelu</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odłącz</translation>
     </message>
     <message>
         <source>Remove the battery from the model. While there is no model, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odłącza pakiet od modelu. Dopóki nie ma modelu, nic nie robi.</translation>
     </message>
     <message>
         <source>Remove the battery from the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Odłącz pakiet od modelu</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opcje</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Dziennik</translation>
     </message>
     <message>
         <source>Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Wykres</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Edycja</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Tryb</translation>
     </message>
     <message>
         <source>Data capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Rejestracja danych</translation>
     </message>
     <message>
         <source>Quick</source>
-        <translation type="unfinished"></translation>
+        <translation>Szybki</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished"></translation>
+        <translation>Pełny</translation>
     </message>
     <message>
         <source>In Quick mode you will not be asked to enter any data when battery was discharged!</source>
-        <translation type="unfinished"></translation>
+        <translation>W trybie Szybkim po rozładowaniu pakietu nie trzeba wpisywać żadnych danych!</translation>
     </message>
     <message>
         <source>Add location</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj miejsce</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nazwa</translation>
     </message>
     <message>
         <source>Add battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj pakiet</translation>
     </message>
     <message>
         <source>MyBattery</source>
-        <translation type="unfinished"></translation>
+        <translation>MójPakiet</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pojemność (mAh)</translation>
     </message>
     <message>
         <source>00000</source>
-        <translation type="unfinished"></translation>
+        <translation>00000</translation>
     </message>
     <message>
         <source>1000</source>
-        <translation type="unfinished"></translation>
+        <translation>1000</translation>
     </message>
     <message>
         <source>Discharge rate (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Prąd rozładowania (C)</translation>
     </message>
     <message>
         <source>000</source>
-        <translation type="unfinished"></translation>
+        <translation>000</translation>
     </message>
     <message>
         <source>30</source>
-        <translation type="unfinished"></translation>
+        <translation>30</translation>
     </message>
     <message>
         <source>Charge  rate (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Prąd ładowania (C)</translation>
     </message>
     <message>
         <source>0.0</source>
-        <translation type="unfinished"></translation>
+        <translation>0.0</translation>
     </message>
     <message>
         <source>2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>2.0</translation>
     </message>
     <message>
         <source>Cycles already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Dotychczasowe cykle</translation>
     </message>
     <message>
         <source>0000</source>
-        <translation type="unfinished"></translation>
+        <translation>0000</translation>
     </message>
     <message>
         <source>0</source>
-        <translation type="unfinished"></translation>
+        <translation>0</translation>
     </message>
     <message>
         <source>Date of purchase (Y/M/D)</source>
-        <translation type="unfinished"></translation>
+        <translation>Data zakupu (R/M/D)</translation>
     </message>
     <message>
         <source>2020-01-01</source>
-        <translation type="unfinished"></translation>
+        <translation>2020-01-01</translation>
     </message>
     <message>
         <source>Add model</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodaj model</translation>
     </message>
     <message>
         <source>MyHeli</source>
-        <translation type="unfinished"></translation>
+        <translation>MójHeli</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Heli</source>
-        <translation type="unfinished"></translation>
+        <translation>Heli</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Masa</translation>
     </message>
     <message>
         <source>1.00</source>
-        <translation type="unfinished"></translation>
+        <translation>1.00</translation>
     </message>
     <message>
         <source>In the unit of your choice</source>
-        <translation type="unfinished"></translation>
+        <translation>W dowolnej jednostce</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozmiar</translation>
     </message>
     <message>
         <source>700</source>
-        <translation type="unfinished"></translation>
+        <translation>700</translation>
     </message>
     <message>
         <source>Flights already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Dotychczasowe loty</translation>
     </message>
     <message>
         <source>Additional notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Dodatkowe notatki</translation>
     </message>
     <message>
         <source>Delete battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuń pakiet</translation>
     </message>
     <message>
         <source>Battery to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiet do usunięcia</translation>
     </message>
     <message>
         <source>Really?</source>
-        <translation type="unfinished"></translation>
+        <translation>Na pewno?</translation>
     </message>
     <message>
         <source>Delete the battery. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuwa pakiet. Dopóki żadnego nie ma, nic nie robi.</translation>
     </message>
     <message>
         <source>Delete model</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuń model</translation>
     </message>
     <message>
         <source>Model to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Model do usunięcia</translation>
     </message>
     <message>
         <source>Delete the model. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuwa model. Dopóki żadnego nie ma, nic nie robi.</translation>
     </message>
     <message>
         <source>Delete location</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuń miejsce</translation>
     </message>
     <message>
         <source>Location to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Miejsce do usunięcia</translation>
     </message>
     <message>
         <source>Delete the location. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Usuwa miejsce. Dopóki żadnego nie ma, nic nie robi.</translation>
     </message>
     <message>
         <source>Log book</source>
-        <translation type="unfinished"></translation>
+        <translation>Dziennik</translation>
     </message>
     <message>
         <source>Model whose flights are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Model, którego loty są pokazane</translation>
     </message>
     <message>
         <source>&lt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;</translation>
     </message>
     <message>
         <source>Earlier flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Wcześniejszy lot</translation>
     </message>
     <message>
         <source>&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&gt;</translation>
     </message>
     <message>
         <source>Later flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Późniejszy lot</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Data</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Godzina</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Czas trwania</translation>
     </message>
     <message>
         <source>Ambient temp</source>
-        <translation type="unfinished"></translation>
+        <translation>Temp. otoczenia</translation>
     </message>
     <message>
         <source>Maximum current (A)</source>
-        <translation type="unfinished"></translation>
+        <translation>Prąd maksymalny (A)</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notatki</translation>
     </message>
     <message>
         <source>Battery discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>Pakiet rozładowany</translation>
     </message>
     <message>
         <source>Year-month-day</source>
-        <translation type="unfinished"></translation>
+        <translation>Rok-miesiąc-dzień</translation>
     </message>
     <message>
         <source>Date, year-month-day</source>
-        <translation type="unfinished"></translation>
+        <translation>Data, rok-miesiąc-dzień</translation>
     </message>
     <message>
         <source>Hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Godziny:minuty:sekundy</translation>
     </message>
     <message>
         <source>Time, hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Godzina, godziny:minuty:sekundy</translation>
     </message>
     <message>
         <source>Flight log</source>
-        <translation type="unfinished"></translation>
+        <translation>Wpis lotu</translation>
     </message>
     <message>
         <source>Location of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Miejsce lotu</translation>
     </message>
     <message>
         <source>Duration, hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Czas trwania, godziny:minuty:sekundy</translation>
     </message>
     <message>
         <source>In °C</source>
-        <translation type="unfinished"></translation>
+        <translation>W °C</translation>
     </message>
     <message>
         <source>Ambient temperature in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura otoczenia w °C</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Modify model</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmień model</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapisz</translation>
     </message>
     <message>
         <source>Modify battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Zmień pakiet</translation>
     </message>
     <message>
         <source>Battery age: %1 years</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiek pakietu w latach: %1</translation>
     </message>
     <message>
         <source>Chart of %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Wykres pakietu %1 w %2</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tak</translation>
     </message>
 </context>
 <context>
     <name>WholeFile</name>
     <message>
         <source>it brings a document type of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>plik zawiera własny typ dokumentu</translation>
     </message>
     <message>
         <source>it is not a logbook: its root element is “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>to nie jest dziennik: jego element główny to „%1”</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>plik jest pusty</translation>
     </message>
     <message>
         <source>it contains zero bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>plik zawiera bajty zerowe</translation>
     </message>
     <message>
         <source>line %1 cannot be understood (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>nie można zrozumieć wiersza %1 (%2)</translation>
     </message>
     <message>
         <source>it is a link to “%1”, which does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>to dowiązanie do „%1”, a ten cel nie istnieje</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>to jest folder</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>to nie jest zwykły plik</translation>
     </message>
     <message>
         <source>it is larger than %1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>plik jest większy niż %1 MB</translation>
     </message>
     <message>
         <source>it was written, but reads differently</source>
-        <translation type="unfinished"></translation>
+        <translation>plik został zapisany, ale po odczytaniu jest inny</translation>
     </message>
     <message>
         <source>permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>brak uprawnień</translation>
     </message>
     <message>
         <source>operation not permitted</source>
-        <translation type="unfinished"></translation>
+        <translation>niedozwolona operacja</translation>
     </message>
     <message>
         <source>the disk is read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>dysk jest tylko do odczytu</translation>
     </message>
     <message>
         <source>no space left on device</source>
-        <translation type="unfinished"></translation>
+        <translation>brak miejsca na urządzeniu</translation>
     </message>
     <message>
         <source>no space left within your quota</source>
-        <translation type="unfinished"></translation>
+        <translation>brak miejsca w przydzielonym limicie</translation>
     </message>
     <message>
         <source>the file would be too large</source>
-        <translation type="unfinished"></translation>
+        <translation>plik byłby zbyt duży</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>dysk zgłasza błąd</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>nie ma takiego pliku</translation>
     </message>
     <message>
         <source>its name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>jego nazwa jest zbyt długa</translation>
     </message>
     <message>
         <source>too many files are open</source>
-        <translation type="unfinished"></translation>
+        <translation>otwartych jest zbyt wiele plików</translation>
     </message>
     <message>
         <source>no space is left on the disk</source>
-        <translation type="unfinished"></translation>
+        <translation>na dysku nie ma już miejsca</translation>
     </message>
     <message>
         <source>there is no permission to write in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>brak uprawnienia do zapisu w jego folderze</translation>
     </message>
 </context>
 <context>
     <name>Xlsx</name>
     <message>
         <source>there is not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>brak pamięci</translation>
     </message>
     <message>
         <source>a sheet has no more than 1,048,576 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>arkusz ma najwyżej 1&#xa0;048&#xa0;576 wierszy</translation>
     </message>
     <message>
         <source>this build of the program cannot write workbooks</source>
-        <translation type="unfinished"></translation>
+        <translation>ta kompilacja programu nie potrafi zapisywać skoroszytów</translation>
     </message>
 </context>
 </TS>
