@@ -5,157 +5,157 @@
     <name>Advice</name>
     <message numerus="yes">
         <source>Bring “%1” to storage charge: it has been charged, and not used, for %n days.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Uveďte „%1“ na skladovací napětí: akumulátor je už %n den nabitý a nepoužívaný.</numerusform>
+            <numerusform>Uveďte „%1“ na skladovací napětí: akumulátor je už %n dny nabitý a nepoužívaný.</numerusform>
+            <numerusform>Uveďte „%1“ na skladovací napětí: akumulátor je už %n dní nabitý a nepoužívaný.</numerusform>
         </translation>
     </message>
     <message>
         <source>Land earlier with “%1”: one of its last discharges took %2 of its capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přistaňte s „%1“ dříve: jedno z posledních vybití odebralo %2 kapacity.</translation>
     </message>
     <message>
         <source>Load “%1” less: one of its last discharges reached %2 C, and its label allows %3 C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatěžujte „%1“ méně: jedno z posledních vybití dosáhlo %2 C a štítek dovoluje %3 C.</translation>
     </message>
     <message>
         <source>Warm “%1” before you fly: its last flight was at %2 °C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Před letem „%1“ zahřejte: poslední let byl při %2 °C.</translation>
     </message>
     <message numerus="yes">
         <source>Check the voltage of “%1”: it has not been used for %n days.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Zkontrolujte napětí „%1“: akumulátor nebyl použit už %n den.</numerusform>
+            <numerusform>Zkontrolujte napětí „%1“: akumulátor nebyl použit už %n dny.</numerusform>
+            <numerusform>Zkontrolujte napětí „%1“: akumulátor nebyl použit už %n dní.</numerusform>
         </translation>
     </message>
     <message>
         <source>Watch how “%1” performs: it was bought on %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sledujte výkon „%1“: akumulátor byl koupen %2.</translation>
     </message>
     <message>
         <source>Set the timer of “%1” to %2 for “%3”: its flights on this battery show how much it needs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavte časovač modelu „%1“ na %2 pro „%3“: lety s tímto akumulátorem ukazují, kolik potřebuje.</translation>
     </message>
 </context>
 <context>
     <name>AdviceLimits</name>
     <message>
         <source>Charged and not used, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Nabitý a nepoužívaný, upozornění po uplynutí</translation>
     </message>
     <message numerus="yes">
         <source> days</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> dne</numerusform>
+            <numerusform> dnů</numerusform>
+            <numerusform> dnů</numerusform>
         </translation>
     </message>
     <message>
         <source>Charged and not used, warning after</source>
-        <translation type="unfinished"></translation>
+        <translation>Nabitý a nepoužívaný, varování po uplynutí</translation>
     </message>
     <message>
         <source>Deep discharge, notice over</source>
-        <translation type="unfinished"></translation>
+        <translation>Hluboké vybití, upozornění nad</translation>
     </message>
     <message numerus="yes">
         <source> % of the capacity</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> % kapacity</numerusform>
+            <numerusform> % kapacity</numerusform>
+            <numerusform> % kapacity</numerusform>
         </translation>
     </message>
     <message>
         <source>Deep discharges, warning over</source>
-        <translation type="unfinished"></translation>
+        <translation>Hluboká vybití, varování nad</translation>
     </message>
     <message>
         <source>Deep discharges, warning from</source>
-        <translation type="unfinished"></translation>
+        <translation>Hluboká vybití, varování od</translation>
     </message>
     <message numerus="yes">
         <source> of them</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> z nich</numerusform>
+            <numerusform> z nich</numerusform>
+            <numerusform> z nich</numerusform>
         </translation>
     </message>
     <message>
         <source>Newest discharges that are looked at</source>
-        <translation type="unfinished"></translation>
+        <translation>Posuzovaná poslední vybití</translation>
     </message>
     <message numerus="yes">
         <source> discharges</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> vybití</numerusform>
+            <numerusform> vybití</numerusform>
+            <numerusform> vybití</numerusform>
         </translation>
     </message>
     <message>
         <source>Cold flight, below</source>
-        <translation type="unfinished"></translation>
+        <translation>Let v chladu, pod</translation>
     </message>
     <message numerus="yes">
         <source> °C</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> °C</numerusform>
+            <numerusform> °C</numerusform>
+            <numerusform> °C</numerusform>
         </translation>
     </message>
     <message>
         <source>Cold flight, within the last</source>
-        <translation type="unfinished"></translation>
+        <translation>Let v chladu, během posledních</translation>
     </message>
     <message>
         <source>Not used, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Nepoužívaný, upozornění po uplynutí</translation>
     </message>
     <message>
         <source>Old battery, notice after</source>
-        <translation type="unfinished"></translation>
+        <translation>Starý akumulátor, upozornění po uplynutí</translation>
     </message>
     <message numerus="yes">
         <source> years</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> roku</numerusform>
+            <numerusform> let</numerusform>
+            <numerusform> let</numerusform>
         </translation>
     </message>
     <message>
         <source>Timer, for a discharge of</source>
-        <translation type="unfinished"></translation>
+        <translation>Časovač, pro vybití</translation>
     </message>
     <message>
         <source>Timer, from so many flights on</source>
-        <translation type="unfinished"></translation>
+        <translation>Časovač, počínaje</translation>
     </message>
     <message numerus="yes">
         <source> flights</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> letem</numerusform>
+            <numerusform> lety</numerusform>
+            <numerusform> lety</numerusform>
         </translation>
     </message>
     <message>
         <source>Timer, rounded down to</source>
-        <translation type="unfinished"></translation>
+        <translation>Časovač, zaokrouhlený dolů na</translation>
     </message>
     <message numerus="yes">
         <source> seconds</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform> sekundu</numerusform>
+            <numerusform> sekundy</numerusform>
+            <numerusform> sekund</numerusform>
         </translation>
     </message>
 </context>
@@ -163,92 +163,92 @@
     <name>BackupKeeper</name>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. Rename or remove it; the program tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>V „%1“ nelze uchovávat kopie deníku: %2. Přejmenujte nebo odstraňte tuto položku; program to sám zkusí znovu.</translation>
     </message>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. Free some space; the program tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>V „%1“ nelze uchovávat kopie deníku: %2. Uvolněte místo; program to sám zkusí znovu.</translation>
     </message>
     <message>
         <source>No copy of the logbook can be kept in “%1”: %2. See that the program can write there; it tries again by itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>V „%1“ nelze uchovávat kopie deníku: %2. Zajistěte, aby tam program mohl zapisovat; sám to zkusí znovu.</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>chybí</translation>
     </message>
 </context>
 <context>
     <name>Backups</name>
     <message>
         <source>it is a link that leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>je to odkaz, který nikam nevede</translation>
     </message>
     <message>
         <source>it is not a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>není to složka</translation>
     </message>
     <message>
         <source>the copies that are there cannot be listed</source>
-        <translation type="unfinished"></translation>
+        <translation>existující kopie nelze vypsat</translation>
     </message>
 </context>
 <context>
     <name>BatteryChart</name>
     <message>
         <source>Capacity, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapacita, %1</translation>
     </message>
     <message>
         <source>Permitted by the rating, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dovoleno podle C-hodnoty, %1</translation>
     </message>
     <message>
         <source>%1 (%2 %)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2 %)</translation>
     </message>
     <message>
         <source>Capacity used</source>
-        <translation type="unfinished"></translation>
+        <translation>Využitá kapacita</translation>
     </message>
     <message>
         <source>Maximum current</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximální proud</translation>
     </message>
     <message>
         <source>Highest load</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejvyšší zatížení</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>A</source>
-        <translation type="unfinished"></translation>
+        <translation>A</translation>
     </message>
     <message>
         <source>C</source>
-        <translation type="unfinished"></translation>
+        <translation>C</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %2: %Ln discharges from %3 to %4, %5 to %6.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 akumulátoru %2: %Ln vybití od %3 do %4, od %5 do %6.</numerusform>
+            <numerusform>%1 akumulátoru %2: %Ln vybití od %3 do %4, od %5 do %6.</numerusform>
+            <numerusform>%1 akumulátoru %2: %Ln vybití od %3 do %4, od %5 do %6.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln discharges without a time are in the table alone.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln vybití bez data je jen v tabulce.</numerusform>
+            <numerusform>%Ln vybití bez data jsou jen v tabulce.</numerusform>
+            <numerusform>%Ln vybití bez data je jen v tabulce.</numerusform>
         </translation>
     </message>
 </context>
@@ -256,1389 +256,1389 @@
     <name>BatteryWidget</name>
     <message>
         <source>BatteryWidget</source>
-        <translation type="unfinished"></translation>
+        <translation>BatteryWidget</translation>
     </message>
     <message>
         <source>Last use:</source>
-        <translation type="unfinished"></translation>
+        <translation>Naposledy:</translation>
     </message>
     <message>
         <source>Discharged:</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybito:</translation>
     </message>
     <message>
         <source>Max. Current:</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. proud:</translation>
     </message>
     <message>
         <source>Cycles:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cykly:</translation>
     </message>
     <message>
         <source>Charged</source>
-        <translation type="unfinished"></translation>
+        <translation>Nabitý</translation>
     </message>
     <message>
         <source>Discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybitý</translation>
     </message>
     <message>
         <source>%1: charged; press when discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nabitý; po vybití stiskněte</translation>
     </message>
     <message>
         <source>%1: discharged; press when charged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: vybitý; po nabití stiskněte</translation>
     </message>
 </context>
 <context>
     <name>CatalogueFile</name>
     <message>
         <source>the disk took only a part of it</source>
-        <translation type="unfinished"></translation>
+        <translation>disk z něj přijal jen část</translation>
     </message>
 </context>
 <context>
     <name>Changes</name>
     <message>
         <source>Battery %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenován akumulátor %1</translation>
     </message>
     <message>
         <source>Charged %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nabit %1</translation>
     </message>
     <message>
         <source>Discharged %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybit %1</translation>
     </message>
     <message>
         <source>Battery %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Upraven akumulátor %1</translation>
     </message>
     <message>
         <source>Model %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenován model %1</translation>
     </message>
     <message>
         <source>Batteries of %1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Změněny akumulátory modelu %1</translation>
     </message>
     <message>
         <source>Flight of %1 recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaznamenán let modelu %1</translation>
     </message>
     <message>
         <source>Flight of %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazán let modelu %1</translation>
     </message>
     <message>
         <source>Flight of %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Upraven let modelu %1</translation>
     </message>
     <message>
         <source>Model %1 edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Upraven model %1</translation>
     </message>
     <message>
         <source>Battery %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidán akumulátor %1</translation>
     </message>
     <message>
         <source>Battery %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazán akumulátor %1</translation>
     </message>
     <message>
         <source>Model %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidán model %1</translation>
     </message>
     <message>
         <source>Model %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazán model %1</translation>
     </message>
     <message>
         <source>Location %1 added</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidáno místo %1</translation>
     </message>
     <message>
         <source>Location %1 deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazáno místo %1</translation>
     </message>
     <message>
         <source>Change of the logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Změna deníku</translation>
     </message>
 </context>
 <context>
     <name>DateMark</name>
     <message>
         <source>Not a valid date: no date will be stored</source>
-        <translation type="unfinished"></translation>
+        <translation>Neplatné datum: žádné se neuloží</translation>
     </message>
 </context>
 <context>
     <name>Demo</name>
     <message>
         <source>The sample logbook “%1” cannot be written: %2. Free some space, or check the rights of its folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukázkový deník „%1“ nelze zapsat: %2. Uvolněte místo nebo zkontrolujte oprávnění jeho složky.</translation>
     </message>
 </context>
 <context>
     <name>Edits</name>
     <message>
         <source>There is no such time: the clock leaves it out, as it does where summer time begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Takový čas neexistuje: hodiny ho vynechávají, jako při přechodu na letní čas.</translation>
     </message>
     <message>
         <source>The year must be from %1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rok musí být od %1 do %2.</translation>
     </message>
     <message>
         <source>The temperature must be from %1 to %2 °C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Teplota musí být od %1 do %2 °C.</translation>
     </message>
     <message>
         <source>The duration must be less than 24 hours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Trvání musí být kratší než 24 hodin.</translation>
     </message>
     <message>
         <source>The discharge must be from 0 to %1 mAh.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybití musí být od 0 do %1 mAh.</translation>
     </message>
     <message>
         <source>The current must be from 0 to %1 A.</source>
-        <translation type="unfinished"></translation>
+        <translation>Proud musí být od 0 do %1 A.</translation>
     </message>
     <message>
         <source>The text holds a control character, or half a character, which the logbook file cannot hold. Leave it out.</source>
-        <translation type="unfinished"></translation>
+        <translation>Text obsahuje řídicí znak nebo polovinu znaku, což soubor deníku nemůže pojmout. Vynechte to.</translation>
     </message>
     <message>
         <source>The flight of %1 has a discharge of the battery “%2” already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Let z %1 už má vybití akumulátoru „%2“.</translation>
     </message>
     <message>
         <source>None of these flights has a discharge of the battery “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný z těchto letů nemá vybití akumulátoru „%1“.</translation>
     </message>
     <message>
         <source>The name must not be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Název nesmí být prázdný.</translation>
     </message>
     <message>
         <source>There is “%1” already. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ už existuje. Zvolte jiný název.</translation>
     </message>
 </context>
 <context>
     <name>ExportFormats</name>
     <message>
         <source>Workbook for spreadsheets (XLSX)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sešit pro tabulkové programy (XLSX)</translation>
     </message>
     <message>
         <source>Tables for your spreadsheet (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulky pro váš tabulkový program (CSV)</translation>
     </message>
     <message>
         <source>Tables for other programs (CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulky pro jiné programy (CSV)</translation>
     </message>
     <message>
         <source>Everything for scripts (JSON)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vše pro skripty (JSON)</translation>
     </message>
     <message>
         <source>One file with five sheets, with real numbers and dates. The best choice for LibreOffice, Excel and other spreadsheets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden soubor s pěti listy, se skutečnými čísly a daty. Nejlepší volba pro LibreOffice, Excel a další tabulkové programy.</translation>
     </message>
     <message>
         <source>Five files in a folder, with the decimal sign of your country. A text that looks like a formula gets an apostrophe.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pět souborů ve složce, s desetinným oddělovačem vaší země. Text, který vypadá jako vzorec, dostane apostrof.</translation>
     </message>
     <message>
         <source>Five files in a folder, the same on every computer, for databases and other programs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pět souborů ve složce, stejných na každém počítači, pro databáze a jiné programy.</translation>
     </message>
     <message>
         <source>One file that holds everything with its relations, for programs of your own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden soubor, který obsahuje vše i se vztahy, pro vaše vlastní programy.</translation>
     </message>
 </context>
 <context>
     <name>Exporting</name>
     <message>
         <source>“%1” cannot be put in its place: %2. Export again.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze umístit na jeho místo: %2. Exportujte znovu.</translation>
     </message>
     <message>
         <source>“%1” cannot be written: %2. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nelze zapsat: %2. Nic se neexportovalo.</translation>
     </message>
     <message>
         <source>This build of Voltbok cannot write XLSX. Choose csv-local for your spreadsheet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toto sestavení programu Voltbok neumí zapisovat XLSX. Pro tabulkový program zvolte csv-local.</translation>
     </message>
     <message>
         <source>“%1” exists already. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ už existuje. Nic se neexportovalo.</translation>
     </message>
     <message>
         <source>“%1” is there already, and is no file that could be replaced. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ už existuje a není to soubor, který by bylo možné nahradit. Nic se neexportovalo.</translation>
     </message>
     <message>
         <source>“%1” is a logbook, and nothing takes its place. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ je deník a nic ho nenahradí. Zvolte jiný název.</translation>
     </message>
     <message>
         <source>“%1” is not a folder. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ není složka. Nic se neexportovalo.</translation>
     </message>
     <message>
         <source>There is no folder “%1”. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka „%1“ neexistuje. Nic se neexportovalo.</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be made. Nothing was exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složku „%1“ nelze vytvořit. Nic se neexportovalo.</translation>
     </message>
 </context>
 <context>
     <name>Findings</name>
     <message>
         <source>%1 (line %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (řádek %2)</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>model “%1”: no battery has a discharge at the time of the flight of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>model „%1“: žádný akumulátor nemá vybití v čase letu z %2</translation>
     </message>
     <message>
         <source>model “%1”: a flight has no time, so that no discharge belongs to it</source>
-        <translation type="unfinished"></translation>
+        <translation>model „%1“: let nemá datum, a proto k němu nepatří žádné vybití</translation>
     </message>
     <message>
         <source>battery “%1”: no model has a flight at the time of the discharge of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>akumulátor „%1“: žádný model nemá let v čase vybití z %2</translation>
     </message>
     <message>
         <source>battery “%1”: a discharge has no time, so that no flight belongs to it</source>
-        <translation type="unfinished"></translation>
+        <translation>akumulátor „%1“: vybití nemá datum, a proto k němu nepatří žádný let</translation>
     </message>
     <message>
         <source>several batteries are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>několik akumulátorů se jmenuje „%1“ (řádky %2)</translation>
     </message>
     <message>
         <source>several models are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>několik modelů se jmenuje „%1“ (řádky %2)</translation>
     </message>
     <message>
         <source>several locations are called “%1” (lines %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>několik míst se jmenuje „%1“ (řádky %2)</translation>
     </message>
 </context>
 <context>
     <name>FlightBook</name>
     <message>
         <source>Flight book</source>
-        <translation type="unfinished"></translation>
+        <translation>Letová kniha</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>od %1 do %2</translation>
     </message>
     <message>
         <source>from %1 on</source>
-        <translation type="unfinished"></translation>
+        <translation>od %1</translation>
     </message>
     <message>
         <source>until %1</source>
-        <translation type="unfinished"></translation>
+        <translation>do %1</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Trvání</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátory</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznámky</translation>
     </message>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Strana %1 z %2</translation>
     </message>
     <message>
         <source>Page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Strana %1</translation>
     </message>
     <message>
         <source>Place and date</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo a datum</translation>
     </message>
     <message>
         <source>Signature</source>
-        <translation type="unfinished"></translation>
+        <translation>Podpis</translation>
     </message>
     <message>
         <source>This page</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato strana</translation>
     </message>
     <message>
         <source>Brought forward</source>
-        <translation type="unfinished"></translation>
+        <translation>Převedeno</translation>
     </message>
     <message>
         <source>In all</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem</translation>
     </message>
     <message>
         <source>Carried forward</source>
-        <translation type="unfinished"></translation>
+        <translation>K převodu</translation>
     </message>
     <message>
         <source>Flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety: %1</translation>
     </message>
     <message>
         <source>There are no flights within these limits.</source>
-        <translation type="unfinished"></translation>
+        <translation>V těchto mezích nejsou žádné lety.</translation>
     </message>
     <message>
         <source>There are no flights in this logbook yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>V tomto deníku zatím nejsou žádné lety.</translation>
     </message>
 </context>
 <context>
     <name>FlightEdits</name>
     <message numerus="yes">
         <source>Enter a figure for each of the %n batteries, with a semicolon between them.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Zadejte číslo pro %n akumulátor, více čísel oddělte středníkem.</numerusform>
+            <numerusform>Zadejte čísla pro všechny %n akumulátory, oddělená středníkem.</numerusform>
+            <numerusform>Zadejte čísla pro všech %n akumulátorů, oddělená středníkem.</numerusform>
         </translation>
     </message>
     <message>
         <source>The logbook has changed meanwhile. Look at the table again, and repeat what you did.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník se mezitím změnil. Podívejte se na tabulku znovu a úkon zopakujte.</translation>
     </message>
 </context>
 <context>
     <name>FolderLock</name>
     <message>
         <source>The folder “%1” cannot be made: %2. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složku „%1“ nelze vytvořit: %2. Zvolte jinou složku.</translation>
     </message>
     <message>
         <source>The folder “%1”, which keeps two windows from one logbook, cannot be made: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složku „%1“, která brání dvěma oknům v použití jednoho deníku, nelze vytvořit: %2.</translation>
     </message>
     <message>
         <source>Another program keeps the folder “%1” locked. Wait until it is done, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složku „%1“ má zamčenou jiný program. Počkejte, až skončí, a zkuste to znovu.</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: the lock file “%2” was left behind and cannot be removed (%3). Ask the owner of the file or of its folder to remove it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník v „%1“ nelze zamknout: zůstal zde soubor zámku „%2“ a nelze ho odstranit (%3). O odstranění požádejte vlastníka tohoto souboru nebo jeho složky.</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: the lock file “%2” cannot be written (%3).</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník v „%1“ nelze zamknout: soubor zámku „%2“ nelze zapsat (%3).</translation>
     </message>
     <message>
         <source>somebody else writes it</source>
-        <translation type="unfinished"></translation>
+        <translation>zapisuje ho někdo jiný</translation>
     </message>
     <message>
         <source>The logbook in “%1” cannot be locked: “%2” is in the way, and is not a regular file. Remove or rename it, then try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník v „%1“ nelze zamknout: v cestě stojí „%2“, což není běžný soubor. Odstraňte ho nebo přejmenujte a zkuste to znovu.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is locked by the user “%2”, whose lock file “%3” cannot be read. Ask “%2” to close it first. If “%2” does not have it open, you can take it over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník v „%1“ má zamčený uživatel „%2“, jehož soubor zámku „%3“ nelze přečíst. Nejprve požádejte uživatele „%2“, aby deník zavřel. Pokud ho „%2“ nemá otevřený, můžete ho převzít.</translation>
     </message>
     <message>
         <source>unknown program</source>
-        <translation type="unfinished"></translation>
+        <translation>neznámý program</translation>
     </message>
     <message>
         <source>%1, process %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, proces %2</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open on the computer “%2” (%3), says the lock file “%4”. Close it there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník v „%1“ je otevřen na počítači „%2“ (%3), uvádí soubor zámku „%4“. Nejprve ho tam zavřete.</translation>
     </message>
     <message>
         <source>If that computer was switched off without closing it, you can take the logbook over.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pokud byl onen počítač vypnut bez zavření deníku, můžete deník převzít.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open already: the user “%2” has it (%3), says the lock file “%4”. It must be closed there first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník v „%1“ je už otevřen: má ho uživatel „%2“ (%3), uvádí soubor zámku „%4“. Nejprve se tam musí zavřít.</translation>
     </message>
     <message>
         <source>The logbook in “%1” is open already (%2). Use the window that shows it, or close that first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník v „%1“ je už otevřen (%2). Použijte okno, které ho zobrazuje, nebo ho nejprve zavřete.</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteriesModel</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátor</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybití</translation>
     </message>
     <message>
         <source>Measured or entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Změřeno nebo zadáno</translation>
     </message>
     <message>
         <source>Full cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Plné cykly</translation>
     </message>
     <message>
         <source>Median depth (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Medián hloubky (%)</translation>
     </message>
     <message>
         <source>Deepest (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejhlubší (%)</translation>
     </message>
     <message>
         <source>Highest load (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejvyšší zatížení (C)</translation>
     </message>
     <message>
         <source>Age (years)</source>
-        <translation type="unfinished"></translation>
+        <translation>Stáří (roky)</translation>
     </message>
     <message>
         <source>Days since use</source>
-        <translation type="unfinished"></translation>
+        <translation>Dnů od použití</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuty</translation>
     </message>
     <message>
         <source>mAh per minute</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh za minutu</translation>
     </message>
     <message>
         <source>Total (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Celkem (mAh)</translation>
     </message>
     <message>
         <source>The name of the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Název akumulátoru.</translation>
     </message>
     <message>
         <source>How many discharges are recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolik vybití je zaznamenáno.</translation>
     </message>
     <message>
         <source>How many of the discharges were measured by a radio or entered by you: medians, means and maxima are taken from these alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolik vybití změřila vysílačka nebo jste zadali: jen z nich se počítají mediány, průměry a maxima.</translation>
     </message>
     <message>
         <source>Everything that was ever drawn from the battery, divided by its capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vše, co se kdy z akumulátoru odebralo, děleno jeho kapacitou.</translation>
     </message>
     <message>
         <source>Half of the discharges used less of the capacity than this, half of them more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Polovina vybití využila menší část kapacity, polovina větší.</translation>
     </message>
     <message>
         <source>The largest part of the capacity that one discharge used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Největší část kapacity, kterou využilo jedno vybití.</translation>
     </message>
     <message>
         <source>The highest current, divided by the capacity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejvyšší proud dělený kapacitou.</translation>
     </message>
     <message>
         <source>The time since the battery was bought.</source>
-        <translation type="unfinished"></translation>
+        <translation>Doba od koupě akumulátoru.</translation>
     </message>
     <message>
         <source>The days since the battery was last used or discharged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Počet dnů od posledního použití nebo vybití akumulátoru.</translation>
     </message>
     <message>
         <source>The flights of all models at the times of its discharges.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety všech modelů v čase jeho vybití.</translation>
     </message>
     <message>
         <source>How long these flights took together.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jak dlouho tyto lety celkem trvaly.</translation>
     </message>
     <message>
         <source>What a minute of flight draws from the battery on average.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolik v průměru odebere z akumulátoru minuta letu.</translation>
     </message>
     <message>
         <source>Everything that was ever drawn from the battery, guessed values included.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vše, co se kdy z akumulátoru odebralo, včetně odhadnutých hodnot.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 z %2</translation>
     </message>
     <message>
         <source>%1 (%2 guessed)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (odhadnuto %2)</translation>
     </message>
     <message>
         <source>%1 measured or entered</source>
-        <translation type="unfinished"></translation>
+        <translation>změřeno nebo zadáno: %1</translation>
     </message>
     <message numerus="yes">
         <source>%n days old</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>stáří %n den</numerusform>
+            <numerusform>stáří %n dny</numerusform>
+            <numerusform>stáří %n dnů</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>The date of purchase is still to come.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum koupě teprve přijde.</translation>
     </message>
     <message>
         <source>No date of purchase was entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum koupě nebylo zadáno.</translation>
     </message>
     <message>
         <source>No use before today is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádné použití před dneškem není známo.</translation>
     </message>
     <message>
         <source>The battery was not used yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátor ještě nebyl použit.</translation>
     </message>
     <message>
         <source>The battery was not discharged yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátor ještě nebyl vybit.</translation>
     </message>
     <message>
         <source>The capacity of the battery is not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapacita akumulátoru není známa.</translation>
     </message>
     <message>
         <source>No discharge was measured or entered: what was guessed does not count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádné vybití nebylo změřeno ani zadáno: odhadnutá se nepočítají.</translation>
     </message>
     <message>
         <source>No discharge that was measured or entered has a flight with a duration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádné změřené nebo zadané vybití nemá let s uvedeným trváním.</translation>
     </message>
     <message>
         <source>No current was measured or entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Proud nebyl změřen ani zadán.</translation>
     </message>
     <message>
         <source>No used capacity was measured or entered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Využitá kapacita nebyla změřena ani zadána.</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteriesTab</name>
     <message>
         <source>There is no battery yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím zde není žádný akumulátor. Přidejte první: stiskněte tlačítko nabídky a pak Úpravy.</translation>
     </message>
     <message>
         <source>Batteries and their figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátory a jejich hodnoty</translation>
     </message>
     <message>
         <source>Batteries, %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátory, %1</translation>
     </message>
 </context>
 <context>
     <name>Host::BatteryPlot</name>
     <message>
         <source>As a &amp;table</source>
-        <translation type="unfinished"></translation>
+        <translation>J&amp;ako tabulka</translation>
     </message>
     <message>
         <source>Pl&amp;ot:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Graf:</translation>
     </message>
     <message>
         <source>What is plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>Co graf zobrazuje</translation>
     </message>
     <message>
         <source>Shows the discharges of the battery as a table</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazí vybití akumulátoru jako tabulku</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybití</translation>
     </message>
     <message>
         <source>Choose a battery to see what became of it over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte akumulátor a uvidíte, jak se v průběhu času měnil.</translation>
     </message>
     <message>
         <source>“%1” was never discharged. Record a flight with it: click its card.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ nebyl nikdy vybit. Zaznamenejte s ním let: klikněte na jeho kartu.</translation>
     </message>
     <message>
         <source>No discharge of “%1” has a time and this figure: there is nothing to plot.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádné vybití akumulátoru „%1“ nemá datum a tuto hodnotu: není co vykreslit.</translation>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 akumulátoru %2</translation>
     </message>
 </context>
 <context>
     <name>Host::DischargesModel</name>
     <message>
         <source>Not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Nezadáno</translation>
     </message>
     <message>
         <source>Guessed</source>
-        <translation type="unfinished"></translation>
+        <translation>Odhadnuto</translation>
     </message>
     <message>
         <source>Entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Zadáno</translation>
     </message>
     <message>
         <source>Measured</source>
-        <translation type="unfinished"></translation>
+        <translation>Změřeno</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum a čas</translation>
     </message>
     <message>
         <source>Used (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Využito (mAh)</translation>
     </message>
     <message>
         <source>Used (%)</source>
-        <translation type="unfinished"></translation>
+        <translation>Využito (%)</translation>
     </message>
     <message>
         <source>Current (A)</source>
-        <translation type="unfinished"></translation>
+        <translation>Proud (A)</translation>
     </message>
     <message>
         <source>Load (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatížení (C)</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Zdroj</translation>
     </message>
 </context>
 <context>
     <name>Host::ExportDialog</name>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník teď nelze přečíst. Uvolněte místo a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Only these &amp;batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen tyto &amp;akumulátory</translation>
     </message>
     <message>
         <source>Only these &amp;models</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen tyto &amp;modely</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export</translation>
     </message>
     <message>
         <source>Progress of the export</source>
-        <translation type="unfinished"></translation>
+        <translation>Průběh exportu</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportovat…</translation>
     </message>
     <message>
         <source>&amp;Format</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Formát</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formát</translation>
     </message>
     <message>
         <source>F&amp;rom</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Od</translation>
     </message>
     <message>
         <source>&amp;To</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Do</translation>
     </message>
     <message numerus="yes">
         <source>&amp;Preview: the first %n rows of each table</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>&amp;Náhled: první %n řádek každé tabulky</numerusform>
+            <numerusform>&amp;Náhled: první %n řádky každé tabulky</numerusform>
+            <numerusform>&amp;Náhled: prvních %n řádků každé tabulky</numerusform>
         </translation>
     </message>
     <message>
         <source>The first day is later than the last one. Change one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>První den je pozdější než poslední. Jeden z nich změňte.</translation>
     </message>
     <message>
         <source>Export the Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportovat deník</translation>
     </message>
     <message>
         <source>Workbook (*.xlsx)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sešit (*.xlsx)</translation>
     </message>
     <message>
         <source>JSON (*.json)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json)</translation>
     </message>
     <message>
         <source>Export Five Files into a Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportovat pět souborů do složky</translation>
     </message>
     <message>
         <source>The folder has files of these names already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka už obsahuje soubory s těmito názvy.</translation>
     </message>
     <message>
         <source>The export replaces %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Export nahradí %1.</translation>
     </message>
     <message>
         <source>Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahradit</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>The export was stopped. Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Export byl zastaven. Nic se nezapsalo.</translation>
     </message>
     <message>
         <source>Choose another place, or free some space, and export again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte jiné umístění nebo uvolněte místo a exportujte znovu.</translation>
     </message>
     <message>
         <source>The logbook was exported to “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník byl exportován do „%1“.</translation>
     </message>
     <message>
         <source>Texts that are too long for a cell (32,767 characters) were cut: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Texty příliš dlouhé pro buňku (32&#xa0;767 znaků) byly zkráceny: %1.</translation>
     </message>
 </context>
 <context>
     <name>Host::ExportPreview</name>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Náhled</translation>
     </message>
     <message>
         <source>First rows of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>První řádky tabulky %1</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>Host::FilterBar</name>
     <message>
         <source>Search flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Hledat lety</translation>
     </message>
     <message>
         <source>Only flights of the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen lety modelu</translation>
     </message>
     <message>
         <source>All models</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny modely</translation>
     </message>
     <message>
         <source>Only flights with the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen lety s akumulátorem</translation>
     </message>
     <message>
         <source>All batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechny akumulátory</translation>
     </message>
     <message>
         <source>Only flights at the location</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen lety na místě</translation>
     </message>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Všechna místa</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Od</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Do</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightBookDialog</name>
     <message>
         <source>Flight Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Letová kniha</translation>
     </message>
     <message>
         <source>&amp;From:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Od:</translation>
     </message>
     <message>
         <source>First day</source>
-        <translation type="unfinished"></translation>
+        <translation>První den</translation>
     </message>
     <message>
         <source>&amp;To:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Do:</translation>
     </message>
     <message>
         <source>Last day</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední den</translation>
     </message>
     <message>
         <source>Models in the book</source>
-        <translation type="unfinished"></translation>
+        <translation>Modely v knize</translation>
     </message>
     <message>
         <source>&amp;Models:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modely:</translation>
     </message>
     <message>
         <source>A4</source>
-        <translation type="unfinished"></translation>
+        <translation>A4</translation>
     </message>
     <message>
         <source>Letter</source>
-        <translation type="unfinished"></translation>
+        <translation>Letter</translation>
     </message>
     <message>
         <source>Paper of the PDF file</source>
-        <translation type="unfinished"></translation>
+        <translation>Papír souboru PDF</translation>
     </message>
     <message>
         <source>P&amp;aper:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Papír:</translation>
     </message>
     <message>
         <source>%1 is limited</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: omezen</translation>
     </message>
     <message>
         <source>Pa&amp;ge:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Strana:</translation>
     </message>
     <message>
         <source>Page that is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazená strana</translation>
     </message>
     <message>
         <source>&amp;Print…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tisk…</translation>
     </message>
     <message>
         <source>&amp;Save as PDF…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uložit jako PDF…</translation>
     </message>
     <message>
         <source>The first day is after the last one.</source>
-        <translation type="unfinished"></translation>
+        <translation>První den je po posledním.</translation>
     </message>
     <message>
         <source>Flights: %1, time in the air: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety: %1, čas ve vzduchu: %2.</translation>
     </message>
     <message>
         <source>of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>z %1</translation>
     </message>
     <message>
         <source>The flight book was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Letová kniha nebyla vytištěna: na tiskárnu nebo do jejího souboru nelze zapisovat. Zvolte jinou tiskárnu nebo jiný soubor.</translation>
     </message>
     <message>
         <source>The flight book is printed…</source>
-        <translation type="unfinished"></translation>
+        <translation>Letová kniha se tiskne…</translation>
     </message>
     <message>
         <source>The flight book is saved…</source>
-        <translation type="unfinished"></translation>
+        <translation>Letová kniha se ukládá…</translation>
     </message>
     <message>
         <source>Save the Flight Book</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit letovou knihu</translation>
     </message>
     <message>
         <source>PDF document (*.pdf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokument PDF (*.pdf)</translation>
     </message>
     <message>
         <source>it is a logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>je to deník</translation>
     </message>
     <message>
         <source>The flight book is saved in “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Letová kniha je uložena v „%1“.</translation>
     </message>
     <message>
         <source>The flight book was not saved in “%1”: %2. Choose another place for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Letová kniha nebyla uložena v „%1“: %2. Zvolte pro ni jiné umístění.</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightBookPreview</name>
     <message>
         <source>Preview of page %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Náhled strany %1</translation>
     </message>
     <message>
         <source>No preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez náhledu</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightDialog</name>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný</translation>
     </message>
     <message>
         <source>Add a Flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat let</translation>
     </message>
     <message>
         <source> mAh</source>
-        <translation type="unfinished"></translation>
+        <translation> mAh</translation>
     </message>
     <message>
         <source> A</source>
-        <translation type="unfinished"></translation>
+        <translation> A</translation>
     </message>
     <message>
         <source> °C</source>
-        <translation type="unfinished"></translation>
+        <translation> °C</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Model</translation>
     </message>
     <message>
         <source>&amp;Time</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datum a čas</translation>
     </message>
     <message>
         <source>&amp;Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Trvání</translation>
     </message>
     <message>
         <source>&amp;Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Akumulátor</translation>
     </message>
     <message>
         <source>D&amp;ischarged</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vybito</translation>
     </message>
     <message>
         <source>Maximum &amp;current</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximální p&amp;roud</translation>
     </message>
     <message>
         <source>&amp;Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Mí&amp;sto</translation>
     </message>
     <message>
         <source>Tem&amp;perature</source>
-        <translation type="unfinished"></translation>
+        <translation>Te&amp;plota</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Poz&amp;námky</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat</translation>
     </message>
     <message>
         <source>Flight added</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidán let</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsModel</name>
     <message>
         <source>not entered</source>
-        <translation type="unfinished"></translation>
+        <translation>nezadáno</translation>
     </message>
     <message>
         <source>guessed: what a capture presets for the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>odhadnuto: výchozí hodnota, kterou zápis dat pro akumulátor předvyplní</translation>
     </message>
     <message>
         <source>measured: from a radio&apos;s log</source>
-        <translation type="unfinished"></translation>
+        <translation>změřeno: ze záznamu z vysílačky</translation>
     </message>
     <message>
         <source>entered</source>
-        <translation type="unfinished"></translation>
+        <translation>zadáno</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>no discharge at the time of this flight</source>
-        <translation type="unfinished"></translation>
+        <translation>v čase tohoto letu není žádné vybití</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum a čas</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátory</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Trvání</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>Max. A</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. A</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>°C</source>
-        <translation type="unfinished"></translation>
+        <translation>°C</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznámky</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsTab</name>
     <message>
         <source>&amp;Add…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přid&amp;at…</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Smazat</translation>
     </message>
     <message>
         <source>&amp;Move…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přes&amp;unout…</translation>
     </message>
     <message>
         <source>&amp;Tidy Up…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukli&amp;dit…</translation>
     </message>
     <message>
         <source>&amp;Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přej&amp;menovat…</translation>
     </message>
     <message>
         <source>There is no model yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím zde není žádný model. Přidejte první: stiskněte tlačítko nabídky a pak Úpravy.</translation>
     </message>
     <message>
         <source>There is no flight yet. Add one here, or click the card of a charged battery when you have flown it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím zde není žádný let. Přidejte ho tady, nebo po letu klikněte na kartu nabitého akumulátoru.</translation>
     </message>
     <message>
         <source>Flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety: %1</translation>
     </message>
     <message>
         <source>Flights: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety: %1 z %2</translation>
     </message>
     <message>
         <source>Flight edited</source>
-        <translation type="unfinished"></translation>
+        <translation>Upraven let</translation>
     </message>
     <message>
         <source>Delete this flight?</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat tento let?</translation>
     </message>
     <message numerus="yes">
         <source>Delete these %n flights?</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Smazat %n let?</numerusform>
+            <numerusform>Smazat tyto %n lety?</numerusform>
+            <numerusform>Smazat těchto %n letů?</numerusform>
         </translation>
     </message>
     <message>
         <source>Discharges at the same times can be deleted with them; the cycles of the batteries are then reduced. The models&apos; numbers of flights stay as they are. This can be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spolu s nimi lze smazat i vybití ve stejném čase; počet cyklů akumulátorů se pak sníží. Počty letů modelů zůstanou beze změny. Lze to vrátit zpět.</translation>
     </message>
     <message>
         <source>Delete With Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat i vybití</translation>
     </message>
     <message>
         <source>Delete Flights Only</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat jen lety</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>Flight deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazán let</translation>
     </message>
     <message numerus="yes">
         <source>%n flights deleted</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Smazán %n let</numerusform>
+            <numerusform>Smazány %n lety</numerusform>
+            <numerusform>Smazáno %n letů</numerusform>
         </translation>
     </message>
     <message>
         <source>Flight moved</source>
-        <translation type="unfinished"></translation>
+        <translation>Přesunut let</translation>
     </message>
     <message numerus="yes">
         <source>%n flights moved</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Přesunut %n let</numerusform>
+            <numerusform>Přesunuty %n lety</numerusform>
+            <numerusform>Přesunuto %n letů</numerusform>
         </translation>
     </message>
     <message>
         <source>No flight stands twice. A flight is taken for a double when it is at most 5 s after another one of the same model and the same in everything else.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný let zde není dvakrát. Let se považuje za duplicitní, je-li nejvýše 5 s po jiném letu téhož modelu a ve všem ostatním je stejný.</translation>
     </message>
     <message>
         <source>Flights that stood twice removed</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstraněny duplicitní lety</translation>
     </message>
 </context>
 <context>
     <name>Host::FlightsTable</name>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety</translation>
     </message>
 </context>
 <context>
     <name>Host::ImportDialog</name>
     <message>
         <source>Choose &amp;Logs…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat &amp;záznamy…</translation>
     </message>
     <message>
         <source>Choose &amp;Folder or Card…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat &amp;složku nebo kartu…</translation>
     </message>
     <message>
         <source>&amp;Replace values that were entered</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nahradit zadané hodnoty</translation>
     </message>
     <message>
         <source>&amp;Not imported:</source>
-        <translation type="unfinished"></translation>
+        <translation>Neimpo&amp;rtováno:</translation>
     </message>
     <message>
         <source>Import Radio Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat záznamy z vysílačky</translation>
     </message>
     <message>
         <source>Choose Logs of Radios</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat záznamy z vysílaček</translation>
     </message>
     <message>
         <source>Logs (*.csv *.CSV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznamy (*.csv *.CSV)</translation>
     </message>
     <message>
         <source>Choose a Folder with Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat složku se záznamy</translation>
     </message>
     <message>
         <source>Choose logs that a radio with EdgeTX or OpenTX has written, or the folder or card that they are on. Nothing on a card is ever changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte záznamy, které zapsala vysílačka s EdgeTX nebo OpenTX, nebo složku či kartu, na které jsou. Na kartě se nikdy nic nemění.</translation>
     </message>
     <message>
         <source>Discharges in the logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybití v záznamech</translation>
     </message>
     <message>
         <source>Files that are not imported</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory, které se neimportují</translation>
     </message>
     <message>
         <source>Progress of the reading</source>
-        <translation type="unfinished"></translation>
+        <translation>Průběh čtení</translation>
     </message>
     <message>
         <source>&amp;Import</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importovat</translation>
     </message>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník teď nelze přečíst. Uvolněte místo a zkuste to znovu.</translation>
     </message>
     <message>
         <source>The reading was stopped. What was read before is still listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čtení bylo zastaveno. Co se přečetlo předtím, je stále v seznamu.</translation>
     </message>
     <message>
         <source>There is no discharge in these logs.</source>
-        <translation type="unfinished"></translation>
+        <translation>V těchto záznamech není žádné vybití.</translation>
     </message>
     <message>
         <source>What is new is added when you tick it. To choose its model or battery, double-click there, or press F2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co je nové, se přidá, když to zaškrtnete. Chcete-li zvolit model nebo akumulátor, dvakrát na něj klikněte nebo stiskněte F2.</translation>
     </message>
     <message>
         <source>&amp;Correct the radio&apos;s clock: it seems to be %1 h slow</source>
-        <translation type="unfinished"></translation>
+        <translation>Opravit &amp;hodiny vysílačky: zřejmě jdou o %1 h pozadu</translation>
     </message>
     <message>
         <source>&amp;Correct the radio&apos;s clock: it seems to be %1 h fast</source>
-        <translation type="unfinished"></translation>
+        <translation>Opravit &amp;hodiny vysílačky: zřejmě jdou o %1 h napřed</translation>
     </message>
     <message>
         <source>“%1” is no log of a radio: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ není záznam z vysílačky: %2</translation>
     </message>
     <message>
         <source>“%1”: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“: %2</translation>
     </message>
     <message>
         <source>“%1” holds no values.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ neobsahuje žádné hodnoty.</translation>
     </message>
     <message>
         <source>Imported 1 radio log</source>
-        <translation type="unfinished"></translation>
+        <translation>Importován 1 záznam z vysílačky</translation>
     </message>
     <message numerus="yes">
         <source>Imported %n radio logs</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Importován %n záznam z vysílačky</numerusform>
+            <numerusform>Importovány %n záznamy z vysílačky</numerusform>
+            <numerusform>Importováno %n záznamů z vysílačky</numerusform>
         </translation>
     </message>
     <message>
         <source>%1. Flights filled: %2; discharges added: %3. Undo in the menu Edit takes all of it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Doplněné lety: %2; přidaná vybití: %3. Příkaz Zpět v nabídce Úpravy vše vrátí.</translation>
     </message>
 </context>
 <context>
     <name>Host::ImportModel</name>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybrat…</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>What will happen</source>
-        <translation type="unfinished"></translation>
+        <translation>Co se stane</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátor</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Trvání</translation>
     </message>
     <message>
         <source>mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>mAh</translation>
     </message>
     <message>
         <source>Maximum A</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. A</translation>
     </message>
     <message>
         <source>Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Záznam</translation>
     </message>
 </context>
 <context>
@@ -1653,137 +1653,139 @@
     <name>Host::MainWindow</name>
     <message>
         <source>&amp;Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;eník</translation>
     </message>
     <message>
         <source>&amp;Open Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otevřít složku…</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít ne&amp;dávné</translation>
     </message>
     <message>
         <source>&amp;Import Radio Logs…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Importovat záznamy z vysílačky…</translation>
     </message>
     <message>
         <source>&amp;Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportovat…</translation>
     </message>
     <message>
         <source>&amp;Flight Book (print, PDF)…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Letová kniha (tisk, PDF)…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ukončit</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ú&amp;pravy</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zpět</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Zno&amp;vu</translation>
     </message>
     <message>
         <source>Re&amp;name…</source>
-        <translation type="unfinished"></translation>
+        <translation>Přej&amp;menovat…</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Předvolby…</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zobrazení</translation>
     </message>
     <message>
         <source>&amp;Side Panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Postranní &amp;panel</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nápověda</translation>
     </message>
     <message>
         <source>&amp;Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Příručka</translation>
     </message>
     <message>
         <source>&amp;About Voltbok</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;O programu Voltbok</translation>
     </message>
     <message>
         <source>&amp;Undo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zpět: %1</translation>
     </message>
     <message>
         <source>&amp;Redo: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zno&amp;vu: %1</translation>
     </message>
     <message>
         <source>No other folder yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím žádná jiná složka</translation>
     </message>
     <message>
         <source>Open the Logbook in a Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít deník ve složce</translation>
     </message>
     <message>
         <source>Voltbok %1, a battery and flight logbook for radio-controlled models.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok %1, deník akumulátorů a letů pro rádiem řízené modely.</translation>
     </message>
     <message>
         <source>Voltbok is free software under the GNU General Public License, version 3 or later. Linked with Qt Charts, which is under version 3, the whole is under version 3.
 
 This logbook is kept in “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok je svobodný software pod licencí GNU General Public License verze 3 nebo novější. Ve spojení s Qt Charts, které podléhají verzi 3, podléhá celek verzi 3.
+
+Tento deník je uložen v „%1“.</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít</translation>
     </message>
     <message>
         <source>The flight on this page is not recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Let na této stránce není zaznamenán.</translation>
     </message>
     <message>
         <source>What you entered on this page is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co jste zadali na této stránce, není uloženo.</translation>
     </message>
     <message>
         <source>Go back to record it, or leave the page without it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vraťte se a zaznamenejte ho, nebo stránku opusťte bez něj.</translation>
     </message>
     <message>
         <source>Leave</source>
-        <translation type="unfinished"></translation>
+        <translation>Opustit</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrátit se</translation>
     </message>
     <message>
         <source>Voltbok - sample logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Voltbok - ukázkový deník</translation>
     </message>
     <message>
         <source>The logbook is opened…</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník se otevírá…</translation>
     </message>
     <message>
         <source>The settings cannot be saved: there is no permission to write “%1”. What you choose will be forgotten. Change the permissions of this file and its folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavení nelze uložit: chybí oprávnění k zápisu do „%1“. Co zvolíte, bude zapomenuto. Změňte oprávnění tohoto souboru a jeho složky.</translation>
     </message>
     <message>
         <source>The logbook is now kept in “%1”. Open this folder the next time, too.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník je teď uložen v „%1“. Otevřete tuto složku i příště.</translation>
     </message>
     <message>
         <source>&amp;Language</source>
@@ -1814,515 +1816,515 @@ This logbook is kept in “%1”.</source>
     <name>Host::ManualWindow</name>
     <message>
         <source>Voltbok Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>Příručka k programu Voltbok</translation>
     </message>
 </context>
 <context>
     <name>Host::MessageBar</name>
     <message>
         <source>Close this message</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít tuto zprávu</translation>
     </message>
 </context>
 <context>
     <name>Host::MoveDialog</name>
     <message>
         <source>(Stay)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Beze změny)</translation>
     </message>
     <message>
         <source>Move Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Přesunout lety</translation>
     </message>
     <message>
         <source>To the &amp;model</source>
-        <translation type="unfinished"></translation>
+        <translation>K &amp;modelu</translation>
     </message>
     <message>
         <source>&amp;Discharges of the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vybití akumulátoru</translation>
     </message>
     <message>
         <source>To the &amp;battery</source>
-        <translation type="unfinished"></translation>
+        <translation>K &amp;akumulátoru</translation>
     </message>
     <message>
         <source>Move</source>
-        <translation type="unfinished"></translation>
+        <translation>Přesunout</translation>
     </message>
 </context>
 <context>
     <name>Host::OpenLogbook</name>
     <message>
         <source>Nothing was changed: what radio logs tell cannot be written: %1. See that “%2” can be written, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic se nezměnilo: údaje ze záznamů z vysílačky nelze zapsat: %1. Zajistěte, aby se do „%2“ dalo zapisovat, a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Nothing was changed: there is no space left in “%1”. Free some, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic se nezměnilo: v „%1“ už není místo. Uvolněte ho a zkuste to znovu.</translation>
     </message>
     <message>
         <source>Nothing was changed: you have cancelled it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic se nezměnilo: úkon jste zrušili.</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook has changed meanwhile. Look at it again, and repeat what you did.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic se nezměnilo: deník se mezitím změnil. Podívejte se na něj znovu a úkon zopakujte.</translation>
     </message>
     <message>
         <source>The logbook is changed…</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník se mění…</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file cannot hold what you entered. Leave out control characters, and times that the clock does not have.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic se nezměnilo: soubor deníku nemůže pojmout, co jste zadali. Vynechte řídicí znaky a časy, které na hodinách nejsou.</translation>
     </message>
     <message>
         <source>Record the flight on the discharge page first, or leave that page.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejprve zaznamenejte let na stránce vybití, nebo tuto stránku opusťte.</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file does not hold what this window shows. See the message above the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic se nezměnilo: soubor deníku neobsahuje to, co zobrazuje toto okno. Viz zprávu nad deníkem.</translation>
     </message>
     <message>
         <source>it cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>nelze ho zpětně přečíst</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook file cannot be written: %1. See that “%2” can be written, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic se nezměnilo: soubor deníku nelze zapsat: %1. Zajistěte, aby se do „%2“ dalo zapisovat, a zkuste to znovu.</translation>
     </message>
 </context>
 <context>
     <name>Host::PlotButtons</name>
     <message>
         <source>&amp;Save Plot…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uložit graf…</translation>
     </message>
     <message>
         <source>Save the plot as a picture (PNG or SVG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Uloží graf jako obrázek (PNG nebo SVG)</translation>
     </message>
     <message>
         <source>&amp;Copy Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopírovat graf</translation>
     </message>
     <message>
         <source>Copy the plot to the clipboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Zkopíruje graf do schránky</translation>
     </message>
     <message>
         <source>&amp;Print Plot…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tisk grafu…</translation>
     </message>
     <message>
         <source>Print the plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytiskne graf</translation>
     </message>
     <message>
         <source>Print T&amp;able…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tisk ta&amp;bulky…</translation>
     </message>
     <message>
         <source>Print the table above</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytiskne tabulku výše</translation>
     </message>
     <message>
         <source>Save the Plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit graf</translation>
     </message>
     <message>
         <source>PNG picture (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrázek PNG (*.png)</translation>
     </message>
     <message>
         <source>SVG drawing (*.svg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kresba SVG (*.svg)</translation>
     </message>
     <message>
         <source>The plot was not saved: a picture is PNG or SVG. Give it a name that ends with “.png” or “.svg”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf nebyl uložen: obrázek je PNG nebo SVG. Zvolte název, který končí na „.png“ nebo „.svg“.</translation>
     </message>
     <message>
         <source>The plot was not saved in “%1”: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf nebyl uložen v „%1“: %2.</translation>
     </message>
     <message>
         <source>The plot was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf nebyl vytištěn: na tiskárnu nebo do jejího souboru nelze zapisovat. Zvolte jinou tiskárnu nebo jiný soubor.</translation>
     </message>
 </context>
 <context>
     <name>Host::PreferencesDialog</name>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Předvolby</translation>
     </message>
     <message>
         <source>When there is something to do</source>
-        <translation type="unfinished"></translation>
+        <translation>Kdy je co dělat</translation>
     </message>
 </context>
 <context>
     <name>Host::RadioLog</name>
     <message>
         <source>It does not begin with the columns Date and Time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nezačíná sloupci Date a Time.</translation>
     </message>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nelze ho přečíst: %1.</translation>
     </message>
     <message>
         <source>It is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Je prázdný.</translation>
     </message>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čtení bylo zrušeno.</translation>
     </message>
     <message>
         <source>Its time jumps in too many places.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeho čas přeskakuje na příliš mnoha místech.</translation>
     </message>
     <message>
         <source>Most of its rows have more or fewer fields than its header.</source>
-        <translation type="unfinished"></translation>
+        <translation>Většina jeho řádků má více nebo méně polí než záhlaví.</translation>
     </message>
     <message>
         <source>Its rows do not begin with a date and a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeho řádky nezačínají datem a časem.</translation>
     </message>
     <message>
         <source>Most of its rows do not begin with a date and a time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Většina jeho řádků nezačíná datem a časem.</translation>
     </message>
     <message>
         <source>It has a header, but no rows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Má záhlaví, ale žádné řádky.</translation>
     </message>
 </context>
 <context>
     <name>Host::RenameDialog</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátor</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenovat</translation>
     </message>
     <message>
         <source>&amp;What</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Co</translation>
     </message>
     <message>
         <source>&amp;Present name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dosavadní název</translation>
     </message>
     <message>
         <source>&amp;New name</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nový název</translation>
     </message>
     <message>
         <source>There is none yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím zde nic není.</translation>
     </message>
     <message>
         <source>There are several of this name. Only the chosen one is renamed; models and flights that name it keep the other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento název má více položek. Přejmenuje se jen zvolená; modely a lety, které ji uvádějí, si ponechají ten původní.</translation>
     </message>
     <message>
         <source>It is renamed everywhere at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenuje se všude zároveň.</translation>
     </message>
     <message>
         <source>Battery %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenován akumulátor %1</translation>
     </message>
     <message>
         <source>Model %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenován model %1</translation>
     </message>
     <message>
         <source>Location %1 renamed</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenováno místo %1</translation>
     </message>
 </context>
 <context>
     <name>Host::SaveCare</name>
     <message>
         <source>it cannot be read back</source>
-        <translation type="unfinished"></translation>
+        <translation>nelze ho zpětně přečíst</translation>
     </message>
     <message>
         <source>The logbook is not saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník není uložen.</translation>
     </message>
     <message>
         <source>What you recorded last would be lost. Go back, and try again or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co jste zaznamenali naposledy, by bylo ztraceno. Vraťte se a zkuste to znovu, nebo deník uložte jinam.</translation>
     </message>
     <message>
         <source>What you recorded last would be lost. Go back, and restore the last state or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co jste zaznamenali naposledy, by bylo ztraceno. Vraťte se a obnovte poslední stav, nebo deník uložte jinam.</translation>
     </message>
     <message>
         <source>Quit Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Přesto ukončit</translation>
     </message>
     <message>
         <source>Go Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrátit se</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>chybí</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>disk hlásí chybu</translation>
     </message>
     <message>
         <source>Another program has changed the logbook file. This window still shows what it held before, and your next change overwrites the file. A copy of the other version is kept in “%1”; start Voltbok again to see it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jiný program změnil soubor deníku. Toto okno stále zobrazuje, co soubor obsahoval předtím, a vaše příští změna ho přepíše. Kopie druhé verze je uložena v „%1“; chcete-li ji vidět, spusťte Voltbok znovu.</translation>
     </message>
     <message>
         <source>Try Again</source>
-        <translation type="unfinished"></translation>
+        <translation>Zkusit znovu</translation>
     </message>
     <message>
         <source>Restore Last State</source>
-        <translation type="unfinished"></translation>
+        <translation>Obnovit poslední stav</translation>
     </message>
     <message>
         <source>Keep Elsewhere…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit jinam…</translation>
     </message>
     <message>
         <source>Nothing can be saved in “%1”: %2. See that the file can be written, or keep the logbook in another folder, before you record anything.</source>
-        <translation type="unfinished"></translation>
+        <translation>Do „%1“ nelze nic uložit: %2. Než něco zaznamenáte, zajistěte, aby se do souboru dalo zapisovat, nebo deník uložte do jiné složky.</translation>
     </message>
     <message>
         <source>The logbook is not saved in “%1”: %2. This window still shows everything. See that the file can be written, then try again; or keep the logbook in another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník není uložen v „%1“: %2. Toto okno stále zobrazuje vše. Zajistěte, aby se do souboru dalo zapisovat, a zkuste to znovu; nebo deník uložte do jiné složky.</translation>
     </message>
     <message>
         <source>Your last change could not be saved in “%1”: %2. File and window are as they were before. See that the file can be written, or keep the logbook in another folder; then enter the change again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaši poslední změnu se nepodařilo uložit v „%1“: %2. Soubor i okno jsou jako předtím. Zajistěte, aby se do souboru dalo zapisovat, nebo deník uložte do jiné složky; změnu pak zadejte znovu.</translation>
     </message>
     <message>
         <source>The logbook could not be saved in “%1”: %2. This window shows less than you have recorded. Restore the last state, or keep it in another folder; then enter your last change again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník se nepodařilo uložit v „%1“: %2. Toto okno zobrazuje méně, než jste zaznamenali. Obnovte poslední stav, nebo deník uložte do jiné složky; poslední změnu pak zadejte znovu.</translation>
     </message>
     <message>
         <source>it is not written to its end</source>
-        <translation type="unfinished"></translation>
+        <translation>není zapsán do konce</translation>
     </message>
     <message>
         <source>The logbook still cannot be saved: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník stále nelze uložit: %1.</translation>
     </message>
     <message>
         <source>there is no whole copy</source>
-        <translation type="unfinished"></translation>
+        <translation>neexistuje neporušená kopie</translation>
     </message>
     <message>
         <source>The last state cannot be restored: %1. Nothing was changed. Free some space, or keep the logbook elsewhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední stav nelze obnovit: %1. Nic se nezměnilo. Uvolněte místo, nebo deník uložte jinam.</translation>
     </message>
     <message>
         <source>The last state is restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední stav je obnoven.</translation>
     </message>
     <message>
         <source>The last state is restored. The file that was there is kept as “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední stav je obnoven. Soubor, který tam byl, je uchován jako „%1“.</translation>
     </message>
     <message>
         <source>Keep the Logbook in Another Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit deník do jiné složky</translation>
     </message>
     <message>
         <source>There is a logbook in “%1” already. Choose an empty folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>V „%1“ už deník je. Zvolte prázdnou složku.</translation>
     </message>
     <message>
         <source>there is no whole state of it</source>
-        <translation type="unfinished"></translation>
+        <translation>neexistuje jeho neporušený stav</translation>
     </message>
     <message>
         <source>The logbook cannot be kept in “%1”: %2. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník nelze uložit v „%1“: %2. Zvolte jinou složku.</translation>
     </message>
 </context>
 <context>
     <name>Host::SidePanel</name>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Dnes</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátory</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>Statistika</translation>
     </message>
     <message>
         <source>Side panel</source>
-        <translation type="unfinished"></translation>
+        <translation>Postranní panel</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Teď ne</translation>
     </message>
     <message>
         <source>The panel is about to read the logbook, which is long. Press here to go on without what is new.</source>
-        <translation type="unfinished"></translation>
+        <translation>Panel se chystá přečíst deník, který je dlouhý. Stisknutím zde budete pokračovat bez toho, co je nové.</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizovat</translation>
     </message>
     <message>
         <source>The panel does not show yet what is new. Press here to read it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Panel zatím nezobrazuje, co je nové. Stisknutím zde to přečtete.</translation>
     </message>
 </context>
 <context>
     <name>Host::StatisticsModel</name>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Měsíc</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuty</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybito (mAh)</translation>
     </message>
 </context>
 <context>
     <name>Host::StatisticsTab</name>
     <message>
         <source>There is nothing to add up yet. Add a battery and a model first: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím není co sčítat. Nejprve přidejte akumulátor a model: stiskněte tlačítko nabídky a pak Úpravy.</translation>
     </message>
     <message>
         <source>There is nothing to add up yet. Record your first flight: click the card of a charged battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím není co sčítat. Zaznamenejte první let: klikněte na kartu nabitého akumulátoru.</translation>
     </message>
     <message>
         <source>&amp;From:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Od:</translation>
     </message>
     <message>
         <source>&amp;To:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Do:</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Měsíc</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>Add up &amp;by:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seskupení:</translation>
     </message>
     <message>
         <source>Add up by</source>
-        <translation type="unfinished"></translation>
+        <translation>Seskupení</translation>
     </message>
     <message>
         <source>Pl&amp;ot:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Graf:</translation>
     </message>
     <message>
         <source>What is plotted</source>
-        <translation type="unfinished"></translation>
+        <translation>Co graf zobrazuje</translation>
     </message>
     <message>
         <source>First day</source>
-        <translation type="unfinished"></translation>
+        <translation>První den</translation>
     </message>
     <message>
         <source>Last day</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední den</translation>
     </message>
     <message>
         <source>%1 is limited</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: omezen</translation>
     </message>
     <message>
         <source>Flights, added up</source>
-        <translation type="unfinished"></translation>
+        <translation>Součty letů</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>The first day is after the last one.</source>
-        <translation type="unfinished"></translation>
+        <translation>První den je po posledním.</translation>
     </message>
     <message numerus="yes">
         <source>In all: %Ln flights, %1 minutes, %2 mAh.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Celkem: %Ln let, %1 min, %2 mAh.</numerusform>
+            <numerusform>Celkem: %Ln lety, %1 min, %2 mAh.</numerusform>
+            <numerusform>Celkem: %Ln letů, %1 min, %2 mAh.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln flights without a time are not in the table.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln let bez data není v tabulce.</numerusform>
+            <numerusform>%Ln lety bez data nejsou v tabulce.</numerusform>
+            <numerusform>%Ln letů bez data není v tabulce.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln flights without a location are not in the table.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%Ln let bez místa není v tabulce.</numerusform>
+            <numerusform>%Ln lety bez místa nejsou v tabulce.</numerusform>
+            <numerusform>%Ln letů bez místa není v tabulce.</numerusform>
         </translation>
     </message>
 </context>
@@ -2330,1056 +2332,1056 @@ This logbook is kept in “%1”.</source>
     <name>Host::TableColumns</name>
     <message>
         <source>&amp;Sort by This Column</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seřadit podle tohoto sloupce</translation>
     </message>
 </context>
 <context>
     <name>Host::TidyDialog</name>
     <message>
         <source>%1: %2, and again at %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 a znovu v %3</translation>
     </message>
     <message>
         <source>Tidy Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Uklidit</translation>
     </message>
     <message>
         <source>These flights stand &amp;twice, as a card leaves them that was clicked twice. The second one of each that is ticked is removed, with its discharge and the cycle of its battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tyto lety jsou zde &amp;dvakrát, jak je zanechá karta, na kterou se kliklo dvakrát. Z každé zaškrtnuté dvojice se odstraní druhý let i s vybitím a cyklem akumulátoru.</translation>
     </message>
     <message>
         <source>Flights that stand twice</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplicitní lety</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit</translation>
     </message>
 </context>
 <context>
     <name>Host::TodayTab</name>
     <message>
         <source>There is no battery yet. Add your first one: press the menu button, then Edit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím zde není žádný akumulátor. Přidejte první: stiskněte tlačítko nabídky a pak Úpravy.</translation>
     </message>
     <message>
         <source>Nothing to do today.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dnes není třeba nic dělat.</translation>
     </message>
     <message>
         <source>What to do today. Click a line to see its battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co dnes udělat. Kliknutím na řádek zobrazíte jeho akumulátor.</translation>
     </message>
     <message>
         <source>What to do today</source>
-        <translation type="unfinished"></translation>
+        <translation>Co dnes udělat</translation>
     </message>
     <message>
         <source>Warning: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Varování: %1</translation>
     </message>
     <message>
         <source>Notice: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Upozornění: %1</translation>
     </message>
     <message>
         <source>Show “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit „%1“</translation>
     </message>
 </context>
 <context>
     <name>Host::VersionsModel</name>
     <message>
         <source>Copy of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie z %1</translation>
     </message>
     <message>
         <source>%1 (damaged)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (poškozená)</translation>
     </message>
     <message>
         <source>%1 (cannot be read)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (nečitelná)</translation>
     </message>
     <message>
         <source>Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Verze</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Velikost</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátory</translation>
     </message>
     <message>
         <source>Models</source>
-        <translation type="unfinished"></translation>
+        <translation>Modely</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety</translation>
     </message>
     <message>
         <source>Discharges</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybití</translation>
     </message>
 </context>
 <context>
     <name>Import</name>
     <message>
         <source>doubtful: counter %1, current says %2</source>
-        <translation type="unfinished"></translation>
+        <translation>nejisté: počitadlo %1, podle proudu %2</translation>
     </message>
     <message>
         <source>goes on with an earlier import</source>
-        <translation type="unfinished"></translation>
+        <translation>navazuje na dřívější import</translation>
     </message>
     <message>
         <source>a part of the discharge before</source>
-        <translation type="unfinished"></translation>
+        <translation>část předchozího vybití</translation>
     </message>
     <message>
         <source>the radio&apos;s clock was never set</source>
-        <translation type="unfinished"></translation>
+        <translation>hodiny vysílačky nebyly nikdy nastaveny</translation>
     </message>
     <message>
         <source>neither consumption nor current was measured</source>
-        <translation type="unfinished"></translation>
+        <translation>nebyla změřena spotřeba ani proud</translation>
     </message>
     <message>
         <source>shorter than 20 s</source>
-        <translation type="unfinished"></translation>
+        <translation>kratší než 20 s</translation>
     </message>
     <message>
         <source>less than 2 % of the capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>méně než 2 % kapacity</translation>
     </message>
     <message>
         <source>you entered the values of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>hodnoty letu jste zadali sami</translation>
     </message>
     <message>
         <source>the flight has no discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>let nemá vybití</translation>
     </message>
     <message>
         <source>the flight has several batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>let má více akumulátorů</translation>
     </message>
     <message>
         <source>another log tells the same</source>
-        <translation type="unfinished"></translation>
+        <translation>jiný záznam uvádí totéž</translation>
     </message>
     <message>
         <source>parts of it are two flights of the logbook already</source>
-        <translation type="unfinished"></translation>
+        <translation>jeho části už jsou dva lety v deníku</translation>
     </message>
     <message>
         <source>the logbook takes %1 mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>deník pojme nejvýše %1 mAh</translation>
     </message>
     <message>
         <source>the logbook takes %1 A</source>
-        <translation type="unfinished"></translation>
+        <translation>deník pojme nejvýše %1 A</translation>
     </message>
     <message>
         <source>the logbook does not have this model</source>
-        <translation type="unfinished"></translation>
+        <translation>tento model v deníku není</translation>
     </message>
     <message>
         <source>no battery is known for it</source>
-        <translation type="unfinished"></translation>
+        <translation>není pro něj znám akumulátor</translation>
     </message>
     <message>
         <source>fills the flight of %1 with %2</source>
-        <translation type="unfinished"></translation>
+        <translation>doplní let z %1, akumulátor %2</translation>
     </message>
     <message>
         <source>new</source>
-        <translation type="unfinished"></translation>
+        <translation>nové</translation>
     </message>
     <message>
         <source>new, with %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nové, s %1</translation>
     </message>
     <message>
         <source>known</source>
-        <translation type="unfinished"></translation>
+        <translation>známé</translation>
     </message>
     <message>
         <source>bench test</source>
-        <translation type="unfinished"></translation>
+        <translation>zkouška na zemi</translation>
     </message>
 </context>
 <context>
     <name>LogReading</name>
     <message>
         <source>It cannot be read: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nelze ho přečíst: %1.</translation>
     </message>
     <message>
         <source>It is not a regular file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není to běžný soubor.</translation>
     </message>
     <message>
         <source>The reading was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Čtení bylo zrušeno.</translation>
     </message>
 </context>
 <context>
     <name>Losses</name>
     <message>
         <source>a comment in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>komentář na řádku %1</translation>
     </message>
     <message>
         <source>an instruction to other programs in line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pokyn jiným programům na řádku %1</translation>
     </message>
     <message>
         <source>everything from line %1 on</source>
-        <translation type="unfinished"></translation>
+        <translation>vše od řádku %1</translation>
     </message>
     <message>
         <source>model “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>model „%1“</translation>
     </message>
     <message>
         <source>battery “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>akumulátor „%1“</translation>
     </message>
     <message>
         <source>the text “%1” of “%2” in line %3</source>
-        <translation type="unfinished"></translation>
+        <translation>text „%1“ v „%2“ na řádku %3</translation>
     </message>
     <message>
         <source>the element “%1” in line %2</source>
-        <translation type="unfinished"></translation>
+        <translation>prvek „%1“ na řádku %2</translation>
     </message>
     <message>
         <source>the attribute “%1” (%2) of “%3” in line %4</source>
-        <translation type="unfinished"></translation>
+        <translation>atribut „%1“ (%2) v „%3“ na řádku %4</translation>
     </message>
 </context>
 <context>
     <name>MeasuredFile</name>
     <message>
         <source>it is damaged</source>
-        <translation type="unfinished"></translation>
+        <translation>soubor je poškozen</translation>
     </message>
     <message>
         <source>a later version of Voltbok wrote it</source>
-        <translation type="unfinished"></translation>
+        <translation>zapsala ho pozdější verze programu Voltbok</translation>
     </message>
 </context>
 <context>
     <name>MeasuredStore</name>
     <message>
         <source>The measured values in “%1” are not used: %2. The file is left as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Změřené hodnoty v „%1“ se nepoužívají: %2. Soubor zůstává, jak je.</translation>
     </message>
     <message>
         <source>The measured values in “%1” cannot be read: %2. The logbook itself is not concerned.</source>
-        <translation type="unfinished"></translation>
+        <translation>Změřené hodnoty v „%1“ nelze přečíst: %2. Samotného deníku se to netýká.</translation>
     </message>
 </context>
 <context>
     <name>Opening</name>
     <message numerus="yes">
         <source>%1 and %n more</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 a %n další</numerusform>
+            <numerusform>%1 a %n další</numerusform>
+            <numerusform>%1 a %n dalších</numerusform>
         </translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukončit</translation>
     </message>
     <message>
         <source>Take the Logbook Over</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít deník</translation>
     </message>
     <message>
         <source>The logbook file “%1” is missing, but earlier versions of it are there. Nothing was changed. Restore one of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor deníku „%1“ chybí, ale jsou zde jeho dřívější verze. Nic se nezměnilo. Obnovte jednu z nich.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is damaged: %2. Nothing was changed. Restore one of its copies, or start with an empty logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor deníku „%1“ je poškozen: %2. Nic se nezměnilo. Obnovte jednu z jeho kopií, nebo začněte s prázdným deníkem.</translation>
     </message>
     <message>
         <source>The logbook file “%1” cannot be read: %2. Nothing was changed. Put the right file in its place, or choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor deníku „%1“ nelze přečíst: %2. Nic se nezměnilo. Vložte na jeho místo správný soubor, nebo zvolte jinou složku.</translation>
     </message>
     <message>
         <source>The version that you chose cannot be read any more. Nothing was changed. Start the program again, and choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzi, kterou jste zvolili, už nelze přečíst. Nic se nezměnilo. Spusťte program znovu a zvolte jinou.</translation>
     </message>
     <message>
         <source>Nothing could be put in the place of “%1”: %2. All is as it was. Free some space, and start the program again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na místo „%1“ se nepodařilo nic vložit: %2. Vše je, jak bylo. Uvolněte místo a spusťte program znovu.</translation>
     </message>
     <message>
         <source>The logbook file “%1” cannot be checked before it is opened: %2. Nothing was changed. Free some space, or see that the program can write in “%3”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor deníku „%1“ nelze před otevřením zkontrolovat: %2. Nic se nezměnilo. Uvolněte místo, nebo zajistěte, aby program mohl zapisovat do „%3“.</translation>
     </message>
     <message>
         <source>The logbook file “%1” holds what this version of Voltbok would drop when it saves, and no copy of it can be put aside: %2. Nothing was changed. Free some space, and start the program again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor deníku „%1“ obsahuje údaje, které by tato verze programu Voltbok při ukládání vypustila, a jeho kopii nelze odložit: %2. Nic se nezměnilo. Uvolněte místo a spusťte program znovu.</translation>
     </message>
     <message>
         <source>The logbook file holds what this version of Voltbok does not understand, and drops when it saves: %1. The file as it is now is kept as “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor deníku obsahuje údaje, kterým tato verze programu Voltbok nerozumí a které při ukládání vypouští: %1. Soubor v nynější podobě je uchován jako „%2“.</translation>
     </message>
 </context>
 <context>
     <name>Questions</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
     <name>Recovery</name>
     <message>
         <source>it is missing, and the folder of its copies cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>chybí a složku s jeho kopiemi nelze přečíst</translation>
     </message>
     <message>
         <source>it is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>chybí</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>není to běžný soubor</translation>
     </message>
 </context>
 <context>
     <name>RecoveryQuestion</name>
     <message>
         <source>The logbook file “%1” is missing, but earlier versions of it are there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor deníku „%1“ chybí, ale jsou zde jeho dřívější verze.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is damaged: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor deníku „%1“ je poškozen: %2.</translation>
     </message>
     <message>
         <source>If you keep it on a disk or in a synchronised folder that is not there now, quit and bring it back first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Máte-li ho na disku nebo v synchronizované složce, které teď nejsou dostupné, ukončete program a nejprve je připojte.</translation>
     </message>
     <message>
         <source>Quitting leaves the damaged file as it is. Otherwise it is kept in the same folder, under a name that begins with “voltbok-broken-”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukončení ponechá poškozený soubor, jak je. Jinak se uchová ve stejné složce pod názvem, který začíná na „voltbok-broken-“.</translation>
     </message>
     <message>
         <source>The copies in “%1” cannot be listed just now. Quit and start the program again before you choose anything else.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie v „%1“ teď nelze vypsat. Než zvolíte cokoli jiného, program ukončete a spusťte znovu.</translation>
     </message>
     <message>
         <source>No whole copy of it was found. Quit and look for one elsewhere before you start with an empty logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nebyla nalezena žádná jeho neporušená kopie. Než začnete s prázdným deníkem, ukončete program a hledejte ji jinde.</translation>
     </message>
     <message>
         <source>No whole copy of it was found. Choose what to go on with only after a look at what it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nebyla nalezena žádná jeho neporušená kopie. Než zvolíte, s čím pokračovat, podívejte se, co obsahuje.</translation>
     </message>
     <message>
         <source>Choose the version to go on with; the newest is on top.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte verzi, se kterou chcete pokračovat; nejnovější je nahoře.</translation>
     </message>
     <message>
         <source>What can still be read of the damaged file</source>
-        <translation type="unfinished"></translation>
+        <translation>Co lze z poškozeného souboru ještě přečíst</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Ukončit</translation>
     </message>
     <message>
         <source>Start with an Empty Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Začít s prázdným deníkem</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Obnovit</translation>
     </message>
 </context>
 <context>
     <name>Startup</name>
     <message>
         <source>A new logbook begins in “%1”: there was none.</source>
-        <translation type="unfinished"></translation>
+        <translation>V „%1“ začíná nový deník: žádný tam nebyl.</translation>
     </message>
     <message>
         <source>The logbook is checked…</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník se kontroluje…</translation>
     </message>
     <message>
         <source>The picture “%1” was not written: there is a file of that name, and it is no picture. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrázek „%1“ nebyl zapsán: existuje soubor tohoto názvu, který není obrázek. Zvolte jiný název.</translation>
     </message>
     <message>
         <source>The picture “%1” cannot be written: %2. Choose another name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obrázek „%1“ nelze zapsat: %2. Zvolte jiný název.</translation>
     </message>
 </context>
 <context>
     <name>StatisticsChart</name>
     <message>
         <source>(no name)</source>
-        <translation type="unfinished"></translation>
+        <translation>(bez názvu)</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished"></translation>
+        <translation>Lety</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuty</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybito (mAh)</translation>
     </message>
     <message>
         <source>%1 by month</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 podle měsíců</translation>
     </message>
     <message numerus="yes">
         <source>%1 by month, the newest %n months</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 podle měsíců, poslední %n měsíc</numerusform>
+            <numerusform>%1 podle měsíců, poslední %n měsíce</numerusform>
+            <numerusform>%1 podle měsíců, posledních %n měsíců</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 by model</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 podle modelů</translation>
     </message>
     <message numerus="yes">
         <source>%1 by model, the %n with the most</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 podle modelů, %n s nejvyšší hodnotou</numerusform>
+            <numerusform>%1 podle modelů, %n s nejvyššími hodnotami</numerusform>
+            <numerusform>%1 podle modelů, %n s nejvyššími hodnotami</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 by location</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 podle míst</translation>
     </message>
     <message numerus="yes">
         <source>%1 by location, the %n with the most</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%1 podle míst, %n s nejvyšší hodnotou</numerusform>
+            <numerusform>%1 podle míst, %n s nejvyššími hodnotami</numerusform>
+            <numerusform>%1 podle míst, %n s nejvyššími hodnotami</numerusform>
         </translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
 </context>
 <context>
     <name>StorageFolder</name>
     <message>
         <source>A logbook cannot be kept in “%1”: “%2” is not a directory. Choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník nelze uložit v „%1“: „%2“ není adresář. Zvolte jinou složku.</translation>
     </message>
     <message>
         <source>A logbook cannot be kept in “%1”: there is no permission to read and write in “%2”. Choose another folder, or ask its owner for access.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník nelze uložit v „%1“: chybí oprávnění ke čtení a zápisu v „%2“. Zvolte jinou složku, nebo o přístup požádejte jejího vlastníka.</translation>
     </message>
 </context>
 <context>
     <name>TablePrinting</name>
     <message>
         <source>The table was not printed: the printer or the file for it cannot be written. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabulka nebyla vytištěna: na tiskárnu nebo do jejího souboru nelze zapisovat. Zvolte jinou tiskárnu nebo jiný soubor.</translation>
     </message>
 </context>
 <context>
     <name>VoltbokGui</name>
     <message>
         <source>MainWindow</source>
-        <translation type="unfinished"></translation>
+        <translation>MainWindow</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Nabídka</translation>
     </message>
     <message>
         <source>Home</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehled</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátory</translation>
     </message>
     <message>
         <source>Model whose batteries are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Model, jehož akumulátory se zobrazují</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Welcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Vítejte</translation>
     </message>
     <message>
         <source>Please go to Options and add new model and battery!</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejděte prosím do Možností a přidejte nový model a akumulátor!</translation>
     </message>
     <message>
         <source>Battery data</source>
-        <translation type="unfinished"></translation>
+        <translation>Údaje akumulátoru</translation>
     </message>
     <message>
         <source>Battery whose discharges are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátor, jehož vybití se zobrazují</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátor</translation>
     </message>
     <message>
         <source>Capacity discharged, in mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybitá kapacita v mAh</translation>
     </message>
     <message>
         <source>Capacity in mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapacita v mAh</translation>
     </message>
     <message>
         <source>Maximum current, in A</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximální proud v A</translation>
     </message>
     <message>
         <source>Maximum current in A</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximální proud v A</translation>
     </message>
     <message>
         <source>Maximum current, in multiples of the capacity (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximální proud v násobcích kapacity (C)</translation>
     </message>
     <message>
         <source>Maximum current in C</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximální proud v C</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>Add a location</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat místo</translation>
     </message>
     <message>
         <source>Add a battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat akumulátor</translation>
     </message>
     <message>
         <source>Add a model</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat model</translation>
     </message>
     <message>
         <source>Modify</source>
-        <translation type="unfinished"></translation>
+        <translation>Upravit</translation>
     </message>
     <message>
         <source>Modify the battery chosen below. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Upraví níže zvolený akumulátor. Dokud žádný není, nedělá nic.</translation>
     </message>
     <message>
         <source>Modify the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Upravit akumulátor</translation>
     </message>
     <message>
         <source>Modify the model chosen below. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Upraví níže zvolený model. Dokud žádný není, nedělá nic.</translation>
     </message>
     <message>
         <source>Modify the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Upravit model</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat</translation>
     </message>
     <message>
         <source>Delete a location</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat místo</translation>
     </message>
     <message>
         <source>Delete a battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat akumulátor</translation>
     </message>
     <message>
         <source>Delete a model</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat model</translation>
     </message>
     <message>
         <source>Model to which batteries are assigned</source>
-        <translation type="unfinished"></translation>
+        <translation>Model, ke kterému se přiřazují akumulátory</translation>
     </message>
     <message>
         <source>Battery to assign to the model, or to remove from it</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátor, který se má přiřadit k modelu nebo z něj odebrat</translation>
     </message>
     <message>
         <source>Add the battery to the model. While there is no model, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidá akumulátor k modelu. Dokud žádný model není, nedělá nic.</translation>
     </message>
     <message>
         <source>Add the battery to the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat akumulátor k modelu</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat</translation>
     </message>
     <message>
         <source>Remove the battery from the model. While there is no model, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebere akumulátor z modelu. Dokud žádný model není, nedělá nic.</translation>
     </message>
     <message>
         <source>Remove the battery from the model</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat akumulátor z modelu</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Možnosti</translation>
     </message>
     <message>
         <source>Logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník</translation>
     </message>
     <message>
         <source>Chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Úpravy</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Režim</translation>
     </message>
     <message>
         <source>Data capture</source>
-        <translation type="unfinished"></translation>
+        <translation>Zápis dat</translation>
     </message>
     <message>
         <source>Quick</source>
-        <translation type="unfinished"></translation>
+        <translation>Rychlý</translation>
     </message>
     <message>
         <source>Full</source>
-        <translation type="unfinished"></translation>
+        <translation>Úplný</translation>
     </message>
     <message>
         <source>In Quick mode you will not be asked to enter any data when battery was discharged!</source>
-        <translation type="unfinished"></translation>
+        <translation>V režimu Rychlý po vás program po vybití akumulátoru nebude chtít žádné údaje!</translation>
     </message>
     <message>
         <source>Add location</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat místo</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Název</translation>
     </message>
     <message>
         <source>Add battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat akumulátor</translation>
     </message>
     <message>
         <source>MyBattery</source>
-        <translation type="unfinished"></translation>
+        <translation>MůjAku</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapacita (mAh)</translation>
     </message>
     <message>
         <source>00000</source>
-        <translation type="unfinished"></translation>
+        <translation>00000</translation>
     </message>
     <message>
         <source>1000</source>
-        <translation type="unfinished"></translation>
+        <translation>1000</translation>
     </message>
     <message>
         <source>Discharge rate (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybíjecí proud (C)</translation>
     </message>
     <message>
         <source>000</source>
-        <translation type="unfinished"></translation>
+        <translation>000</translation>
     </message>
     <message>
         <source>30</source>
-        <translation type="unfinished"></translation>
+        <translation>30</translation>
     </message>
     <message>
         <source>Charge  rate (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nabíjecí proud (C)</translation>
     </message>
     <message>
         <source>0.0</source>
-        <translation type="unfinished"></translation>
+        <translation>0.0</translation>
     </message>
     <message>
         <source>2.0</source>
-        <translation type="unfinished"></translation>
+        <translation>2.0</translation>
     </message>
     <message>
         <source>Cycles already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Dosavadní cykly</translation>
     </message>
     <message>
         <source>0000</source>
-        <translation type="unfinished"></translation>
+        <translation>0000</translation>
     </message>
     <message>
         <source>0</source>
-        <translation type="unfinished"></translation>
+        <translation>0</translation>
     </message>
     <message>
         <source>Date of purchase (Y/M/D)</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum koupě (R/M/D)</translation>
     </message>
     <message>
         <source>2020-01-01</source>
-        <translation type="unfinished"></translation>
+        <translation>2020-01-01</translation>
     </message>
     <message>
         <source>Add model</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat model</translation>
     </message>
     <message>
         <source>MyHeli</source>
-        <translation type="unfinished"></translation>
+        <translation>MůjHeli</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Heli</source>
-        <translation type="unfinished"></translation>
+        <translation>Heli</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished"></translation>
+        <translation>Hmotnost</translation>
     </message>
     <message>
         <source>1.00</source>
-        <translation type="unfinished"></translation>
+        <translation>1.00</translation>
     </message>
     <message>
         <source>In the unit of your choice</source>
-        <translation type="unfinished"></translation>
+        <translation>V jednotce podle vaší volby</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Velikost</translation>
     </message>
     <message>
         <source>700</source>
-        <translation type="unfinished"></translation>
+        <translation>700</translation>
     </message>
     <message>
         <source>Flights already used</source>
-        <translation type="unfinished"></translation>
+        <translation>Dosavadní lety</translation>
     </message>
     <message>
         <source>Additional notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Další poznámky</translation>
     </message>
     <message>
         <source>Delete battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat akumulátor</translation>
     </message>
     <message>
         <source>Battery to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátor ke smazání</translation>
     </message>
     <message>
         <source>Really?</source>
-        <translation type="unfinished"></translation>
+        <translation>Opravdu?</translation>
     </message>
     <message>
         <source>Delete the battery. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Smaže akumulátor. Dokud žádný není, nedělá nic.</translation>
     </message>
     <message>
         <source>Delete model</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat model</translation>
     </message>
     <message>
         <source>Model to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Model ke smazání</translation>
     </message>
     <message>
         <source>Delete the model. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Smaže model. Dokud žádný není, nedělá nic.</translation>
     </message>
     <message>
         <source>Delete location</source>
-        <translation type="unfinished"></translation>
+        <translation>Smazat místo</translation>
     </message>
     <message>
         <source>Location to delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo ke smazání</translation>
     </message>
     <message>
         <source>Delete the location. While there is none, this does nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Smaže místo. Dokud žádné není, nedělá nic.</translation>
     </message>
     <message>
         <source>Log book</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník</translation>
     </message>
     <message>
         <source>Model whose flights are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Model, jehož lety se zobrazují</translation>
     </message>
     <message>
         <source>&lt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;</translation>
     </message>
     <message>
         <source>Earlier flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Dřívější let</translation>
     </message>
     <message>
         <source>&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&gt;</translation>
     </message>
     <message>
         <source>Later flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozdější let</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Trvání</translation>
     </message>
     <message>
         <source>Ambient temp</source>
-        <translation type="unfinished"></translation>
+        <translation>Teplota okolí</translation>
     </message>
     <message>
         <source>Maximum current (A)</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximální proud (A)</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Poznámky</translation>
     </message>
     <message>
         <source>Battery discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátor vybit</translation>
     </message>
     <message>
         <source>Year-month-day</source>
-        <translation type="unfinished"></translation>
+        <translation>Rok-měsíc-den</translation>
     </message>
     <message>
         <source>Date, year-month-day</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum, rok-měsíc-den</translation>
     </message>
     <message>
         <source>Hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodiny:minuty:sekundy</translation>
     </message>
     <message>
         <source>Time, hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Čas, hodiny:minuty:sekundy</translation>
     </message>
     <message>
         <source>Flight log</source>
-        <translation type="unfinished"></translation>
+        <translation>Zápis letu</translation>
     </message>
     <message>
         <source>Location of the flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Místo letu</translation>
     </message>
     <message>
         <source>Duration, hours:minutes:seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Trvání, hodiny:minuty:sekundy</translation>
     </message>
     <message>
         <source>In °C</source>
-        <translation type="unfinished"></translation>
+        <translation>Ve °C</translation>
     </message>
     <message>
         <source>Ambient temperature in °C</source>
-        <translation type="unfinished"></translation>
+        <translation>Teplota okolí ve °C</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Modify model</source>
-        <translation type="unfinished"></translation>
+        <translation>Upravit model</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Uložit</translation>
     </message>
     <message>
         <source>Modify battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Upravit akumulátor</translation>
     </message>
     <message>
         <source>Battery age: %1 years</source>
-        <translation type="unfinished"></translation>
+        <translation>Stáří akumulátoru v letech: %1</translation>
     </message>
     <message>
         <source>Chart of %1 in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf akumulátoru %1 v %2</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Ano</translation>
     </message>
 </context>
 <context>
     <name>WholeFile</name>
     <message>
         <source>it brings a document type of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>soubor obsahuje vlastní typ dokumentu</translation>
     </message>
     <message>
         <source>it is not a logbook: its root element is “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>není to deník: jeho kořenový prvek je „%1“</translation>
     </message>
     <message>
         <source>it is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>soubor je prázdný</translation>
     </message>
     <message>
         <source>it contains zero bytes</source>
-        <translation type="unfinished"></translation>
+        <translation>soubor obsahuje nulové bajty</translation>
     </message>
     <message>
         <source>line %1 cannot be understood (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>řádku %1 nelze porozumět (%2)</translation>
     </message>
     <message>
         <source>it is a link to “%1”, which does not exist</source>
-        <translation type="unfinished"></translation>
+        <translation>je to odkaz na „%1“, a tento cíl neexistuje</translation>
     </message>
     <message>
         <source>it is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>je to složka</translation>
     </message>
     <message>
         <source>it is not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>není to běžný soubor</translation>
     </message>
     <message>
         <source>it is larger than %1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>soubor je větší než %1 MB</translation>
     </message>
     <message>
         <source>it was written, but reads differently</source>
-        <translation type="unfinished"></translation>
+        <translation>soubor byl zapsán, ale čte se jinak</translation>
     </message>
     <message>
         <source>permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>přístup odepřen</translation>
     </message>
     <message>
         <source>operation not permitted</source>
-        <translation type="unfinished"></translation>
+        <translation>operace není povolena</translation>
     </message>
     <message>
         <source>the disk is read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>disk je jen pro čtení</translation>
     </message>
     <message>
         <source>no space left on device</source>
-        <translation type="unfinished"></translation>
+        <translation>na zařízení už není místo</translation>
     </message>
     <message>
         <source>no space left within your quota</source>
-        <translation type="unfinished"></translation>
+        <translation>ve vaší kvótě už není místo</translation>
     </message>
     <message>
         <source>the file would be too large</source>
-        <translation type="unfinished"></translation>
+        <translation>soubor by byl příliš velký</translation>
     </message>
     <message>
         <source>the disk reports an error</source>
-        <translation type="unfinished"></translation>
+        <translation>disk hlásí chybu</translation>
     </message>
     <message>
         <source>there is no such file</source>
-        <translation type="unfinished"></translation>
+        <translation>takový soubor neexistuje</translation>
     </message>
     <message>
         <source>its name is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>jeho název je příliš dlouhý</translation>
     </message>
     <message>
         <source>too many files are open</source>
-        <translation type="unfinished"></translation>
+        <translation>je otevřeno příliš mnoho souborů</translation>
     </message>
     <message>
         <source>no space is left on the disk</source>
-        <translation type="unfinished"></translation>
+        <translation>na disku už není místo</translation>
     </message>
     <message>
         <source>there is no permission to write in its folder</source>
-        <translation type="unfinished"></translation>
+        <translation>chybí oprávnění zapisovat do jeho složky</translation>
     </message>
 </context>
 <context>
     <name>Xlsx</name>
     <message>
         <source>there is not enough memory</source>
-        <translation type="unfinished"></translation>
+        <translation>nedostatek paměti</translation>
     </message>
     <message>
         <source>a sheet has no more than 1,048,576 rows</source>
-        <translation type="unfinished"></translation>
+        <translation>list má nejvýše 1&#xa0;048&#xa0;576 řádků</translation>
     </message>
     <message>
         <source>this build of the program cannot write workbooks</source>
-        <translation type="unfinished"></translation>
+        <translation>toto sestavení programu neumí zapisovat sešity</translation>
     </message>
 </context>
 </TS>
