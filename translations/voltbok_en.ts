@@ -95,6 +95,68 @@
     </message>
 </context>
 <context>
+    <name>BatteryHealth</name>
+    <message numerus="yes">
+        <source>Capacity: about %1 mAh of %2, from %Ln flights, half of them within %3 mAh of that.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Capacity: about %1 mAh, from %Ln flights, half of them within %2 mAh of that.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Internal resistance: about %1 mΩ, from %Ln flights, half of them within %2 mΩ of that.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Difference</name>
+    <message numerus="yes">
+        <source>%n flights</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n discharges</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n batteries</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n models</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n locations</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>FlightEdits</name>
     <message numerus="yes">
         <source>Enter a figure for each of the %n batteries, with a semicolon between them.</source>
@@ -111,6 +173,36 @@
         <translation>
             <numerusform>%n day old</numerusform>
             <numerusform>%n days old</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Host::CardWatch</name>
+    <message numerus="yes">
+        <source>The card “%1” holds %n radio logs that are not imported yet.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Host::ColumnsDialog</name>
+    <message numerus="yes">
+        <source>“%1” and %n more logs have columns that are not known.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Host::ConflictOffer</name>
+    <message numerus="yes">
+        <source>There are %n such versions.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
         </translation>
     </message>
 </context>

@@ -239,6 +239,66 @@
             <numerusform>%Ln décharges sans heure ne figurent que dans le tableau.</numerusform>
         </translation>
     </message>
+    <message>
+        <source>Internal resistance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measured capacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mΩ</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>BatteryHealth</name>
+    <message>
+        <source>No trend stands out from chance.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Capacity: shown once five measured flights tell it; so far %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Capacity: about %1 mAh of %2, from %Ln flights, half of them within %3 mAh of that.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>Capacity: about %1 mAh, from %Ln flights, half of them within %2 mAh of that.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Ageing: it has fallen by about %1 mAh over these flights.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal resistance: shown once five measured flights tell it; so far %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Internal resistance: about %1 mΩ, from %Ln flights, half of them within %2 mΩ of that.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Ageing: it has risen by about %1 mΩ over these flights.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No flight of “%1” was measured yet: choose Import Radio Logs… in the menu Logbook to read what your radio has logged.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BatteryWidget</name>
@@ -358,6 +418,21 @@
     </message>
 </context>
 <context>
+    <name>CopyRestoring</name>
+    <message>
+        <source>it is a link</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What radio logs told of this copy cannot be read: %1. What is known now and fits to it is kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the values that radio logs tell cannot be copied</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DateMark</name>
     <message>
         <source>Not a valid date: no date will be stored</source>
@@ -369,6 +444,188 @@
     <message>
         <source>The sample logbook “%1” cannot be written: %2. Free some space, or check the rights of its folder.</source>
         <translation>Le carnet d’exemple «&#xa0;%1&#xa0;» ne peut pas être écrit&#xa0;: %2. Libérez de l’espace ou vérifiez les droits de son dossier.</translation>
+    </message>
+</context>
+<context>
+    <name>Difference</name>
+    <message>
+        <source>without a time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 °C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>notes: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 mAh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 A</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>discharge rate %1 C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>charge rate %1 C</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cycles: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>charged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>discharged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bought on %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>last used %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>type: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>weight: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>size: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>flights already used: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>batteries: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>last changed %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 fewer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 charged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 discharged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discharge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation type="unfinished">Batterie</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation type="unfinished">Modèle</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation type="unfinished">Lieu</translation>
+    </message>
+    <message>
+        <source>1 flight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n flights</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 discharge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n discharges</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 battery</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n batteries</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n models</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n locations</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same as now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the same as now, in another order</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -696,6 +953,81 @@
     </message>
 </context>
 <context>
+    <name>Host::BackupsDialog</name>
+    <message>
+        <source>Backups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Restore</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Every version of the logbook is copied. Restoring a copy is one step, which Undo takes back; the logbook as it is now is copied first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies, the newest first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copies, the newest first:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What differs from the logbook now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;What differs from the logbook now:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many copies are compared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The logbook cannot be read now. Free some space, and try again.</source>
+        <translation type="unfinished">Le carnet ne peut pas être lu pour l’instant. Libérez de l’espace, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The copies in “%1” cannot be listed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no copy yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copies cannot be compared: %1. Free some space, and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copy of %1 holds %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This copy cannot be restored: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This copy is not whole any more: %1. Choose another one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The logbook is as in this copy already. Nothing was changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copy of %1 is restored. “Undo” in the menu Edit takes that back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Host::BatteriesModel</name>
     <message>
         <source>Battery</source>
@@ -917,6 +1249,178 @@
     <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
+    </message>
+    <message>
+        <source>This is shown once the radio&apos;s logs of five flights with “%1” tell it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Host::CardWatch</name>
+    <message>
+        <source>The card “%1” holds 1 radio log that is not imported yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>The card “%1” holds %n radio logs that are not imported yet.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation type="unfinished">Plus tard</translation>
+    </message>
+</context>
+<context>
+    <name>Host::ColumnsDialog</name>
+    <message>
+        <source>Columns of a Radio Log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” has columns that are not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” and 1 more log have columns that are not known.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>“%1” and %n more logs have columns that are not known.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 Choose those that tell of the battery, or “None”. Your choice is remembered for all logs with these columns.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;onsumption (mAh):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;urrent (A):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Volts of the battery:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some &amp;values of this log:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use &amp;These</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished">Aucune</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Some values of this log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One column cannot tell two things.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Host::ConflictOffer</name>
+    <message>
+        <source>“%1” is another version of this logbook: two computers have changed it, and the program that synchronises the folder has kept both. What it holds is not in this logbook yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Merge…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The versions are compared…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The logbook cannot be changed now. Record the flight on the discharge page first, or see the messages above the logbook.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” cannot be read now. Try again later.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Merged with another version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Merged with “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file cannot be put aside: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>There are %n such versions.</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>Host::CopiesModel</name>
+    <message>
+        <source>not whole: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished">Taille</translation>
+    </message>
+    <message>
+        <source>Compared with now</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Host::DifferencesModel</name>
+    <message>
+        <source>not there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In this copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the logbook now</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1478,6 +1982,116 @@
     </message>
 </context>
 <context>
+    <name>Host::HealthModel</name>
+    <message>
+        <source>Counter (mAh)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current × time (mAh)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At rest before (V)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At rest after (V)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lowest (V)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resistance (mΩ)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Capacity (mAh)</source>
+        <translation type="unfinished">Capacité (mAh)</translation>
+    </message>
+    <message>
+        <source>What the radio&apos;s counter of the consumption says.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The consumption as the logged current adds up over time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The voltage of the whole battery at less than 1 A before the flight.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The voltage of the whole battery at less than 1 A after the flight.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lowest voltage of the whole battery in flight.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The internal resistance of the whole battery: by how much the voltage falls with each ampere.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An estimate: the consumption, and the charge that the voltages at rest before and after the flight stand for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measured</source>
+        <translation type="unfinished">Mesuré</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spread (±)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flights</source>
+        <translation type="unfinished">Vols</translation>
+    </message>
+    <message>
+        <source>What the radio&apos;s logs tell of the flights with this battery.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Half of the flights show less than this, half of them more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Half of the flights lie within so much around the median.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many flights tell it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shown once five measured flights tell it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No log tells it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Host::HealthView</name>
+    <message>
+        <source>Measured values of the battery</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Host::ImportDialog</name>
     <message>
         <source>Choose &amp;Logs…</source>
@@ -1581,6 +2195,10 @@
     <message>
         <source>%1. Flights filled: %2; discharges added: %3. Undo in the menu Edit takes all of it back.</source>
         <translation>%1. Vols complétés&#xa0;: %2&#x202f;; décharges ajoutées&#xa0;: %3. Annuler, dans le menu Édition, défait le tout.</translation>
+    </message>
+    <message>
+        <source>Nobody has chosen the columns that tell of the battery.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1792,12 +2410,203 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
         <source>Choose a Folder…</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;Backups…</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Host::ManualWindow</name>
     <message>
         <source>Voltbok Manual</source>
         <translation>Manuel de Voltbok</translation>
+    </message>
+</context>
+<context>
+    <name>Host::MergeDialog</name>
+    <message>
+        <source>without a time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Battery %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discharge of %1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Flight of %1, %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Capacity (mAh)</source>
+        <translation type="unfinished">Capacité (mAh)</translation>
+    </message>
+    <message>
+        <source>Discharge rating (C)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charge rating (C)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Purchased</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cycles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Charged</source>
+        <translation type="unfinished">Chargée</translation>
+    </message>
+    <message>
+        <source>Last use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discharged (mAh)</source>
+        <translation type="unfinished">Déchargé (mAh)</translation>
+    </message>
+    <message>
+        <source>Maximum current (A)</source>
+        <translation type="unfinished">Courant maximal (A)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished">Type</translation>
+    </message>
+    <message>
+        <source>Weight</source>
+        <translation type="unfinished">Poids</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation type="unfinished">Taille</translation>
+    </message>
+    <message>
+        <source>Flights</source>
+        <translation type="unfinished">Vols</translation>
+    </message>
+    <message>
+        <source>Notes</source>
+        <translation type="unfinished">Notes</translation>
+    </message>
+    <message>
+        <source>Last update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Duration (s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation type="unfinished">Lieu</translation>
+    </message>
+    <message>
+        <source>Temperature (°C)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>batteries: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>models: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>locations: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>discharges: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>flights: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Added are %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removed, as they were there, are %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values changed: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Merge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” is another version of this logbook, which was changed on another computer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This logbook holds everything that it holds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No earlier version was found that both come from. So nothing is removed, and you choose wherever the two differ.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The other version is then kept among the copies of the logbook, and Undo in the menu Edit takes the merge back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put Aside</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Values that both have changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take the other’s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This logbook</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other version</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1875,6 +2684,26 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
     <message>
         <source>Nothing was changed: the logbook file cannot be written: %1. See that “%2” can be written, and try again.</source>
         <translation>Rien n’a été modifié&#xa0;: le fichier du carnet ne peut pas être écrit&#xa0;: %1. Veillez à ce que «&#xa0;%2&#xa0;» soit accessible en écriture, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The copy is restored…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy restored</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was changed: the logbook as it is now cannot be copied first: %1. See that the program can write in “%2”, and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>another program has changed it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program has changed what radio logs tell of the discharges. It is on show now.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2076,10 +2905,6 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
         <translation>le disque signale une erreur</translation>
     </message>
     <message>
-        <source>Another program has changed the logbook file. This window still shows what it held before, and your next change overwrites the file. A copy of the other version is kept in “%1”; start Voltbok again to see it.</source>
-        <translation>Un autre programme a modifié le fichier du carnet. Cette fenêtre affiche encore ce qu’il contenait auparavant, et votre prochaine modification écrasera le fichier. Une copie de l’autre version est conservée dans «&#xa0;%1&#xa0;»&#x202f;; redémarrez Voltbok pour la voir.</translation>
-    </message>
-    <message>
         <source>Try Again</source>
         <translation>Réessayer</translation>
     </message>
@@ -2146,6 +2971,70 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
     <message>
         <source>The logbook cannot be kept in “%1”: %2. Choose another folder.</source>
         <translation>Le carnet ne peut pas être conservé dans «&#xa0;%1&#xa0;»&#xa0;: %2. Choisissez un autre dossier.</translation>
+    </message>
+    <message>
+        <source>Leave the Page and Show It</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program has changed the logbook: %1. It is shown as soon as you have recorded or left what you are entering.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the Other Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep This Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program has changed the logbook: %1. This window holds something that is not saved. Choose which version to go on with; the other one is kept in “%2”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The logbook is read again…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program has changed the logbook: %1. It is on show now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your last click was not carried out: look at the logbook again, and repeat it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The version of the other program holds what this version of Voltbok does not understand, and drops when it saves: %1. It is kept as “%2”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The version of the other program holds what this version of Voltbok does not understand, and drops when it saves: %1. It cannot be put aside: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Another program had changed the logbook, and what you recorded has taken the place of that: %1. The other version is kept in “%2”; undo brings it back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The logbook file “%1” is gone: another program has moved or removed it. This window still shows what it held. Nothing can be recorded until the file is back; if it does not come back by itself, put it back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The logbook file “%1” was changed by another program, and is no whole logbook now: %2. This window still shows what it held. Nothing can be recorded until the file is whole; if that does not come by itself, put the file back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the File Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The logbook file is gone or damaged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything that this window shows is kept in a copy, which the next start offers. Go back, and put the file back now.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2566,6 +3455,13 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
+    <name>MergeSources</name>
+    <message>
+        <source>it has changed meanwhile</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Opening</name>
     <message numerus="yes">
         <source>%1 and %n more</source>
@@ -2613,6 +3509,13 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
     <message>
         <source>The logbook file holds what this version of Voltbok does not understand, and drops when it saves: %1. The file as it is now is kept as “%2”.</source>
         <translation>Le fichier du carnet contient des éléments que cette version de Voltbok ne comprend pas et qu’elle perd à l’enregistrement&#xa0;: %1. Le fichier dans son état actuel est conservé sous le nom «&#xa0;%2&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>Others</name>
+    <message>
+        <source>as many entries as before, with other contents</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

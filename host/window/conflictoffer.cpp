@@ -85,7 +85,7 @@ void ConflictOffer::look()
                       "logbook yet.")
                        .arg(QFileInfo(first).fileName());
     if (paths.size() > 1)
-        text += u' ' + tr("There are %1 such versions.").arg(paths.size());
+        text += u' ' + tr("There are %n such versions.", nullptr, static_cast<int>(paths.size()));
     m_messages.tell(u"conflict"_s, text, {{tr("Merge…"), [this, first] { merge(first); }}});
 }
 
