@@ -75,11 +75,11 @@ void mergeAll(MergeValues &values, const Catalogue &ours, const Catalogue &their
     merged.models = mergeRecords(values, Models, ours.models, theirs.models, ancestor.models, mergeModel);
 }
 
-/** Whether theirs has anything besides the counters that ours lacks. */
-bool hasNews(const Catalogue &theirs, const Catalogue &ours, const Catalogue &ancestor)
+/** Whether one side has anything besides the counters that the other one lacks. */
+bool hasNews(const Catalogue &side, const Catalogue &other, const Catalogue &ancestor)
 {
     MergeValues values;
-    mergeAll(values, ours, theirs, ancestor, MergeRecords::batteryContents, MergeRecords::modelContents);
+    mergeAll(values, other, side, ancestor, MergeRecords::batteryContents, MergeRecords::modelContents);
     return values.hasTaken();
 }
 
