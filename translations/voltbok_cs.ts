@@ -253,66 +253,66 @@
     </message>
     <message>
         <source>Internal resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Vnitřní odpor</translation>
     </message>
     <message>
         <source>Measured capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Změřená kapacita</translation>
     </message>
     <message>
         <source>mΩ</source>
-        <translation type="unfinished"></translation>
+        <translation>mΩ</translation>
     </message>
 </context>
 <context>
     <name>BatteryHealth</name>
     <message>
         <source>No trend stands out from chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný trend se neodlišuje od náhody.</translation>
     </message>
     <message>
         <source>Capacity: shown once five measured flights tell it; so far %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapacita: zobrazí se, jakmile ji udá pět změřených letů; zatím %1.</translation>
     </message>
     <message numerus="yes">
         <source>Capacity: about %1 mAh of %2, from %Ln flights, half of them within %3 mAh of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Kapacita: asi %1 mAh z %2, podle %Ln letu; polovina se od toho liší nejvýše o %3 mAh.</numerusform>
+            <numerusform>Kapacita: asi %1 mAh z %2, podle %Ln letů; polovina se od toho liší nejvýše o %3 mAh.</numerusform>
+            <numerusform>Kapacita: asi %1 mAh z %2, podle %Ln letů; polovina se od toho liší nejvýše o %3 mAh.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Capacity: about %1 mAh, from %Ln flights, half of them within %2 mAh of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Kapacita: asi %1 mAh, podle %Ln letu; polovina se od toho liší nejvýše o %2 mAh.</numerusform>
+            <numerusform>Kapacita: asi %1 mAh, podle %Ln letů; polovina se od toho liší nejvýše o %2 mAh.</numerusform>
+            <numerusform>Kapacita: asi %1 mAh, podle %Ln letů; polovina se od toho liší nejvýše o %2 mAh.</numerusform>
         </translation>
     </message>
     <message>
         <source>Ageing: it has fallen by about %1 mAh over these flights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stárnutí: během těchto letů klesla asi o %1 mAh.</translation>
     </message>
     <message>
         <source>Internal resistance: shown once five measured flights tell it; so far %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vnitřní odpor: zobrazí se, jakmile ho udá pět změřených letů; zatím %1.</translation>
     </message>
     <message numerus="yes">
         <source>Internal resistance: about %1 mΩ, from %Ln flights, half of them within %2 mΩ of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Vnitřní odpor: asi %1 mΩ, podle %Ln letu; polovina se od toho liší nejvýše o %2 mΩ.</numerusform>
+            <numerusform>Vnitřní odpor: asi %1 mΩ, podle %Ln letů; polovina se od toho liší nejvýše o %2 mΩ.</numerusform>
+            <numerusform>Vnitřní odpor: asi %1 mΩ, podle %Ln letů; polovina se od toho liší nejvýše o %2 mΩ.</numerusform>
         </translation>
     </message>
     <message>
         <source>Ageing: it has risen by about %1 mΩ over these flights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stárnutí: během těchto letů vzrostl asi o %1 mΩ.</translation>
     </message>
     <message>
         <source>No flight of “%1” was measured yet: choose Import Radio Logs… in the menu Logbook to read what your radio has logged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný let s „%1“ zatím nebyl změřen: zvolte Importovat záznamy z vysílačky… v nabídce Deník a načtěte, co vysílačka zaznamenala.</translation>
     </message>
 </context>
 <context>
@@ -436,15 +436,15 @@
     <name>CopyRestoring</name>
     <message>
         <source>it is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>je to odkaz</translation>
     </message>
     <message>
         <source>What radio logs told of this copy cannot be read: %1. What is known now and fits to it is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Údaje ze záznamů z vysílačky k této kopii nelze přečíst: %1. Co je známo teď a hodí se k ní, zůstává zachováno.</translation>
     </message>
     <message>
         <source>the values that radio logs tell cannot be copied</source>
-        <translation type="unfinished"></translation>
+        <translation>hodnoty ze záznamů z vysílačky nelze zkopírovat</translation>
     </message>
 </context>
 <context>
@@ -465,187 +465,187 @@
     <name>Difference</name>
     <message>
         <source>without a time</source>
-        <translation type="unfinished"></translation>
+        <translation>bez data</translation>
     </message>
     <message>
         <source>%1 °C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 °C</translation>
     </message>
     <message>
         <source>notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>poznámky: %1</translation>
     </message>
     <message>
         <source>%1 mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mAh</translation>
     </message>
     <message>
         <source>%1 A</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 A</translation>
     </message>
     <message>
         <source>discharge rate %1 C</source>
-        <translation type="unfinished"></translation>
+        <translation>vybíjecí proud %1 C</translation>
     </message>
     <message>
         <source>charge rate %1 C</source>
-        <translation type="unfinished"></translation>
+        <translation>nabíjecí proud %1 C</translation>
     </message>
     <message>
         <source>cycles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>cykly: %1</translation>
     </message>
     <message>
         <source>charged</source>
-        <translation type="unfinished"></translation>
+        <translation>nabitý</translation>
     </message>
     <message>
         <source>discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>vybitý</translation>
     </message>
     <message>
         <source>bought on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>koupeno %1</translation>
     </message>
     <message>
         <source>last used %1</source>
-        <translation type="unfinished"></translation>
+        <translation>poslední použití: %1</translation>
     </message>
     <message>
         <source>type: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>typ: %1</translation>
     </message>
     <message>
         <source>weight: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>hmotnost: %1</translation>
     </message>
     <message>
         <source>size: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>velikost: %1</translation>
     </message>
     <message>
         <source>flights already used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dosavadní lety: %1</translation>
     </message>
     <message>
         <source>batteries: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>akumulátory: %1</translation>
     </message>
     <message>
         <source>last changed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>poslední změna: %1</translation>
     </message>
     <message>
         <source>%1 fewer</source>
-        <translation type="unfinished"></translation>
+        <translation>o %1 méně</translation>
     </message>
     <message>
         <source>%1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>o %1 více</translation>
     </message>
     <message>
         <source>%1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>změněno: %1</translation>
     </message>
     <message>
         <source>%1 charged</source>
-        <translation type="unfinished"></translation>
+        <translation>nabité: %1</translation>
     </message>
     <message>
         <source>%1 discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>vybité: %1</translation>
     </message>
     <message>
         <source>Flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Let</translation>
     </message>
     <message>
         <source>Discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybití</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished">Akumulátor</translation>
+        <translation>Akumulátor</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Model</translation>
+        <translation>Model</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished">Místo</translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>1 flight</source>
-        <translation type="unfinished"></translation>
+        <translation>1 let</translation>
     </message>
     <message numerus="yes">
         <source>%n flights</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n let</numerusform>
+            <numerusform>%n lety</numerusform>
+            <numerusform>%n letů</numerusform>
         </translation>
     </message>
     <message>
         <source>1 discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>1 vybití</translation>
     </message>
     <message numerus="yes">
         <source>%n discharges</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n vybití</numerusform>
+            <numerusform>%n vybití</numerusform>
+            <numerusform>%n vybití</numerusform>
         </translation>
     </message>
     <message>
         <source>1 battery</source>
-        <translation type="unfinished"></translation>
+        <translation>1 akumulátor</translation>
     </message>
     <message numerus="yes">
         <source>%n batteries</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n akumulátor</numerusform>
+            <numerusform>%n akumulátory</numerusform>
+            <numerusform>%n akumulátorů</numerusform>
         </translation>
     </message>
     <message>
         <source>1 model</source>
-        <translation type="unfinished"></translation>
+        <translation>1 model</translation>
     </message>
     <message numerus="yes">
         <source>%n models</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n model</numerusform>
+            <numerusform>%n modely</numerusform>
+            <numerusform>%n modelů</numerusform>
         </translation>
     </message>
     <message>
         <source>1 location</source>
-        <translation type="unfinished"></translation>
+        <translation>1 místo</translation>
     </message>
     <message numerus="yes">
         <source>%n locations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n místo</numerusform>
+            <numerusform>%n místa</numerusform>
+            <numerusform>%n míst</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 a %2</translation>
     </message>
     <message>
         <source>the same as now</source>
-        <translation type="unfinished"></translation>
+        <translation>stejné jako teď</translation>
     </message>
     <message>
         <source>the same as now, in another order</source>
-        <translation type="unfinished"></translation>
+        <translation>stejné jako teď, v jiném pořadí</translation>
     </message>
 </context>
 <context>
@@ -977,75 +977,75 @@
     <name>Host::BackupsDialog</name>
     <message>
         <source>Backups</source>
-        <translation type="unfinished"></translation>
+        <translation>Zálohy</translation>
     </message>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Obnovit</translation>
     </message>
     <message>
         <source>Every version of the logbook is copied. Restoring a copy is one step, which Undo takes back; the logbook as it is now is copied first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Každá verze deníku se kopíruje. Obnovení kopie je jeden krok, který vrátí příkaz Zpět; nejprve se zkopíruje nynější deník.</translation>
     </message>
     <message>
         <source>Copies, the newest first</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie, od nejnovější</translation>
     </message>
     <message>
         <source>&amp;Copies, the newest first:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopie, od nejnovější:</translation>
     </message>
     <message>
         <source>What differs from the logbook now</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozdíly oproti nynějšímu deníku</translation>
     </message>
     <message>
         <source>&amp;What differs from the logbook now:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rozdíly oproti nynějšímu deníku:</translation>
     </message>
     <message>
         <source>How many copies are compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Počet porovnaných kopií</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Za&amp;stavit</translation>
     </message>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished">Deník teď nelze přečíst. Uvolněte místo a zkuste to znovu.</translation>
+        <translation>Deník teď nelze přečíst. Uvolněte místo a zkuste to znovu.</translation>
     </message>
     <message>
         <source>The copies in “%1” cannot be listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie v „%1“ nelze vypsat.</translation>
     </message>
     <message>
         <source>There is no copy yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zatím zde není žádná kopie.</translation>
     </message>
     <message>
         <source>The copies cannot be compared: %1. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie nelze porovnat: %1. Uvolněte místo a zkuste to znovu.</translation>
     </message>
     <message>
         <source>The copy of %1 holds %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie z %1 obsahuje %2.</translation>
     </message>
     <message>
         <source>This copy cannot be restored: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tuto kopii nelze obnovit: %1.</translation>
     </message>
     <message>
         <source>This copy is not whole any more: %1. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato kopie je už poškozená: %1. Zvolte jinou.</translation>
     </message>
     <message>
         <source>The logbook is as in this copy already. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník je už stejný jako v této kopii. Nic se nezměnilo.</translation>
     </message>
     <message>
         <source>The copy of %1 is restored. “Undo” in the menu Edit takes that back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie z %1 je obnovena. Příkaz „Zpět“ v nabídce Úpravy to vrátí.</translation>
     </message>
 </context>
 <context>
@@ -1274,139 +1274,139 @@
     </message>
     <message>
         <source>This is shown once the radio&apos;s logs of five flights with “%1” tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Graf se zobrazí, jakmile to udají záznamy z vysílačky o pěti letech s „%1“.</translation>
     </message>
 </context>
 <context>
     <name>Host::CardWatch</name>
     <message>
         <source>The card “%1” holds 1 radio log that is not imported yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Karta „%1“ obsahuje 1 záznam z vysílačky, který ještě není importován.</translation>
     </message>
     <message numerus="yes">
         <source>The card “%1” holds %n radio logs that are not imported yet.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Karta „%1“ obsahuje %n záznam z vysílačky, který ještě není importován.</numerusform>
+            <numerusform>Karta „%1“ obsahuje %n záznamy z vysílačky, které ještě nejsou importovány.</numerusform>
+            <numerusform>Karta „%1“ obsahuje %n záznamů z vysílačky, které ještě nejsou importovány.</numerusform>
         </translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importovat…</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished">Teď ne</translation>
+        <translation>Teď ne</translation>
     </message>
 </context>
 <context>
     <name>Host::ColumnsDialog</name>
     <message>
         <source>Columns of a Radio Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Sloupce záznamu z vysílačky</translation>
     </message>
     <message>
         <source>“%1” has columns that are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ má neznámé sloupce.</translation>
     </message>
     <message>
         <source>“%1” and 1 more log have columns that are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ a ještě 1 záznam mají neznámé sloupce.</translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %n more logs have columns that are not known.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>„%1“ a ještě %n záznam mají neznámé sloupce.</numerusform>
+            <numerusform>„%1“ a ještě %n záznamy mají neznámé sloupce.</numerusform>
+            <numerusform>„%1“ a ještě %n záznamů mají neznámé sloupce.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 Choose those that tell of the battery, or “None”. Your choice is remembered for all logs with these columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Zvolte ty, které se týkají akumulátoru, nebo „Žádný“. Vaše volba se zapamatuje pro všechny záznamy s těmito sloupci.</translation>
     </message>
     <message>
         <source>C&amp;onsumption (mAh):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Spotřeba (mAh):</translation>
     </message>
     <message>
         <source>C&amp;urrent (A):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Proud (A):</translation>
     </message>
     <message>
         <source>&amp;Volts of the battery:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Napětí akumulátoru:</translation>
     </message>
     <message>
         <source>Some &amp;values of this log:</source>
-        <translation type="unfinished"></translation>
+        <translation>Některé &amp;hodnoty tohoto záznamu:</translation>
     </message>
     <message>
         <source>Use &amp;These</source>
-        <translation type="unfinished"></translation>
+        <translation>Použít &amp;tyto</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Žádný</translation>
+        <translation>Žádný</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Sloupec</translation>
     </message>
     <message>
         <source>Value %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnota %1</translation>
     </message>
     <message>
         <source>Some values of this log</source>
-        <translation type="unfinished"></translation>
+        <translation>Některé hodnoty tohoto záznamu</translation>
     </message>
     <message>
         <source>One column cannot tell two things.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeden sloupec nemůže udávat dvě věci.</translation>
     </message>
 </context>
 <context>
     <name>Host::ConflictOffer</name>
     <message>
         <source>“%1” is another version of this logbook: two computers have changed it, and the program that synchronises the folder has kept both. What it holds is not in this logbook yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ je jiná verze tohoto deníku: změnily ho dva počítače a program, který složku synchronizuje, ponechal obě verze. Její obsah v tomto deníku zatím není.</translation>
     </message>
     <message>
         <source>Merge…</source>
-        <translation type="unfinished"></translation>
+        <translation>Sloučit…</translation>
     </message>
     <message>
         <source>The versions are compared…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verze se porovnávají…</translation>
     </message>
     <message>
         <source>The logbook cannot be changed now. Record the flight on the discharge page first, or see the messages above the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník teď nelze změnit. Nejprve zaznamenejte let na stránce vybití, nebo si přečtěte zprávy nad deníkem.</translation>
     </message>
     <message>
         <source>“%1” cannot be read now. Try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ teď nelze přečíst. Zkuste to znovu později.</translation>
     </message>
     <message>
         <source>Merged with another version</source>
-        <translation type="unfinished"></translation>
+        <translation>Sloučeno s jinou verzí</translation>
     </message>
     <message>
         <source>Merged with “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sloučeno s „%1“.</translation>
     </message>
     <message>
         <source>The file cannot be put aside: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor nelze odložit: %1.</translation>
     </message>
     <message numerus="yes">
         <source>There are %n such versions.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Je zde %n taková verze.</numerusform>
+            <numerusform>Jsou zde %n takové verze.</numerusform>
+            <numerusform>Je zde %n takových verzí.</numerusform>
         </translation>
     </message>
 </context>
@@ -1414,38 +1414,38 @@
     <name>Host::CopiesModel</name>
     <message>
         <source>not whole: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>poškozená: %1</translation>
     </message>
     <message>
         <source>Made</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvořena</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Velikost</translation>
+        <translation>Velikost</translation>
     </message>
     <message>
         <source>Compared with now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ve srovnání s nynějškem</translation>
     </message>
 </context>
 <context>
     <name>Host::DifferencesModel</name>
     <message>
         <source>not there</source>
-        <translation type="unfinished"></translation>
+        <translation>není</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Co</translation>
     </message>
     <message>
         <source>In this copy</source>
-        <translation type="unfinished"></translation>
+        <translation>V této kopii</translation>
     </message>
     <message>
         <source>In the logbook now</source>
-        <translation type="unfinished"></translation>
+        <translation>V nynějším deníku</translation>
     </message>
 </context>
 <context>
@@ -2014,110 +2014,110 @@
     <name>Host::HealthModel</name>
     <message>
         <source>Counter (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Počitadlo (mAh)</translation>
     </message>
     <message>
         <source>Current × time (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Proud × čas (mAh)</translation>
     </message>
     <message>
         <source>At rest before (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>V klidu před (V)</translation>
     </message>
     <message>
         <source>At rest after (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>V klidu po (V)</translation>
     </message>
     <message>
         <source>Lowest (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejnižší (V)</translation>
     </message>
     <message>
         <source>Resistance (mΩ)</source>
-        <translation type="unfinished"></translation>
+        <translation>Odpor (mΩ)</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished">Kapacita (mAh)</translation>
+        <translation>Kapacita (mAh)</translation>
     </message>
     <message>
         <source>What the radio&apos;s counter of the consumption says.</source>
-        <translation type="unfinished"></translation>
+        <translation>Údaj počitadla spotřeby ve vysílačce.</translation>
     </message>
     <message>
         <source>The consumption as the logged current adds up over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spotřeba jako zaznamenaný proud sečtený v čase.</translation>
     </message>
     <message>
         <source>The voltage of the whole battery at less than 1 A before the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Napětí celého akumulátoru při proudu pod 1 A před letem.</translation>
     </message>
     <message>
         <source>The voltage of the whole battery at less than 1 A after the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Napětí celého akumulátoru při proudu pod 1 A po letu.</translation>
     </message>
     <message>
         <source>The lowest voltage of the whole battery in flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejnižší napětí celého akumulátoru za letu.</translation>
     </message>
     <message>
         <source>The internal resistance of the whole battery: by how much the voltage falls with each ampere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vnitřní odpor celého akumulátoru: o kolik klesne napětí s každým ampérem.</translation>
     </message>
     <message>
         <source>An estimate: the consumption, and the charge that the voltages at rest before and after the flight stand for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odhad: ze spotřeby a z úrovně nabití, které odpovídají klidová napětí před letem a po něm.</translation>
     </message>
     <message>
         <source>Measured</source>
-        <translation type="unfinished">Změřeno</translation>
+        <translation>Změřeno</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Medián</translation>
     </message>
     <message>
         <source>Spread (±)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozptyl (±)</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished">Lety</translation>
+        <translation>Lety</translation>
     </message>
     <message>
         <source>What the radio&apos;s logs tell of the flights with this battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Co záznamy z vysílačky udávají o letech s tímto akumulátorem.</translation>
     </message>
     <message>
         <source>Half of the flights show less than this, half of them more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Polovina letů vykazuje menší hodnotu, polovina větší.</translation>
     </message>
     <message>
         <source>Half of the flights lie within so much around the median.</source>
-        <translation type="unfinished"></translation>
+        <translation>Polovina letů leží v této vzdálenosti od mediánu.</translation>
     </message>
     <message>
         <source>How many flights tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kolik letů to udává.</translation>
     </message>
     <message>
         <source>%1, %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3</translation>
     </message>
     <message>
         <source>Shown once five measured flights tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazí se, jakmile to udá pět změřených letů.</translation>
     </message>
     <message>
         <source>No log tells it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádný záznam to neudává.</translation>
     </message>
 </context>
 <context>
     <name>Host::HealthView</name>
     <message>
         <source>Measured values of the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Změřené hodnoty akumulátoru</translation>
     </message>
 </context>
 <context>
@@ -2228,7 +2228,7 @@
     </message>
     <message>
         <source>Nobody has chosen the columns that tell of the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nebyly zvoleny sloupce, které se týkají akumulátoru.</translation>
     </message>
 </context>
 <context>
@@ -2275,7 +2275,7 @@
     <message>
         <source>English</source>
         <comment>this language, in itself</comment>
-        <translation type="unfinished"></translation>
+        <translation>Čeština</translation>
     </message>
 </context>
 <context>
@@ -2418,31 +2418,31 @@ Tento deník je uložen v „%1“.</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jazyk</translation>
     </message>
     <message>
         <source>&amp;System Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Jazyk &amp;systému</translation>
     </message>
     <message>
         <source>This logbook is empty. Add your first battery, look around in the sample, or choose the folder of a logbook that you have already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento deník je prázdný. Přidejte první akumulátor, prohlédněte si ukázku, nebo zvolte složku deníku, který už máte.</translation>
     </message>
     <message>
         <source>Add a Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat akumulátor</translation>
     </message>
     <message>
         <source>Open the Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít ukázku</translation>
     </message>
     <message>
         <source>Choose a Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolit složku…</translation>
     </message>
     <message>
         <source>&amp;Backups…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zálohy…</translation>
     </message>
 </context>
 <context>
@@ -2456,187 +2456,187 @@ Tento deník je uložen v „%1“.</translation>
     <name>Host::MergeDialog</name>
     <message>
         <source>without a time</source>
-        <translation type="unfinished"></translation>
+        <translation>bez data</translation>
     </message>
     <message>
         <source>Battery %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Akumulátor %1</translation>
     </message>
     <message>
         <source>Model %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Model %1</translation>
     </message>
     <message>
         <source>Discharge of %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybití akumulátoru %1, %2</translation>
     </message>
     <message>
         <source>Flight of %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Let modelu %1, %2</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished">Kapacita (mAh)</translation>
+        <translation>Kapacita (mAh)</translation>
     </message>
     <message>
         <source>Discharge rating (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybíjecí proud (C)</translation>
     </message>
     <message>
         <source>Charge rating (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nabíjecí proud (C)</translation>
     </message>
     <message>
         <source>Purchased</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum koupě</translation>
     </message>
     <message>
         <source>Cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Cykly</translation>
     </message>
     <message>
         <source>Charged</source>
-        <translation type="unfinished">Nabitý</translation>
+        <translation>Nabitý</translation>
     </message>
     <message>
         <source>Last use</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední použití</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished">Vybito (mAh)</translation>
+        <translation>Vybito (mAh)</translation>
     </message>
     <message>
         <source>Maximum current (A)</source>
-        <translation type="unfinished">Maximální proud (A)</translation>
+        <translation>Maximální proud (A)</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished">Typ</translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished">Hmotnost</translation>
+        <translation>Hmotnost</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Velikost</translation>
+        <translation>Velikost</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished">Lety</translation>
+        <translation>Lety</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished">Poznámky</translation>
+        <translation>Poznámky</translation>
     </message>
     <message>
         <source>Last update</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední změna</translation>
     </message>
     <message>
         <source>Duration (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Trvání (s)</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished">Místo</translation>
+        <translation>Místo</translation>
     </message>
     <message>
         <source>Temperature (°C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Teplota (°C)</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>ano</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>ne</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>není</translation>
     </message>
     <message>
         <source>batteries: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>akumulátory: %1</translation>
     </message>
     <message>
         <source>models: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>modely: %1</translation>
     </message>
     <message>
         <source>locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>místa: %1</translation>
     </message>
     <message>
         <source>discharges: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>vybití: %1</translation>
     </message>
     <message>
         <source>flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>lety: %1</translation>
     </message>
     <message>
         <source>Added are %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidané položky – %1.</translation>
     </message>
     <message>
         <source>Removed, as they were there, are %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Položky odstraněné stejně jako v druhé verzi – %1.</translation>
     </message>
     <message>
         <source>Values changed: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Změněné hodnoty: %1.</translation>
     </message>
     <message>
         <source>Merge</source>
-        <translation type="unfinished"></translation>
+        <translation>Sloučit</translation>
     </message>
     <message>
         <source>“%1” is another version of this logbook, which was changed on another computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ je jiná verze tohoto deníku, změněná na jiném počítači.</translation>
     </message>
     <message>
         <source>This logbook holds everything that it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento deník obsahuje vše, co obsahuje ona verze.</translation>
     </message>
     <message>
         <source>No earlier version was found that both come from. So nothing is removed, and you choose wherever the two differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nebyla nalezena dřívější verze, ze které obě vycházejí. Proto se nic neodstraní a všude, kde se liší, volíte vy.</translation>
     </message>
     <message>
         <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obě verze změnily tyto &amp;hodnoty. Zaškrtněte ty, které se mají převzít z druhé verze; ostatní zůstanou, jak jsou v tomto deníku.</translation>
     </message>
     <message>
         <source>The other version is then kept among the copies of the logbook, and Undo in the menu Edit takes the merge back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Druhá verze se pak uchová mezi kopiemi deníku a příkaz Zpět v nabídce Úpravy sloučení vrátí.</translation>
     </message>
     <message>
         <source>Put Aside</source>
-        <translation type="unfinished"></translation>
+        <translation>Odložit</translation>
     </message>
     <message>
         <source>Values that both have changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnoty změněné v obou verzích</translation>
     </message>
     <message>
         <source>Take the other’s</source>
-        <translation type="unfinished"></translation>
+        <translation>Převzít z druhé</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnota</translation>
     </message>
     <message>
         <source>This logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento deník</translation>
     </message>
     <message>
         <source>Other version</source>
-        <translation type="unfinished"></translation>
+        <translation>Druhá verze</translation>
     </message>
 </context>
 <context>
@@ -2717,23 +2717,23 @@ Tento deník je uložen v „%1“.</translation>
     </message>
     <message>
         <source>The copy is restored…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie se obnovuje…</translation>
     </message>
     <message>
         <source>Copy restored</source>
-        <translation type="unfinished"></translation>
+        <translation>Obnovena kopie</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook as it is now cannot be copied first: %1. See that the program can write in “%2”, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nic se nezměnilo: nynější deník nelze nejprve zkopírovat: %1. Zajistěte, aby program mohl zapisovat do „%2“, a zkuste to znovu.</translation>
     </message>
     <message>
         <source>another program has changed it</source>
-        <translation type="unfinished"></translation>
+        <translation>změnil je jiný program</translation>
     </message>
     <message>
         <source>Another program has changed what radio logs tell of the discharges. It is on show now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jiný program změnil údaje ze záznamů z vysílačky o vybitích. Změněné údaje se teď zobrazují.</translation>
     </message>
 </context>
 <context>
@@ -3004,67 +3004,67 @@ Tento deník je uložen v „%1“.</translation>
     </message>
     <message>
         <source>Leave the Page and Show It</source>
-        <translation type="unfinished"></translation>
+        <translation>Opustit stránku a zobrazit</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. It is shown as soon as you have recorded or left what you are entering.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník změnil jiný program: %1. Zobrazí se, jakmile zaznamenáte nebo opustíte, co právě zadáváte.</translation>
     </message>
     <message>
         <source>Show the Other Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit druhou verzi</translation>
     </message>
     <message>
         <source>Keep This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponechat tuto verzi</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. This window holds something that is not saved. Choose which version to go on with; the other one is kept in “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník změnil jiný program: %1. Toto okno obsahuje údaje, které nejsou uloženy. Zvolte verzi, se kterou chcete pokračovat; druhá se uchová v „%2“.</translation>
     </message>
     <message>
         <source>The logbook is read again…</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník se znovu načítá…</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. It is on show now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník změnil jiný program: %1. Změněný deník se teď zobrazuje.</translation>
     </message>
     <message>
         <source>Your last click was not carried out: look at the logbook again, and repeat it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaše poslední kliknutí se neprovedlo: podívejte se na deník znovu a zopakujte ho.</translation>
     </message>
     <message>
         <source>The version of the other program holds what this version of Voltbok does not understand, and drops when it saves: %1. It is kept as “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verze druhého programu obsahuje údaje, kterým tato verze programu Voltbok nerozumí a které při ukládání vypouští: %1. Je uchována jako „%2“.</translation>
     </message>
     <message>
         <source>The version of the other program holds what this version of Voltbok does not understand, and drops when it saves: %1. It cannot be put aside: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verze druhého programu obsahuje údaje, kterým tato verze programu Voltbok nerozumí a které při ukládání vypouští: %1. Nelze ji odložit: %2.</translation>
     </message>
     <message>
         <source>Another program had changed the logbook, and what you recorded has taken the place of that: %1. The other version is kept in “%2”; undo brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deník změnil jiný program a to, co jste zaznamenali, jeho verzi nahradilo: %1. Druhá verze je uchována v „%2“; příkaz Zpět ji vrátí.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is gone: another program has moved or removed it. This window still shows what it held. Nothing can be recorded until the file is back; if it does not come back by itself, put it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor deníku „%1“ zmizel: přesunul ho nebo odstranil jiný program. Toto okno stále zobrazuje jeho obsah. Dokud soubor není zpět, nelze nic zaznamenat; nevrátí-li se sám, vraťte ho na místo.</translation>
     </message>
     <message>
         <source>The logbook file “%1” was changed by another program, and is no whole logbook now: %2. This window still shows what it held. Nothing can be recorded until the file is whole; if that does not come by itself, put the file back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor deníku „%1“ změnil jiný program a teď to není úplný deník: %2. Toto okno stále zobrazuje jeho dřívější obsah. Dokud soubor není úplný, nelze nic zaznamenat; nestane-li se tak samo, vraťte soubor na místo.</translation>
     </message>
     <message>
         <source>Put the File Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Vrátit soubor</translation>
     </message>
     <message>
         <source>The logbook file is gone or damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor deníku chybí nebo je poškozen.</translation>
     </message>
     <message>
         <source>Everything that this window shows is kept in a copy, which the next start offers. Go back, and put the file back now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vše, co toto okno zobrazuje, je uchováno v kopii, kterou nabídne příští spuštění. Vraťte se a soubor hned vraťte na místo.</translation>
     </message>
 </context>
 <context>
@@ -3491,7 +3491,7 @@ Tento deník je uložen v „%1“.</translation>
     <name>MergeSources</name>
     <message>
         <source>it has changed meanwhile</source>
-        <translation type="unfinished"></translation>
+        <translation>mezitím se změnil</translation>
     </message>
 </context>
 <context>
@@ -3549,7 +3549,7 @@ Tento deník je uložen v „%1“.</translation>
     <name>Others</name>
     <message>
         <source>as many entries as before, with other contents</source>
-        <translation type="unfinished"></translation>
+        <translation>stejně mnoho položek jako předtím, s jiným obsahem</translation>
     </message>
 </context>
 <context>
