@@ -241,63 +241,63 @@
     </message>
     <message>
         <source>Internal resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Resistencia interna</translation>
     </message>
     <message>
         <source>Measured capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad medida</translation>
     </message>
     <message>
         <source>mΩ</source>
-        <translation type="unfinished"></translation>
+        <translation>mΩ</translation>
     </message>
 </context>
 <context>
     <name>BatteryHealth</name>
     <message>
         <source>No trend stands out from chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna tendencia se distingue del azar.</translation>
     </message>
     <message>
         <source>Capacity: shown once five measured flights tell it; so far %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacidad: se muestra en cuanto la indican cinco vuelos medidos; hasta ahora, %1.</translation>
     </message>
     <message numerus="yes">
         <source>Capacity: about %1 mAh of %2, from %Ln flights, half of them within %3 mAh of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Capacidad: unos %1 mAh de %2, según %Ln vuelo; la mitad se aparta %3 mAh como máximo.</numerusform>
+            <numerusform>Capacidad: unos %1 mAh de %2, según %Ln vuelos; la mitad se aparta %3 mAh como máximo.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Capacity: about %1 mAh, from %Ln flights, half of them within %2 mAh of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Capacidad: unos %1 mAh, según %Ln vuelo; la mitad se aparta %2 mAh como máximo.</numerusform>
+            <numerusform>Capacidad: unos %1 mAh, según %Ln vuelos; la mitad se aparta %2 mAh como máximo.</numerusform>
         </translation>
     </message>
     <message>
         <source>Ageing: it has fallen by about %1 mAh over these flights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Envejecimiento: ha bajado unos %1 mAh a lo largo de estos vuelos.</translation>
     </message>
     <message>
         <source>Internal resistance: shown once five measured flights tell it; so far %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Resistencia interna: se muestra en cuanto la indican cinco vuelos medidos; hasta ahora, %1.</translation>
     </message>
     <message numerus="yes">
         <source>Internal resistance: about %1 mΩ, from %Ln flights, half of them within %2 mΩ of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Resistencia interna: unos %1 mΩ, según %Ln vuelo; la mitad se aparta %2 mΩ como máximo.</numerusform>
+            <numerusform>Resistencia interna: unos %1 mΩ, según %Ln vuelos; la mitad se aparta %2 mΩ como máximo.</numerusform>
         </translation>
     </message>
     <message>
         <source>Ageing: it has risen by about %1 mΩ over these flights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Envejecimiento: ha subido unos %1 mΩ a lo largo de estos vuelos.</translation>
     </message>
     <message>
         <source>No flight of “%1” was measured yet: choose Import Radio Logs… in the menu Logbook to read what your radio has logged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía no se ha medido ningún vuelo de “%1”: elija Importar registros de emisora… en el menú Libro para leer lo que ha registrado su emisora.</translation>
     </message>
 </context>
 <context>
@@ -421,15 +421,15 @@
     <name>CopyRestoring</name>
     <message>
         <source>it is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>es un enlace</translation>
     </message>
     <message>
         <source>What radio logs told of this copy cannot be read: %1. What is known now and fits to it is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer lo que los registros de emisora indicaban para esta copia: %1. Se conserva lo que se conoce ahora y encaja con ella.</translation>
     </message>
     <message>
         <source>the values that radio logs tell cannot be copied</source>
-        <translation type="unfinished"></translation>
+        <translation>los valores que dan los registros de emisora no se pueden copiar</translation>
     </message>
 </context>
 <context>
@@ -450,182 +450,182 @@
     <name>Difference</name>
     <message>
         <source>without a time</source>
-        <translation type="unfinished"></translation>
+        <translation>sin hora</translation>
     </message>
     <message>
         <source>%1 °C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 °C</translation>
     </message>
     <message>
         <source>notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>notas: %1</translation>
     </message>
     <message>
         <source>%1 mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mAh</translation>
     </message>
     <message>
         <source>%1 A</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 A</translation>
     </message>
     <message>
         <source>discharge rate %1 C</source>
-        <translation type="unfinished"></translation>
+        <translation>tasa de descarga %1 C</translation>
     </message>
     <message>
         <source>charge rate %1 C</source>
-        <translation type="unfinished"></translation>
+        <translation>tasa de carga %1 C</translation>
     </message>
     <message>
         <source>cycles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ciclos: %1</translation>
     </message>
     <message>
         <source>charged</source>
-        <translation type="unfinished"></translation>
+        <translation>cargada</translation>
     </message>
     <message>
         <source>discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>descargada</translation>
     </message>
     <message>
         <source>bought on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>compra el %1</translation>
     </message>
     <message>
         <source>last used %1</source>
-        <translation type="unfinished"></translation>
+        <translation>último uso el %1</translation>
     </message>
     <message>
         <source>type: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo: %1</translation>
     </message>
     <message>
         <source>weight: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>peso: %1</translation>
     </message>
     <message>
         <source>size: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tamaño: %1</translation>
     </message>
     <message>
         <source>flights already used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>vuelos ya hechos: %1</translation>
     </message>
     <message>
         <source>batteries: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>baterías: %1</translation>
     </message>
     <message>
         <source>last changed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>último cambio el %1</translation>
     </message>
     <message>
         <source>%1 fewer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 menos</translation>
     </message>
     <message>
         <source>%1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 más</translation>
     </message>
     <message>
         <source>%1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 con cambios</translation>
     </message>
     <message>
         <source>%1 charged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en estado cargado</translation>
     </message>
     <message>
         <source>%1 discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en estado descargado</translation>
     </message>
     <message>
         <source>Flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo</translation>
     </message>
     <message>
         <source>Discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>Descarga</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished">Batería</translation>
+        <translation>Batería</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modelo</translation>
+        <translation>Modelo</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished">Lugar</translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>1 flight</source>
-        <translation type="unfinished"></translation>
+        <translation>1 vuelo</translation>
     </message>
     <message numerus="yes">
         <source>%n flights</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n vuelo</numerusform>
+            <numerusform>%n vuelos</numerusform>
         </translation>
     </message>
     <message>
         <source>1 discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>1 descarga</translation>
     </message>
     <message numerus="yes">
         <source>%n discharges</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n descarga</numerusform>
+            <numerusform>%n descargas</numerusform>
         </translation>
     </message>
     <message>
         <source>1 battery</source>
-        <translation type="unfinished"></translation>
+        <translation>1 batería</translation>
     </message>
     <message numerus="yes">
         <source>%n batteries</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n batería</numerusform>
+            <numerusform>%n baterías</numerusform>
         </translation>
     </message>
     <message>
         <source>1 model</source>
-        <translation type="unfinished"></translation>
+        <translation>1 modelo</translation>
     </message>
     <message numerus="yes">
         <source>%n models</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n modelo</numerusform>
+            <numerusform>%n modelos</numerusform>
         </translation>
     </message>
     <message>
         <source>1 location</source>
-        <translation type="unfinished"></translation>
+        <translation>1 lugar</translation>
     </message>
     <message numerus="yes">
         <source>%n locations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n lugar</numerusform>
+            <numerusform>%n lugares</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 y %2</translation>
     </message>
     <message>
         <source>the same as now</source>
-        <translation type="unfinished"></translation>
+        <translation>igual que ahora</translation>
     </message>
     <message>
         <source>the same as now, in another order</source>
-        <translation type="unfinished"></translation>
+        <translation>igual que ahora, en otro orden</translation>
     </message>
 </context>
 <context>
@@ -956,75 +956,75 @@
     <name>Host::BackupsDialog</name>
     <message>
         <source>Backups</source>
-        <translation type="unfinished"></translation>
+        <translation>Copias de seguridad</translation>
     </message>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restaurar</translation>
     </message>
     <message>
         <source>Every version of the logbook is copied. Restoring a copy is one step, which Undo takes back; the logbook as it is now is copied first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se copia cada versión del libro. Restaurar una copia es un solo paso, que Deshacer revierte; antes se copia el libro tal como está ahora.</translation>
     </message>
     <message>
         <source>Copies, the newest first</source>
-        <translation type="unfinished"></translation>
+        <translation>Copias, la más reciente primero</translation>
     </message>
     <message>
         <source>&amp;Copies, the newest first:</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;opias, la más reciente primero:</translation>
     </message>
     <message>
         <source>What differs from the logbook now</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué difiere del libro actual</translation>
     </message>
     <message>
         <source>&amp;What differs from the logbook now:</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué &amp;difiere del libro actual:</translation>
     </message>
     <message>
         <source>How many copies are compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuántas copias se han comparado</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;tener</translation>
     </message>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished">Ahora no se puede leer el libro. Libere espacio y vuelva a intentarlo.</translation>
+        <translation>Ahora no se puede leer el libro. Libere espacio y vuelva a intentarlo.</translation>
     </message>
     <message>
         <source>The copies in “%1” cannot be listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede obtener la lista de las copias en “%1”.</translation>
     </message>
     <message>
         <source>There is no copy yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía no hay ninguna copia.</translation>
     </message>
     <message>
         <source>The copies cannot be compared: %1. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden comparar las copias: %1. Libere espacio y vuelva a intentarlo.</translation>
     </message>
     <message>
         <source>The copy of %1 holds %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copia del %1 contiene %2.</translation>
     </message>
     <message>
         <source>This copy cannot be restored: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta copia no se puede restaurar: %1.</translation>
     </message>
     <message>
         <source>This copy is not whole any more: %1. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta copia ya no está íntegra: %1. Elija otra.</translation>
     </message>
     <message>
         <source>The logbook is as in this copy already. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>El libro ya está como en esta copia. No se ha cambiado nada.</translation>
     </message>
     <message>
         <source>The copy of %1 is restored. “Undo” in the menu Edit takes that back.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copia del %1 se ha restaurado. “Deshacer”, en el menú Editar, lo revierte.</translation>
     </message>
 </context>
 <context>
@@ -1252,136 +1252,136 @@
     </message>
     <message>
         <source>This is shown once the radio&apos;s logs of five flights with “%1” tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esto se muestra en cuanto lo indican los registros de la emisora de cinco vuelos con “%1”.</translation>
     </message>
 </context>
 <context>
     <name>Host::CardWatch</name>
     <message>
         <source>The card “%1” holds 1 radio log that is not imported yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarjeta “%1” contiene 1 registro de emisora que aún no se ha importado.</translation>
     </message>
     <message numerus="yes">
         <source>The card “%1” holds %n radio logs that are not imported yet.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La tarjeta “%1” contiene %n registro de emisora que aún no se ha importado.</numerusform>
+            <numerusform>La tarjeta “%1” contiene %n registros de emisora que aún no se han importado.</numerusform>
         </translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar…</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished">Ahora no</translation>
+        <translation>Ahora no</translation>
     </message>
 </context>
 <context>
     <name>Host::ColumnsDialog</name>
     <message>
         <source>Columns of a Radio Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas de un registro de emisora</translation>
     </message>
     <message>
         <source>“%1” has columns that are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” tiene columnas desconocidas.</translation>
     </message>
     <message>
         <source>“%1” and 1 more log have columns that are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” y 1 registro más tienen columnas desconocidas.</translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %n more logs have columns that are not known.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>“%1” y %n registro más tienen columnas desconocidas.</numerusform>
+            <numerusform>“%1” y %n registros más tienen columnas desconocidas.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 Choose those that tell of the battery, or “None”. Your choice is remembered for all logs with these columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Elija las que se refieren a la batería, o “Ninguna”. Su elección se recuerda para todos los registros con estas columnas.</translation>
     </message>
     <message>
         <source>C&amp;onsumption (mAh):</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;nsumo (mAh):</translation>
     </message>
     <message>
         <source>C&amp;urrent (A):</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;orriente (A):</translation>
     </message>
     <message>
         <source>&amp;Volts of the battery:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tensión de la batería:</translation>
     </message>
     <message>
         <source>Some &amp;values of this log:</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunos &amp;valores de este registro:</translation>
     </message>
     <message>
         <source>Use &amp;These</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usar estas</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Ninguna</translation>
+        <translation>Ninguna</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Columna</translation>
     </message>
     <message>
         <source>Value %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor %1</translation>
     </message>
     <message>
         <source>Some values of this log</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunos valores de este registro</translation>
     </message>
     <message>
         <source>One column cannot tell two things.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una misma columna no puede indicar dos cosas.</translation>
     </message>
 </context>
 <context>
     <name>Host::ConflictOffer</name>
     <message>
         <source>“%1” is another version of this logbook: two computers have changed it, and the program that synchronises the folder has kept both. What it holds is not in this logbook yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” es otra versión de este libro: dos ordenadores lo han cambiado y el programa que sincroniza la carpeta ha conservado ambas. Su contenido aún no está en este libro.</translation>
     </message>
     <message>
         <source>Merge…</source>
-        <translation type="unfinished"></translation>
+        <translation>Fusionar…</translation>
     </message>
     <message>
         <source>The versions are compared…</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparando las versiones…</translation>
     </message>
     <message>
         <source>The logbook cannot be changed now. Record the flight on the discharge page first, or see the messages above the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora no se puede cambiar el libro. Registre primero el vuelo en la página de descarga o vea los mensajes encima del libro.</translation>
     </message>
     <message>
         <source>“%1” cannot be read now. Try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora no se puede leer “%1”. Vuelva a intentarlo más tarde.</translation>
     </message>
     <message>
         <source>Merged with another version</source>
-        <translation type="unfinished"></translation>
+        <translation>Fusión con otra versión</translation>
     </message>
     <message>
         <source>Merged with “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Libro fusionado con “%1”.</translation>
     </message>
     <message>
         <source>The file cannot be put aside: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no se puede apartar: %1.</translation>
     </message>
     <message numerus="yes">
         <source>There are %n such versions.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Hay %n versión así.</numerusform>
+            <numerusform>Hay %n versiones así.</numerusform>
         </translation>
     </message>
 </context>
@@ -1389,38 +1389,38 @@
     <name>Host::CopiesModel</name>
     <message>
         <source>not whole: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>no íntegra: %1</translation>
     </message>
     <message>
         <source>Made</source>
-        <translation type="unfinished"></translation>
+        <translation>Creada</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Tamaño</translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Compared with now</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparada con ahora</translation>
     </message>
 </context>
 <context>
     <name>Host::DifferencesModel</name>
     <message>
         <source>not there</source>
-        <translation type="unfinished"></translation>
+        <translation>no está</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué</translation>
     </message>
     <message>
         <source>In this copy</source>
-        <translation type="unfinished"></translation>
+        <translation>En esta copia</translation>
     </message>
     <message>
         <source>In the logbook now</source>
-        <translation type="unfinished"></translation>
+        <translation>En el libro actual</translation>
     </message>
 </context>
 <context>
@@ -1985,110 +1985,110 @@
     <name>Host::HealthModel</name>
     <message>
         <source>Counter (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Contador (mAh)</translation>
     </message>
     <message>
         <source>Current × time (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Corriente × tiempo (mAh)</translation>
     </message>
     <message>
         <source>At rest before (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>En reposo antes (V)</translation>
     </message>
     <message>
         <source>At rest after (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>En reposo después (V)</translation>
     </message>
     <message>
         <source>Lowest (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mínima (V)</translation>
     </message>
     <message>
         <source>Resistance (mΩ)</source>
-        <translation type="unfinished"></translation>
+        <translation>Resistencia (mΩ)</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished">Capacidad (mAh)</translation>
+        <translation>Capacidad (mAh)</translation>
     </message>
     <message>
         <source>What the radio&apos;s counter of the consumption says.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que indica el contador de consumo de la emisora.</translation>
     </message>
     <message>
         <source>The consumption as the logged current adds up over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>El consumo que resulta de sumar en el tiempo la corriente registrada.</translation>
     </message>
     <message>
         <source>The voltage of the whole battery at less than 1 A before the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tensión de toda la batería con menos de 1 A antes del vuelo.</translation>
     </message>
     <message>
         <source>The voltage of the whole battery at less than 1 A after the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tensión de toda la batería con menos de 1 A después del vuelo.</translation>
     </message>
     <message>
         <source>The lowest voltage of the whole battery in flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tensión más baja de toda la batería en vuelo.</translation>
     </message>
     <message>
         <source>The internal resistance of the whole battery: by how much the voltage falls with each ampere.</source>
-        <translation type="unfinished"></translation>
+        <translation>La resistencia interna de toda la batería: cuánto cae la tensión con cada amperio.</translation>
     </message>
     <message>
         <source>An estimate: the consumption, and the charge that the voltages at rest before and after the flight stand for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una estimación: el consumo y el estado de carga al que corresponden las tensiones en reposo antes y después del vuelo.</translation>
     </message>
     <message>
         <source>Measured</source>
-        <translation type="unfinished">Medido</translation>
+        <translation>Medido</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana</translation>
     </message>
     <message>
         <source>Spread (±)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispersión (±)</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished">Vuelos</translation>
+        <translation>Vuelos</translation>
     </message>
     <message>
         <source>What the radio&apos;s logs tell of the flights with this battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que los registros de la emisora indican sobre los vuelos con esta batería.</translation>
     </message>
     <message>
         <source>Half of the flights show less than this, half of them more.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mitad de los vuelos da menos que este valor; la otra mitad, más.</translation>
     </message>
     <message>
         <source>Half of the flights lie within so much around the median.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mitad de los vuelos se aparta de la mediana esto como máximo.</translation>
     </message>
     <message>
         <source>How many flights tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuántos vuelos la indican.</translation>
     </message>
     <message>
         <source>%1, %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3</translation>
     </message>
     <message>
         <source>Shown once five measured flights tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se muestra en cuanto la indican cinco vuelos medidos.</translation>
     </message>
     <message>
         <source>No log tells it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún registro lo indica.</translation>
     </message>
 </context>
 <context>
     <name>Host::HealthView</name>
     <message>
         <source>Measured values of the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores medidos de la batería</translation>
     </message>
 </context>
 <context>
@@ -2198,7 +2198,7 @@
     </message>
     <message>
         <source>Nobody has chosen the columns that tell of the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nadie ha elegido las columnas que se refieren a la batería.</translation>
     </message>
 </context>
 <context>
@@ -2245,7 +2245,7 @@
     <message>
         <source>English</source>
         <comment>this language, in itself</comment>
-        <translation type="unfinished"></translation>
+        <translation>Español</translation>
     </message>
 </context>
 <context>
@@ -2388,31 +2388,31 @@ Este libro se guarda en “%1”.</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Idioma</translation>
     </message>
     <message>
         <source>&amp;System Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma del &amp;sistema</translation>
     </message>
     <message>
         <source>This logbook is empty. Add your first battery, look around in the sample, or choose the folder of a logbook that you have already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este libro está vacío. Añada su primera batería, explore el ejemplo o elija la carpeta de un libro que ya tenga.</translation>
     </message>
     <message>
         <source>Add a Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir una batería</translation>
     </message>
     <message>
         <source>Open the Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir el ejemplo</translation>
     </message>
     <message>
         <source>Choose a Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir una carpeta…</translation>
     </message>
     <message>
         <source>&amp;Backups…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copias de seguridad…</translation>
     </message>
 </context>
 <context>
@@ -2426,187 +2426,187 @@ Este libro se guarda en “%1”.</translation>
     <name>Host::MergeDialog</name>
     <message>
         <source>without a time</source>
-        <translation type="unfinished"></translation>
+        <translation>sin hora</translation>
     </message>
     <message>
         <source>Battery %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Batería %1</translation>
     </message>
     <message>
         <source>Model %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelo %1</translation>
     </message>
     <message>
         <source>Discharge of %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Descarga de %1, %2</translation>
     </message>
     <message>
         <source>Flight of %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelo de %1, %2</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished">Capacidad (mAh)</translation>
+        <translation>Capacidad (mAh)</translation>
     </message>
     <message>
         <source>Discharge rating (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasa de descarga (C)</translation>
     </message>
     <message>
         <source>Charge rating (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasa de carga (C)</translation>
     </message>
     <message>
         <source>Purchased</source>
-        <translation type="unfinished"></translation>
+        <translation>Compra</translation>
     </message>
     <message>
         <source>Cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciclos</translation>
     </message>
     <message>
         <source>Charged</source>
-        <translation type="unfinished">Cargada</translation>
+        <translation>Cargada</translation>
     </message>
     <message>
         <source>Last use</source>
-        <translation type="unfinished"></translation>
+        <translation>Último uso</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished">Descargado (mAh)</translation>
+        <translation>Descargado (mAh)</translation>
     </message>
     <message>
         <source>Maximum current (A)</source>
-        <translation type="unfinished">Corriente máxima (A)</translation>
+        <translation>Corriente máxima (A)</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished">Tipo</translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished">Peso</translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Tamaño</translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished">Vuelos</translation>
+        <translation>Vuelos</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished">Notas</translation>
+        <translation>Notas</translation>
     </message>
     <message>
         <source>Last update</source>
-        <translation type="unfinished"></translation>
+        <translation>Último cambio</translation>
     </message>
     <message>
         <source>Duration (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración (s)</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished">Lugar</translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>Temperature (°C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura (°C)</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>sí</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>no</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>sin valor</translation>
     </message>
     <message>
         <source>batteries: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>baterías: %1</translation>
     </message>
     <message>
         <source>models: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>modelos: %1</translation>
     </message>
     <message>
         <source>locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>lugares: %1</translation>
     </message>
     <message>
         <source>discharges: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>descargas: %1</translation>
     </message>
     <message>
         <source>flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>vuelos: %1</translation>
     </message>
     <message>
         <source>Added are %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementos añadidos (%1).</translation>
     </message>
     <message>
         <source>Removed, as they were there, are %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementos eliminados, como en la otra versión (%1).</translation>
     </message>
     <message>
         <source>Values changed: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores cambiados: %1.</translation>
     </message>
     <message>
         <source>Merge</source>
-        <translation type="unfinished"></translation>
+        <translation>Fusionar</translation>
     </message>
     <message>
         <source>“%1” is another version of this logbook, which was changed on another computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” es otra versión de este libro, cambiada en otro ordenador.</translation>
     </message>
     <message>
         <source>This logbook holds everything that it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este libro ya contiene todo lo que contiene esa versión.</translation>
     </message>
     <message>
         <source>No earlier version was found that both come from. So nothing is removed, and you choose wherever the two differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha encontrado ninguna versión anterior de la que procedan ambas. Por eso no se elimina nada, y usted elige allí donde las dos difieren.</translation>
     </message>
     <message>
         <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ambas versiones han cambiado estos &amp;valores. Marque los que deban tomarse de la otra versión; los demás quedan como están en este libro.</translation>
     </message>
     <message>
         <source>The other version is then kept among the copies of the logbook, and Undo in the menu Edit takes the merge back.</source>
-        <translation type="unfinished"></translation>
+        <translation>La otra versión se conserva después entre las copias del libro, y Deshacer, en el menú Editar, revierte la fusión.</translation>
     </message>
     <message>
         <source>Put Aside</source>
-        <translation type="unfinished"></translation>
+        <translation>Apartar</translation>
     </message>
     <message>
         <source>Values that both have changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores que ambas han cambiado</translation>
     </message>
     <message>
         <source>Take the other’s</source>
-        <translation type="unfinished"></translation>
+        <translation>Tomar el otro</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>This logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Este libro</translation>
     </message>
     <message>
         <source>Other version</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra versión</translation>
     </message>
 </context>
 <context>
@@ -2687,23 +2687,23 @@ Este libro se guarda en “%1”.</translation>
     </message>
     <message>
         <source>The copy is restored…</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurando la copia…</translation>
     </message>
     <message>
         <source>Copy restored</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia restaurada</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook as it is now cannot be copied first: %1. See that the program can write in “%2”, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha cambiado nada: antes no se puede copiar el libro tal como está ahora: %1. Procure que el programa pueda escribir en “%2” y vuelva a intentarlo.</translation>
     </message>
     <message>
         <source>another program has changed it</source>
-        <translation type="unfinished"></translation>
+        <translation>otro programa lo ha cambiado</translation>
     </message>
     <message>
         <source>Another program has changed what radio logs tell of the discharges. It is on show now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa ha cambiado lo que los registros de emisora indican sobre las descargas. Ahora se muestran los valores nuevos.</translation>
     </message>
 </context>
 <context>
@@ -2974,67 +2974,67 @@ Este libro se guarda en “%1”.</translation>
     </message>
     <message>
         <source>Leave the Page and Show It</source>
-        <translation type="unfinished"></translation>
+        <translation>Abandonar página y mostrar</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. It is shown as soon as you have recorded or left what you are entering.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa ha cambiado el libro: %1. Su versión se muestra en cuanto registre o abandone lo que está introduciendo.</translation>
     </message>
     <message>
         <source>Show the Other Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la otra versión</translation>
     </message>
     <message>
         <source>Keep This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar esta versión</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. This window holds something that is not saved. Choose which version to go on with; the other one is kept in “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa ha cambiado el libro: %1. Esta ventana contiene algo que no está guardado. Elija la versión con la que continuar; la otra se conserva en “%2”.</translation>
     </message>
     <message>
         <source>The logbook is read again…</source>
-        <translation type="unfinished"></translation>
+        <translation>Volviendo a leer el libro…</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. It is on show now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa ha cambiado el libro: %1. Ahora se muestra su versión.</translation>
     </message>
     <message>
         <source>Your last click was not carried out: look at the logbook again, and repeat it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su último clic no se ha ejecutado: mire de nuevo el libro y repítalo.</translation>
     </message>
     <message>
         <source>The version of the other program holds what this version of Voltbok does not understand, and drops when it saves: %1. It is kept as “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>La versión del otro programa contiene algo que esta versión de Voltbok no entiende y que pierde al guardar: %1. Ese archivo se conserva como “%2”.</translation>
     </message>
     <message>
         <source>The version of the other program holds what this version of Voltbok does not understand, and drops when it saves: %1. It cannot be put aside: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La versión del otro programa contiene algo que esta versión de Voltbok no entiende y que pierde al guardar: %1. Ese archivo no se puede apartar: %2.</translation>
     </message>
     <message>
         <source>Another program had changed the logbook, and what you recorded has taken the place of that: %1. The other version is kept in “%2”; undo brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa había cambiado el libro, y lo que usted registró ha ocupado el lugar de su versión: %1. La otra versión se conserva en “%2”; Deshacer la recupera.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is gone: another program has moved or removed it. This window still shows what it held. Nothing can be recorded until the file is back; if it does not come back by itself, put it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo del libro “%1” ha desaparecido: otro programa lo ha movido o eliminado. Esta ventana aún muestra lo que contenía. No se puede registrar nada hasta que el archivo vuelva; si no vuelve por sí solo, repóngalo.</translation>
     </message>
     <message>
         <source>The logbook file “%1” was changed by another program, and is no whole logbook now: %2. This window still shows what it held. Nothing can be recorded until the file is whole; if that does not come by itself, put the file back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otro programa ha cambiado el archivo del libro “%1”, que ya no es un libro íntegro: %2. Esta ventana aún muestra lo que contenía. No se puede registrar nada hasta que el archivo esté íntegro; si no se arregla por sí solo, repóngalo.</translation>
     </message>
     <message>
         <source>Put the File Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Reponer el archivo</translation>
     </message>
     <message>
         <source>The logbook file is gone or damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo del libro ha desaparecido o está dañado.</translation>
     </message>
     <message>
         <source>Everything that this window shows is kept in a copy, which the next start offers. Go back, and put the file back now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo lo que muestra esta ventana se conserva en una copia, que se ofrece en el próximo inicio. Vuelva y reponga el archivo ahora.</translation>
     </message>
 </context>
 <context>
@@ -3458,7 +3458,7 @@ Este libro se guarda en “%1”.</translation>
     <name>MergeSources</name>
     <message>
         <source>it has changed meanwhile</source>
-        <translation type="unfinished"></translation>
+        <translation>ha cambiado entretanto</translation>
     </message>
 </context>
 <context>
@@ -3515,7 +3515,7 @@ Este libro se guarda en “%1”.</translation>
     <name>Others</name>
     <message>
         <source>as many entries as before, with other contents</source>
-        <translation type="unfinished"></translation>
+        <translation>tantas entradas como antes, con otro contenido</translation>
     </message>
 </context>
 <context>

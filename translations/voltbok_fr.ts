@@ -241,63 +241,63 @@
     </message>
     <message>
         <source>Internal resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance interne</translation>
     </message>
     <message>
         <source>Measured capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacité mesurée</translation>
     </message>
     <message>
         <source>mΩ</source>
-        <translation type="unfinished"></translation>
+        <translation>mΩ</translation>
     </message>
 </context>
 <context>
     <name>BatteryHealth</name>
     <message>
         <source>No trend stands out from chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune tendance ne se distingue du hasard.</translation>
     </message>
     <message>
         <source>Capacity: shown once five measured flights tell it; so far %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacité&#xa0;: affichée dès que cinq vols mesurés la donnent&#xa0;; jusqu’ici %1.</translation>
     </message>
     <message numerus="yes">
         <source>Capacity: about %1 mAh of %2, from %Ln flights, half of them within %3 mAh of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Capacité&#xa0;: environ %1 mAh sur %2, d’après %Ln vol, dont la moitié s’en écarte de %3 mAh au plus.</numerusform>
+            <numerusform>Capacité&#xa0;: environ %1 mAh sur %2, d’après %Ln vols, dont la moitié s’en écarte de %3 mAh au plus.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Capacity: about %1 mAh, from %Ln flights, half of them within %2 mAh of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Capacité&#xa0;: environ %1 mAh, d’après %Ln vol, dont la moitié s’en écarte de %2 mAh au plus.</numerusform>
+            <numerusform>Capacité&#xa0;: environ %1 mAh, d’après %Ln vols, dont la moitié s’en écarte de %2 mAh au plus.</numerusform>
         </translation>
     </message>
     <message>
         <source>Ageing: it has fallen by about %1 mAh over these flights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vieillissement&#xa0;: elle a baissé d’environ %1 mAh au fil de ces vols.</translation>
     </message>
     <message>
         <source>Internal resistance: shown once five measured flights tell it; so far %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance interne&#xa0;: affichée dès que cinq vols mesurés la donnent&#xa0;; jusqu’ici %1.</translation>
     </message>
     <message numerus="yes">
         <source>Internal resistance: about %1 mΩ, from %Ln flights, half of them within %2 mΩ of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Résistance interne&#xa0;: environ %1 mΩ, d’après %Ln vol, dont la moitié s’en écarte de %2 mΩ au plus.</numerusform>
+            <numerusform>Résistance interne&#xa0;: environ %1 mΩ, d’après %Ln vols, dont la moitié s’en écarte de %2 mΩ au plus.</numerusform>
         </translation>
     </message>
     <message>
         <source>Ageing: it has risen by about %1 mΩ over these flights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vieillissement&#xa0;: elle a augmenté d’environ %1 mΩ au fil de ces vols.</translation>
     </message>
     <message>
         <source>No flight of “%1” was measured yet: choose Import Radio Logs… in the menu Logbook to read what your radio has logged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun vol de «&#xa0;%1&#xa0;» n’a encore été mesuré&#xa0;: choisissez Importer des journaux de radio… dans le menu Carnet pour lire ce que votre radio a enregistré.</translation>
     </message>
 </context>
 <context>
@@ -421,15 +421,15 @@
     <name>CopyRestoring</name>
     <message>
         <source>it is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>c’est un lien</translation>
     </message>
     <message>
         <source>What radio logs told of this copy cannot be read: %1. What is known now and fits to it is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que les journaux de radio ont indiqué pour cette copie ne peut pas être lu&#xa0;: %1. Ce qui est connu maintenant et lui correspond est conservé.</translation>
     </message>
     <message>
         <source>the values that radio logs tell cannot be copied</source>
-        <translation type="unfinished"></translation>
+        <translation>les valeurs données par les journaux de radio ne peuvent pas être copiées</translation>
     </message>
 </context>
 <context>
@@ -450,182 +450,182 @@
     <name>Difference</name>
     <message>
         <source>without a time</source>
-        <translation type="unfinished"></translation>
+        <translation>sans heure</translation>
     </message>
     <message>
         <source>%1 °C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 °C</translation>
     </message>
     <message>
         <source>notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>notes&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mAh</translation>
     </message>
     <message>
         <source>%1 A</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 A</translation>
     </message>
     <message>
         <source>discharge rate %1 C</source>
-        <translation type="unfinished"></translation>
+        <translation>taux de décharge %1 C</translation>
     </message>
     <message>
         <source>charge rate %1 C</source>
-        <translation type="unfinished"></translation>
+        <translation>taux de charge %1 C</translation>
     </message>
     <message>
         <source>cycles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>cycles&#xa0;: %1</translation>
     </message>
     <message>
         <source>charged</source>
-        <translation type="unfinished"></translation>
+        <translation>chargée</translation>
     </message>
     <message>
         <source>discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>déchargée</translation>
     </message>
     <message>
         <source>bought on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>achat le %1</translation>
     </message>
     <message>
         <source>last used %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dernier usage le %1</translation>
     </message>
     <message>
         <source>type: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>type&#xa0;: %1</translation>
     </message>
     <message>
         <source>weight: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>poids&#xa0;: %1</translation>
     </message>
     <message>
         <source>size: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>taille&#xa0;: %1</translation>
     </message>
     <message>
         <source>flights already used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>vols déjà effectués&#xa0;: %1</translation>
     </message>
     <message>
         <source>batteries: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>batteries&#xa0;: %1</translation>
     </message>
     <message>
         <source>last changed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dernière modification le %1</translation>
     </message>
     <message>
         <source>%1 fewer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en moins</translation>
     </message>
     <message>
         <source>%1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 en plus</translation>
     </message>
     <message>
         <source>%1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 avec changements</translation>
     </message>
     <message>
         <source>%1 charged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à l’état chargé</translation>
     </message>
     <message>
         <source>%1 discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 à l’état déchargé</translation>
     </message>
     <message>
         <source>Flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol</translation>
     </message>
     <message>
         <source>Discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>Décharge</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished">Batterie</translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modèle</translation>
+        <translation>Modèle</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished">Lieu</translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>1 flight</source>
-        <translation type="unfinished"></translation>
+        <translation>1 vol</translation>
     </message>
     <message numerus="yes">
         <source>%n flights</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n vol</numerusform>
+            <numerusform>%n vols</numerusform>
         </translation>
     </message>
     <message>
         <source>1 discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>1 décharge</translation>
     </message>
     <message numerus="yes">
         <source>%n discharges</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n décharge</numerusform>
+            <numerusform>%n décharges</numerusform>
         </translation>
     </message>
     <message>
         <source>1 battery</source>
-        <translation type="unfinished"></translation>
+        <translation>1 batterie</translation>
     </message>
     <message numerus="yes">
         <source>%n batteries</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n batterie</numerusform>
+            <numerusform>%n batteries</numerusform>
         </translation>
     </message>
     <message>
         <source>1 model</source>
-        <translation type="unfinished"></translation>
+        <translation>1 modèle</translation>
     </message>
     <message numerus="yes">
         <source>%n models</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n modèle</numerusform>
+            <numerusform>%n modèles</numerusform>
         </translation>
     </message>
     <message>
         <source>1 location</source>
-        <translation type="unfinished"></translation>
+        <translation>1 lieu</translation>
     </message>
     <message numerus="yes">
         <source>%n locations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n lieu</numerusform>
+            <numerusform>%n lieux</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 et %2</translation>
     </message>
     <message>
         <source>the same as now</source>
-        <translation type="unfinished"></translation>
+        <translation>identique à maintenant</translation>
     </message>
     <message>
         <source>the same as now, in another order</source>
-        <translation type="unfinished"></translation>
+        <translation>identique à maintenant, dans un autre ordre</translation>
     </message>
 </context>
 <context>
@@ -956,75 +956,75 @@
     <name>Host::BackupsDialog</name>
     <message>
         <source>Backups</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauvegardes</translation>
     </message>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restaurer</translation>
     </message>
     <message>
         <source>Every version of the logbook is copied. Restoring a copy is one step, which Undo takes back; the logbook as it is now is copied first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque version du carnet est copiée. Restaurer une copie est une seule étape, qu’Annuler défait&#xa0;; le carnet tel qu’il est maintenant est d’abord copié.</translation>
     </message>
     <message>
         <source>Copies, the newest first</source>
-        <translation type="unfinished"></translation>
+        <translation>Copies, la plus récente en premier</translation>
     </message>
     <message>
         <source>&amp;Copies, the newest first:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copies, la plus récente en premier&#xa0;:</translation>
     </message>
     <message>
         <source>What differs from the logbook now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui diffère du carnet actuel</translation>
     </message>
     <message>
         <source>&amp;What differs from the logbook now:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui &amp;diffère du carnet actuel&#xa0;:</translation>
     </message>
     <message>
         <source>How many copies are compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de copies comparées</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arrêter</translation>
     </message>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished">Le carnet ne peut pas être lu pour l’instant. Libérez de l’espace, puis réessayez.</translation>
+        <translation>Le carnet ne peut pas être lu pour l’instant. Libérez de l’espace, puis réessayez.</translation>
     </message>
     <message>
         <source>The copies in “%1” cannot be listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les copies dans «&#xa0;%1&#xa0;» ne peuvent pas être listées.</translation>
     </message>
     <message>
         <source>There is no copy yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas encore de copie.</translation>
     </message>
     <message>
         <source>The copies cannot be compared: %1. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les copies ne peuvent pas être comparées&#xa0;: %1. Libérez de l’espace, puis réessayez.</translation>
     </message>
     <message>
         <source>The copy of %1 holds %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copie du %1 contient %2.</translation>
     </message>
     <message>
         <source>This copy cannot be restored: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette copie ne peut pas être restaurée&#xa0;: %1.</translation>
     </message>
     <message>
         <source>This copy is not whole any more: %1. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette copie n’est plus intacte&#xa0;: %1. Choisissez-en une autre.</translation>
     </message>
     <message>
         <source>The logbook is as in this copy already. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet est déjà identique à cette copie. Rien n’a été modifié.</translation>
     </message>
     <message>
         <source>The copy of %1 is restored. “Undo” in the menu Edit takes that back.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copie du %1 est restaurée. «&#xa0;Annuler&#xa0;», dans le menu Édition, défait cette opération.</translation>
     </message>
 </context>
 <context>
@@ -1252,136 +1252,136 @@
     </message>
     <message>
         <source>This is shown once the radio&apos;s logs of five flights with “%1” tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ceci s’affiche dès que les journaux de la radio le donnent pour cinq vols avec «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>Host::CardWatch</name>
     <message>
         <source>The card “%1” holds 1 radio log that is not imported yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carte «&#xa0;%1&#xa0;» contient 1 journal de radio qui n’est pas encore importé.</translation>
     </message>
     <message numerus="yes">
         <source>The card “%1” holds %n radio logs that are not imported yet.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La carte «&#xa0;%1&#xa0;» contient %n journal de radio qui n’est pas encore importé.</numerusform>
+            <numerusform>La carte «&#xa0;%1&#xa0;» contient %n journaux de radio qui ne sont pas encore importés.</numerusform>
         </translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer…</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished">Plus tard</translation>
+        <translation>Plus tard</translation>
     </message>
 </context>
 <context>
     <name>Host::ColumnsDialog</name>
     <message>
         <source>Columns of a Radio Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes d’un journal de radio</translation>
     </message>
     <message>
         <source>“%1” has columns that are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» a des colonnes inconnues.</translation>
     </message>
     <message>
         <source>“%1” and 1 more log have columns that are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» et 1 autre journal ont des colonnes inconnues.</translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %n more logs have columns that are not known.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>«&#xa0;%1&#xa0;» et %n autre journal ont des colonnes inconnues.</numerusform>
+            <numerusform>«&#xa0;%1&#xa0;» et %n autres journaux ont des colonnes inconnues.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 Choose those that tell of the battery, or “None”. Your choice is remembered for all logs with these columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Choisissez celles qui concernent la batterie, ou «&#xa0;Aucune&#xa0;». Votre choix est retenu pour tous les journaux qui ont ces colonnes.</translation>
     </message>
     <message>
         <source>C&amp;onsumption (mAh):</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;onsommation (mAh)&#xa0;:</translation>
     </message>
     <message>
         <source>C&amp;urrent (A):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Courant (A)&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Volts of the battery:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tension de la batterie&#xa0;:</translation>
     </message>
     <message>
         <source>Some &amp;values of this log:</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelques &amp;valeurs de ce journal&#xa0;:</translation>
     </message>
     <message>
         <source>Use &amp;These</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Utiliser</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Aucune</translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne</translation>
     </message>
     <message>
         <source>Value %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur %1</translation>
     </message>
     <message>
         <source>Some values of this log</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelques valeurs de ce journal</translation>
     </message>
     <message>
         <source>One column cannot tell two things.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une même colonne ne peut pas indiquer deux choses.</translation>
     </message>
 </context>
 <context>
     <name>Host::ConflictOffer</name>
     <message>
         <source>“%1” is another version of this logbook: two computers have changed it, and the program that synchronises the folder has kept both. What it holds is not in this logbook yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» est une autre version de ce carnet&#xa0;: deux ordinateurs l’ont modifié, et le programme qui synchronise le dossier a conservé les deux versions. Son contenu n’est pas encore dans ce carnet.</translation>
     </message>
     <message>
         <source>Merge…</source>
-        <translation type="unfinished"></translation>
+        <translation>Fusionner…</translation>
     </message>
     <message>
         <source>The versions are compared…</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparaison des versions…</translation>
     </message>
     <message>
         <source>The logbook cannot be changed now. Record the flight on the discharge page first, or see the messages above the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le carnet ne peut pas être modifié pour l’instant. Enregistrez d’abord le vol sur la page de décharge, ou voyez les messages au-dessus du carnet.</translation>
     </message>
     <message>
         <source>“%1” cannot be read now. Try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être lu pour l’instant. Réessayez plus tard.</translation>
     </message>
     <message>
         <source>Merged with another version</source>
-        <translation type="unfinished"></translation>
+        <translation>Fusion avec une autre version</translation>
     </message>
     <message>
         <source>Merged with “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Carnet fusionné avec «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The file cannot be put aside: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne peut pas être mis de côté&#xa0;: %1.</translation>
     </message>
     <message numerus="yes">
         <source>There are %n such versions.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Il y a %n version de ce genre.</numerusform>
+            <numerusform>Il y a %n versions de ce genre.</numerusform>
         </translation>
     </message>
 </context>
@@ -1389,38 +1389,38 @@
     <name>Host::CopiesModel</name>
     <message>
         <source>not whole: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>pas intacte&#xa0;: %1</translation>
     </message>
     <message>
         <source>Made</source>
-        <translation type="unfinished"></translation>
+        <translation>Créée</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Taille</translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Compared with now</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparée à maintenant</translation>
     </message>
 </context>
 <context>
     <name>Host::DifferencesModel</name>
     <message>
         <source>not there</source>
-        <translation type="unfinished"></translation>
+        <translation>n’y figure pas</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Élément</translation>
     </message>
     <message>
         <source>In this copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans cette copie</translation>
     </message>
     <message>
         <source>In the logbook now</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans le carnet actuel</translation>
     </message>
 </context>
 <context>
@@ -1985,110 +1985,110 @@
     <name>Host::HealthModel</name>
     <message>
         <source>Counter (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Compteur (mAh)</translation>
     </message>
     <message>
         <source>Current × time (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Courant × temps (mAh)</translation>
     </message>
     <message>
         <source>At rest before (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>Au repos avant (V)</translation>
     </message>
     <message>
         <source>At rest after (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>Au repos après (V)</translation>
     </message>
     <message>
         <source>Lowest (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum (V)</translation>
     </message>
     <message>
         <source>Resistance (mΩ)</source>
-        <translation type="unfinished"></translation>
+        <translation>Résistance (mΩ)</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished">Capacité (mAh)</translation>
+        <translation>Capacité (mAh)</translation>
     </message>
     <message>
         <source>What the radio&apos;s counter of the consumption says.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qu’indique le compteur de consommation de la radio.</translation>
     </message>
     <message>
         <source>The consumption as the logged current adds up over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>La consommation qui résulte du courant enregistré, cumulé dans le temps.</translation>
     </message>
     <message>
         <source>The voltage of the whole battery at less than 1 A before the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tension de la batterie entière à moins de 1 A avant le vol.</translation>
     </message>
     <message>
         <source>The voltage of the whole battery at less than 1 A after the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tension de la batterie entière à moins de 1 A après le vol.</translation>
     </message>
     <message>
         <source>The lowest voltage of the whole battery in flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tension la plus basse de la batterie entière en vol.</translation>
     </message>
     <message>
         <source>The internal resistance of the whole battery: by how much the voltage falls with each ampere.</source>
-        <translation type="unfinished"></translation>
+        <translation>La résistance interne de la batterie entière&#xa0;: de combien la tension chute par ampère.</translation>
     </message>
     <message>
         <source>An estimate: the consumption, and the charge that the voltages at rest before and after the flight stand for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une estimation&#xa0;: la consommation, et l’état de charge que traduisent les tensions au repos avant et après le vol.</translation>
     </message>
     <message>
         <source>Measured</source>
-        <translation type="unfinished">Mesuré</translation>
+        <translation>Mesuré</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Médiane</translation>
     </message>
     <message>
         <source>Spread (±)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispersion (±)</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished">Vols</translation>
+        <translation>Vols</translation>
     </message>
     <message>
         <source>What the radio&apos;s logs tell of the flights with this battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que les journaux de la radio indiquent sur les vols avec cette batterie.</translation>
     </message>
     <message>
         <source>Half of the flights show less than this, half of them more.</source>
-        <translation type="unfinished"></translation>
+        <translation>La moitié des vols donne moins que cette valeur, l’autre moitié plus.</translation>
     </message>
     <message>
         <source>Half of the flights lie within so much around the median.</source>
-        <translation type="unfinished"></translation>
+        <translation>La moitié des vols s’écarte au plus d’autant de la médiane.</translation>
     </message>
     <message>
         <source>How many flights tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre de vols qui la donnent.</translation>
     </message>
     <message>
         <source>%1, %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>Shown once five measured flights tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichée dès que cinq vols mesurés la donnent.</translation>
     </message>
     <message>
         <source>No log tells it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun journal ne l’indique.</translation>
     </message>
 </context>
 <context>
     <name>Host::HealthView</name>
     <message>
         <source>Measured values of the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs mesurées de la batterie</translation>
     </message>
 </context>
 <context>
@@ -2198,7 +2198,7 @@
     </message>
     <message>
         <source>Nobody has chosen the columns that tell of the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Personne n’a choisi les colonnes qui concernent la batterie.</translation>
     </message>
 </context>
 <context>
@@ -2245,7 +2245,7 @@
     <message>
         <source>English</source>
         <comment>this language, in itself</comment>
-        <translation type="unfinished"></translation>
+        <translation>Français</translation>
     </message>
 </context>
 <context>
@@ -2388,31 +2388,31 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Langue</translation>
     </message>
     <message>
         <source>&amp;System Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue du &amp;système</translation>
     </message>
     <message>
         <source>This logbook is empty. Add your first battery, look around in the sample, or choose the folder of a logbook that you have already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce carnet est vide. Ajoutez votre première batterie, découvrez l’exemple, ou choisissez le dossier d’un carnet que vous avez déjà.</translation>
     </message>
     <message>
         <source>Add a Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter une batterie</translation>
     </message>
     <message>
         <source>Open the Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir l’exemple</translation>
     </message>
     <message>
         <source>Choose a Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un dossier…</translation>
     </message>
     <message>
         <source>&amp;Backups…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sauvegardes…</translation>
     </message>
 </context>
 <context>
@@ -2426,187 +2426,187 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
     <name>Host::MergeDialog</name>
     <message>
         <source>without a time</source>
-        <translation type="unfinished"></translation>
+        <translation>sans heure</translation>
     </message>
     <message>
         <source>Battery %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie %1</translation>
     </message>
     <message>
         <source>Model %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Modèle %1</translation>
     </message>
     <message>
         <source>Discharge of %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Décharge de %1, %2</translation>
     </message>
     <message>
         <source>Flight of %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Vol de %1, %2</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished">Capacité (mAh)</translation>
+        <translation>Capacité (mAh)</translation>
     </message>
     <message>
         <source>Discharge rating (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux de décharge (C)</translation>
     </message>
     <message>
         <source>Charge rating (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux de charge (C)</translation>
     </message>
     <message>
         <source>Purchased</source>
-        <translation type="unfinished"></translation>
+        <translation>Achat</translation>
     </message>
     <message>
         <source>Cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Cycles</translation>
     </message>
     <message>
         <source>Charged</source>
-        <translation type="unfinished">Chargée</translation>
+        <translation>Chargée</translation>
     </message>
     <message>
         <source>Last use</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernier usage</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished">Déchargé (mAh)</translation>
+        <translation>Déchargé (mAh)</translation>
     </message>
     <message>
         <source>Maximum current (A)</source>
-        <translation type="unfinished">Courant maximal (A)</translation>
+        <translation>Courant maximal (A)</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished">Type</translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished">Poids</translation>
+        <translation>Poids</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Taille</translation>
+        <translation>Taille</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished">Vols</translation>
+        <translation>Vols</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished">Notes</translation>
+        <translation>Notes</translation>
     </message>
     <message>
         <source>Last update</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière modification</translation>
     </message>
     <message>
         <source>Duration (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée (s)</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished">Lieu</translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>Temperature (°C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Température (°C)</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>oui</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>non</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune valeur</translation>
     </message>
     <message>
         <source>batteries: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>batteries&#xa0;: %1</translation>
     </message>
     <message>
         <source>models: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>modèles&#xa0;: %1</translation>
     </message>
     <message>
         <source>locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>lieux&#xa0;: %1</translation>
     </message>
     <message>
         <source>discharges: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>décharges&#xa0;: %1</translation>
     </message>
     <message>
         <source>flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>vols&#xa0;: %1</translation>
     </message>
     <message>
         <source>Added are %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Éléments ajoutés (%1).</translation>
     </message>
     <message>
         <source>Removed, as they were there, are %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Éléments supprimés, comme dans l’autre version (%1).</translation>
     </message>
     <message>
         <source>Values changed: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs modifiées&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Merge</source>
-        <translation type="unfinished"></translation>
+        <translation>Fusionner</translation>
     </message>
     <message>
         <source>“%1” is another version of this logbook, which was changed on another computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» est une autre version de ce carnet, modifiée sur un autre ordinateur.</translation>
     </message>
     <message>
         <source>This logbook holds everything that it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce carnet contient déjà tout ce que contient cette version.</translation>
     </message>
     <message>
         <source>No earlier version was found that both come from. So nothing is removed, and you choose wherever the two differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune version antérieure dont les deux proviennent n’a été trouvée. Rien n’est donc supprimé, et vous choisissez partout où les deux diffèrent.</translation>
     </message>
     <message>
         <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les deux versions ont modifié ces &amp;valeurs. Cochez celles à reprendre de l’autre version&#xa0;; les autres restent telles quelles dans ce carnet.</translation>
     </message>
     <message>
         <source>The other version is then kept among the copies of the logbook, and Undo in the menu Edit takes the merge back.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’autre version est ensuite conservée parmi les copies du carnet, et Annuler, dans le menu Édition, défait la fusion.</translation>
     </message>
     <message>
         <source>Put Aside</source>
-        <translation type="unfinished"></translation>
+        <translation>Mettre de côté</translation>
     </message>
     <message>
         <source>Values that both have changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeurs modifiées des deux côtés</translation>
     </message>
     <message>
         <source>Take the other’s</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendre l’autre</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>This logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce carnet</translation>
     </message>
     <message>
         <source>Other version</source>
-        <translation type="unfinished"></translation>
+        <translation>Autre version</translation>
     </message>
 </context>
 <context>
@@ -2687,23 +2687,23 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The copy is restored…</source>
-        <translation type="unfinished"></translation>
+        <translation>Restauration de la copie…</translation>
     </message>
     <message>
         <source>Copy restored</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie restaurée</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook as it is now cannot be copied first: %1. See that the program can write in “%2”, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été modifié&#xa0;: le carnet tel qu’il est maintenant ne peut pas être copié au préalable&#xa0;: %1. Veillez à ce que le programme puisse écrire dans «&#xa0;%2&#xa0;», puis réessayez.</translation>
     </message>
     <message>
         <source>another program has changed it</source>
-        <translation type="unfinished"></translation>
+        <translation>un autre programme l’a modifié</translation>
     </message>
     <message>
         <source>Another program has changed what radio logs tell of the discharges. It is on show now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme a modifié ce que les journaux de radio indiquent sur les décharges. Les nouvelles valeurs sont maintenant affichées.</translation>
     </message>
 </context>
 <context>
@@ -2974,67 +2974,67 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Leave the Page and Show It</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter la page et afficher</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. It is shown as soon as you have recorded or left what you are entering.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme a modifié le carnet&#xa0;: %1. Sa version s’affiche dès que vous avez enregistré ou abandonné votre saisie.</translation>
     </message>
     <message>
         <source>Show the Other Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l’autre version</translation>
     </message>
     <message>
         <source>Keep This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder cette version</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. This window holds something that is not saved. Choose which version to go on with; the other one is kept in “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme a modifié le carnet&#xa0;: %1. Cette fenêtre contient quelque chose qui n’est pas enregistré. Choisissez la version avec laquelle continuer&#xa0;; l’autre est conservée dans «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>The logbook is read again…</source>
-        <translation type="unfinished"></translation>
+        <translation>Relecture du carnet…</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. It is on show now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme a modifié le carnet&#xa0;: %1. Sa version est maintenant affichée.</translation>
     </message>
     <message>
         <source>Your last click was not carried out: look at the logbook again, and repeat it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre dernier clic n’a pas été exécuté&#xa0;: regardez de nouveau le carnet, puis refaites-le.</translation>
     </message>
     <message>
         <source>The version of the other program holds what this version of Voltbok does not understand, and drops when it saves: %1. It is kept as “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>La version de l’autre programme contient des éléments que cette version de Voltbok ne comprend pas et qu’elle perd à l’enregistrement&#xa0;: %1. Ce fichier est conservé sous le nom «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>The version of the other program holds what this version of Voltbok does not understand, and drops when it saves: %1. It cannot be put aside: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La version de l’autre programme contient des éléments que cette version de Voltbok ne comprend pas et qu’elle perd à l’enregistrement&#xa0;: %1. Ce fichier ne peut pas être mis de côté&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Another program had changed the logbook, and what you recorded has taken the place of that: %1. The other version is kept in “%2”; undo brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un autre programme avait modifié le carnet, et ce que vous avez enregistré a remplacé sa version&#xa0;: %1. L’autre version est conservée dans «&#xa0;%2&#xa0;»&#xa0;; Annuler la rétablit.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is gone: another program has moved or removed it. This window still shows what it held. Nothing can be recorded until the file is back; if it does not come back by itself, put it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier du carnet «&#xa0;%1&#xa0;» a disparu&#xa0;: un autre programme l’a déplacé ou supprimé. Cette fenêtre affiche encore ce qu’il contenait. Rien ne peut être enregistré tant que le fichier n’est pas revenu&#xa0;; s’il ne revient pas de lui-même, remettez-le en place.</translation>
     </message>
     <message>
         <source>The logbook file “%1” was changed by another program, and is no whole logbook now: %2. This window still shows what it held. Nothing can be recorded until the file is whole; if that does not come by itself, put the file back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier du carnet «&#xa0;%1&#xa0;» a été modifié par un autre programme et n’est plus un carnet intact&#xa0;: %2. Cette fenêtre affiche encore ce qu’il contenait. Rien ne peut être enregistré tant que le fichier n’est pas intact&#xa0;; si cela ne s’arrange pas tout seul, remettez le fichier en place.</translation>
     </message>
     <message>
         <source>Put the File Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Remettre le fichier</translation>
     </message>
     <message>
         <source>The logbook file is gone or damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier du carnet a disparu ou est endommagé.</translation>
     </message>
     <message>
         <source>Everything that this window shows is kept in a copy, which the next start offers. Go back, and put the file back now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout ce que cette fenêtre affiche est conservé dans une copie, que le prochain démarrage propose. Revenez, puis remettez le fichier en place maintenant.</translation>
     </message>
 </context>
 <context>
@@ -3458,7 +3458,7 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
     <name>MergeSources</name>
     <message>
         <source>it has changed meanwhile</source>
-        <translation type="unfinished"></translation>
+        <translation>il a changé entre-temps</translation>
     </message>
 </context>
 <context>
@@ -3515,7 +3515,7 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
     <name>Others</name>
     <message>
         <source>as many entries as before, with other contents</source>
-        <translation type="unfinished"></translation>
+        <translation>autant d’entrées qu’avant, avec un autre contenu</translation>
     </message>
 </context>
 <context>
