@@ -241,63 +241,63 @@
     </message>
     <message>
         <source>Internal resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Innenwiderstand</translation>
     </message>
     <message>
         <source>Measured capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Gemessene Kapazität</translation>
     </message>
     <message>
         <source>mΩ</source>
-        <translation type="unfinished"></translation>
+        <translation>mΩ</translation>
     </message>
 </context>
 <context>
     <name>BatteryHealth</name>
     <message>
         <source>No trend stands out from chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Trend hebt sich vom Zufall ab.</translation>
     </message>
     <message>
         <source>Capacity: shown once five measured flights tell it; so far %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapazität: wird angezeigt, sobald fünf gemessene Flüge sie liefern; bisher %1.</translation>
     </message>
     <message numerus="yes">
         <source>Capacity: about %1 mAh of %2, from %Ln flights, half of them within %3 mAh of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Kapazität: etwa %1 mAh von %2, aus %Ln Flug, höchstens %3 mAh daneben.</numerusform>
+            <numerusform>Kapazität: etwa %1 mAh von %2, aus %Ln Flügen; die Hälfte davon liegt höchstens %3 mAh daneben.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Capacity: about %1 mAh, from %Ln flights, half of them within %2 mAh of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Kapazität: etwa %1 mAh, aus %Ln Flug, höchstens %2 mAh daneben.</numerusform>
+            <numerusform>Kapazität: etwa %1 mAh, aus %Ln Flügen; die Hälfte davon liegt höchstens %2 mAh daneben.</numerusform>
         </translation>
     </message>
     <message>
         <source>Ageing: it has fallen by about %1 mAh over these flights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alterung: Sie ist über diese Flüge um etwa %1 mAh gesunken.</translation>
     </message>
     <message>
         <source>Internal resistance: shown once five measured flights tell it; so far %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Innenwiderstand: wird angezeigt, sobald fünf gemessene Flüge ihn liefern; bisher %1.</translation>
     </message>
     <message numerus="yes">
         <source>Internal resistance: about %1 mΩ, from %Ln flights, half of them within %2 mΩ of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Innenwiderstand: etwa %1 mΩ, aus %Ln Flug, höchstens %2 mΩ daneben.</numerusform>
+            <numerusform>Innenwiderstand: etwa %1 mΩ, aus %Ln Flügen; die Hälfte davon liegt höchstens %2 mΩ daneben.</numerusform>
         </translation>
     </message>
     <message>
         <source>Ageing: it has risen by about %1 mΩ over these flights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alterung: Er ist über diese Flüge um etwa %1 mΩ gestiegen.</translation>
     </message>
     <message>
         <source>No flight of “%1” was measured yet: choose Import Radio Logs… in the menu Logbook to read what your radio has logged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit „%1“ wurde noch kein Flug gemessen: Wählen Sie „Sender-Logs importieren…“ im Menü „Logbuch“, um zu lesen, was Ihr Sender aufgezeichnet hat.</translation>
     </message>
 </context>
 <context>
@@ -421,15 +421,15 @@
     <name>CopyRestoring</name>
     <message>
         <source>it is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist ein Link</translation>
     </message>
     <message>
         <source>What radio logs told of this copy cannot be read: %1. What is known now and fits to it is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Werte aus den Sender-Logs zu dieser Kopie können nicht gelesen werden: %1. Was jetzt bekannt ist und dazu passt, bleibt erhalten.</translation>
     </message>
     <message>
         <source>the values that radio logs tell cannot be copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Werte aus den Sender-Logs können nicht kopiert werden</translation>
     </message>
 </context>
 <context>
@@ -450,182 +450,182 @@
     <name>Difference</name>
     <message>
         <source>without a time</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Zeit</translation>
     </message>
     <message>
         <source>%1 °C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 °C</translation>
     </message>
     <message>
         <source>notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Notizen: %1</translation>
     </message>
     <message>
         <source>%1 mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mAh</translation>
     </message>
     <message>
         <source>%1 A</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 A</translation>
     </message>
     <message>
         <source>discharge rate %1 C</source>
-        <translation type="unfinished"></translation>
+        <translation>Entladerate %1 C</translation>
     </message>
     <message>
         <source>charge rate %1 C</source>
-        <translation type="unfinished"></translation>
+        <translation>Laderate %1 C</translation>
     </message>
     <message>
         <source>cycles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zyklen: %1</translation>
     </message>
     <message>
         <source>charged</source>
-        <translation type="unfinished"></translation>
+        <translation>geladen</translation>
     </message>
     <message>
         <source>discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>entladen</translation>
     </message>
     <message>
         <source>bought on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>gekauft am %1</translation>
     </message>
     <message>
         <source>last used %1</source>
-        <translation type="unfinished"></translation>
+        <translation>zuletzt benutzt %1</translation>
     </message>
     <message>
         <source>type: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ: %1</translation>
     </message>
     <message>
         <source>weight: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gewicht: %1</translation>
     </message>
     <message>
         <source>size: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe: %1</translation>
     </message>
     <message>
         <source>flights already used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>bisherige Flüge: %1</translation>
     </message>
     <message>
         <source>batteries: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Akkus: %1</translation>
     </message>
     <message>
         <source>last changed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>zuletzt geändert %1</translation>
     </message>
     <message>
         <source>%1 fewer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 weniger</translation>
     </message>
     <message>
         <source>%1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mehr</translation>
     </message>
     <message>
         <source>%1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geändert</translation>
     </message>
     <message>
         <source>%1 charged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 geladen</translation>
     </message>
     <message>
         <source>%1 discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 entladen</translation>
     </message>
     <message>
         <source>Flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug</translation>
     </message>
     <message>
         <source>Discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>Entladung</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished">Akku</translation>
+        <translation>Akku</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modell</translation>
+        <translation>Modell</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished">Ort</translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>1 flight</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Flug</translation>
     </message>
     <message numerus="yes">
         <source>%n flights</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Flug</numerusform>
+            <numerusform>%n Flüge</numerusform>
         </translation>
     </message>
     <message>
         <source>1 discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Entladung</translation>
     </message>
     <message numerus="yes">
         <source>%n discharges</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Entladung</numerusform>
+            <numerusform>%n Entladungen</numerusform>
         </translation>
     </message>
     <message>
         <source>1 battery</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Akku</translation>
     </message>
     <message numerus="yes">
         <source>%n batteries</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Akku</numerusform>
+            <numerusform>%n Akkus</numerusform>
         </translation>
     </message>
     <message>
         <source>1 model</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Modell</translation>
     </message>
     <message numerus="yes">
         <source>%n models</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Modell</numerusform>
+            <numerusform>%n Modelle</numerusform>
         </translation>
     </message>
     <message>
         <source>1 location</source>
-        <translation type="unfinished"></translation>
+        <translation>1 Ort</translation>
     </message>
     <message numerus="yes">
         <source>%n locations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n Ort</numerusform>
+            <numerusform>%n Orte</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2</translation>
     </message>
     <message>
         <source>the same as now</source>
-        <translation type="unfinished"></translation>
+        <translation>wie jetzt</translation>
     </message>
     <message>
         <source>the same as now, in another order</source>
-        <translation type="unfinished"></translation>
+        <translation>wie jetzt, in anderer Reihenfolge</translation>
     </message>
 </context>
 <context>
@@ -956,75 +956,75 @@
     <name>Host::BackupsDialog</name>
     <message>
         <source>Backups</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherungskopien</translation>
     </message>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederherstellen</translation>
     </message>
     <message>
         <source>Every version of the logbook is copied. Restoring a copy is one step, which Undo takes back; the logbook as it is now is copied first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Version des Logbuchs wird kopiert. Eine Kopie wiederherzustellen ist ein einziger Schritt, den „Rückgängig“ zurücknimmt; das jetzige Logbuch wird vorher kopiert.</translation>
     </message>
     <message>
         <source>Copies, the newest first</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopien, die neuesten zuerst</translation>
     </message>
     <message>
         <source>&amp;Copies, the newest first:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopien, die neuesten zuerst:</translation>
     </message>
     <message>
         <source>What differs from the logbook now</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterschiede zum jetzigen Logbuch</translation>
     </message>
     <message>
         <source>&amp;What differs from the logbook now:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Unterschiede zum jetzigen Logbuch:</translation>
     </message>
     <message>
         <source>How many copies are compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Kopien verglichen sind</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anhalten</translation>
     </message>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished">Das Logbuch kann gerade nicht gelesen werden. Schaffen Sie Platz und versuchen Sie es noch einmal.</translation>
+        <translation>Das Logbuch kann gerade nicht gelesen werden. Schaffen Sie Platz und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>The copies in “%1” cannot be listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopien in „%1“ lassen sich nicht auflisten.</translation>
     </message>
     <message>
         <source>There is no copy yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt noch keine Kopie.</translation>
     </message>
     <message>
         <source>The copies cannot be compared: %1. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopien können nicht verglichen werden: %1. Schaffen Sie Platz und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>The copy of %1 holds %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopie von %1 enthält %2.</translation>
     </message>
     <message>
         <source>This copy cannot be restored: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kopie kann nicht wiederhergestellt werden: %1.</translation>
     </message>
     <message>
         <source>This copy is not whole any more: %1. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Kopie ist nicht mehr unbeschädigt: %1. Wählen Sie eine andere.</translation>
     </message>
     <message>
         <source>The logbook is as in this copy already. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch ist schon wie in dieser Kopie. Es wurde nichts geändert.</translation>
     </message>
     <message>
         <source>The copy of %1 is restored. “Undo” in the menu Edit takes that back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopie von %1 ist wiederhergestellt. „Rückgängig“ im Menü „Bearbeiten“ nimmt das zurück.</translation>
     </message>
 </context>
 <context>
@@ -1252,136 +1252,136 @@
     </message>
     <message>
         <source>This is shown once the radio&apos;s logs of five flights with “%1” tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies wird angezeigt, sobald die Sender-Logs von fünf Flügen mit „%1“ den Wert liefern.</translation>
     </message>
 </context>
 <context>
     <name>Host::CardWatch</name>
     <message>
         <source>The card “%1” holds 1 radio log that is not imported yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf der Speicherkarte „%1“ liegt 1 Sender-Log, das noch nicht importiert ist.</translation>
     </message>
     <message numerus="yes">
         <source>The card “%1” holds %n radio logs that are not imported yet.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Auf der Speicherkarte „%1“ liegt %n Sender-Log, das noch nicht importiert ist.</numerusform>
+            <numerusform>Auf der Speicherkarte „%1“ liegen %n Sender-Logs, die noch nicht importiert sind.</numerusform>
         </translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren…</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished">Jetzt nicht</translation>
+        <translation>Jetzt nicht</translation>
     </message>
 </context>
 <context>
     <name>Host::ColumnsDialog</name>
     <message>
         <source>Columns of a Radio Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten eines Sender-Logs</translation>
     </message>
     <message>
         <source>“%1” has columns that are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ hat unbekannte Spalten.</translation>
     </message>
     <message>
         <source>“%1” and 1 more log have columns that are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ und 1 weiteres Log haben unbekannte Spalten.</translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %n more logs have columns that are not known.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>„%1“ und %n weiteres Log haben unbekannte Spalten.</numerusform>
+            <numerusform>„%1“ und %n weitere Logs haben unbekannte Spalten.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 Choose those that tell of the battery, or “None”. Your choice is remembered for all logs with these columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Wählen Sie die Spalten mit den Werten des Akkus oder „Keine“. Ihre Wahl gilt künftig für alle Logs mit diesen Spalten.</translation>
     </message>
     <message>
         <source>C&amp;onsumption (mAh):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Verbrauch (mAh):</translation>
     </message>
     <message>
         <source>C&amp;urrent (A):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Strom (A):</translation>
     </message>
     <message>
         <source>&amp;Volts of the battery:</source>
-        <translation type="unfinished"></translation>
+        <translation>Span&amp;nung des Akkus:</translation>
     </message>
     <message>
         <source>Some &amp;values of this log:</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige &amp;Werte dieses Logs:</translation>
     </message>
     <message>
         <source>Use &amp;These</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diese verwenden</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Keiner</translation>
+        <translation>Keine</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalte</translation>
     </message>
     <message>
         <source>Value %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert %1</translation>
     </message>
     <message>
         <source>Some values of this log</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Werte dieses Logs</translation>
     </message>
     <message>
         <source>One column cannot tell two things.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Spalte kann nicht zwei Größen liefern.</translation>
     </message>
 </context>
 <context>
     <name>Host::ConflictOffer</name>
     <message>
         <source>“%1” is another version of this logbook: two computers have changed it, and the program that synchronises the folder has kept both. What it holds is not in this logbook yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist eine andere Version dieses Logbuchs: Zwei Rechner haben es geändert, und das Programm, das den Ordner synchronisiert, hat beide Versionen aufgehoben. Was sie enthält, ist noch nicht in diesem Logbuch.</translation>
     </message>
     <message>
         <source>Merge…</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusammenführen…</translation>
     </message>
     <message>
         <source>The versions are compared…</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Versionen werden verglichen…</translation>
     </message>
     <message>
         <source>The logbook cannot be changed now. Record the flight on the discharge page first, or see the messages above the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch kann gerade nicht geändert werden. Erfassen Sie zuerst den Flug auf der Entladeseite oder beachten Sie die Meldungen über dem Logbuch.</translation>
     </message>
     <message>
         <source>“%1” cannot be read now. Try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann gerade nicht gelesen werden. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
         <source>Merged with another version</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit einer anderen Version zusammengeführt</translation>
     </message>
     <message>
         <source>Merged with “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit „%1“ zusammengeführt.</translation>
     </message>
     <message>
         <source>The file cannot be put aside: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei kann nicht beiseitegelegt werden: %1.</translation>
     </message>
     <message numerus="yes">
         <source>There are %n such versions.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Es gibt %n solche Version.</numerusform>
+            <numerusform>Es gibt %n solche Versionen.</numerusform>
         </translation>
     </message>
 </context>
@@ -1389,38 +1389,38 @@
     <name>Host::CopiesModel</name>
     <message>
         <source>not whole: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>beschädigt: %1</translation>
     </message>
     <message>
         <source>Made</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellt</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Größe</translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Compared with now</source>
-        <translation type="unfinished"></translation>
+        <translation>Verglichen mit jetzt</translation>
     </message>
 </context>
 <context>
     <name>Host::DifferencesModel</name>
     <message>
         <source>not there</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht vorhanden</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Was</translation>
     </message>
     <message>
         <source>In this copy</source>
-        <translation type="unfinished"></translation>
+        <translation>In dieser Kopie</translation>
     </message>
     <message>
         <source>In the logbook now</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetzt im Logbuch</translation>
     </message>
 </context>
 <context>
@@ -1985,110 +1985,110 @@
     <name>Host::HealthModel</name>
     <message>
         <source>Counter (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zähler (mAh)</translation>
     </message>
     <message>
         <source>Current × time (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Strom × Zeit (mAh)</translation>
     </message>
     <message>
         <source>At rest before (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruhespannung davor (V)</translation>
     </message>
     <message>
         <source>At rest after (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruhespannung danach (V)</translation>
     </message>
     <message>
         <source>Lowest (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>Niedrigste (V)</translation>
     </message>
     <message>
         <source>Resistance (mΩ)</source>
-        <translation type="unfinished"></translation>
+        <translation>Widerstand (mΩ)</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished">Kapazität (mAh)</translation>
+        <translation>Kapazität (mAh)</translation>
     </message>
     <message>
         <source>What the radio&apos;s counter of the consumption says.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der Verbrauchszähler des Senders anzeigt.</translation>
     </message>
     <message>
         <source>The consumption as the logged current adds up over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Verbrauch, wie ihn der aufgezeichnete Strom über die Zeit ergibt.</translation>
     </message>
     <message>
         <source>The voltage of the whole battery at less than 1 A before the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Spannung des ganzen Akkus bei weniger als 1 A vor dem Flug.</translation>
     </message>
     <message>
         <source>The voltage of the whole battery at less than 1 A after the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Spannung des ganzen Akkus bei weniger als 1 A nach dem Flug.</translation>
     </message>
     <message>
         <source>The lowest voltage of the whole battery in flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die niedrigste Spannung des ganzen Akkus im Flug.</translation>
     </message>
     <message>
         <source>The internal resistance of the whole battery: by how much the voltage falls with each ampere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Innenwiderstand des ganzen Akkus: wie stark die Spannung mit jedem Ampere sinkt.</translation>
     </message>
     <message>
         <source>An estimate: the consumption, and the charge that the voltages at rest before and after the flight stand for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Schätzung: aus dem Verbrauch und der Ladung, für die die Ruhespannungen vor und nach dem Flug stehen.</translation>
     </message>
     <message>
         <source>Measured</source>
-        <translation type="unfinished">Gemessen</translation>
+        <translation>Gemessen</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Median</translation>
     </message>
     <message>
         <source>Spread (±)</source>
-        <translation type="unfinished"></translation>
+        <translation>Streuung (±)</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished">Flüge</translation>
+        <translation>Flüge</translation>
     </message>
     <message>
         <source>What the radio&apos;s logs tell of the flights with this battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was die Sender-Logs über die Flüge mit diesem Akku sagen.</translation>
     </message>
     <message>
         <source>Half of the flights show less than this, half of them more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hälfte der Flüge zeigt weniger als dies, die andere Hälfte mehr.</translation>
     </message>
     <message>
         <source>Half of the flights lie within so much around the median.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Hälfte der Flüge liegt höchstens so weit vom Median entfernt.</translation>
     </message>
     <message>
         <source>How many flights tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele Flüge den Wert liefern.</translation>
     </message>
     <message>
         <source>%1, %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3</translation>
     </message>
     <message>
         <source>Shown once five measured flights tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird angezeigt, sobald fünf gemessene Flüge den Wert liefern.</translation>
     </message>
     <message>
         <source>No log tells it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Log liefert diesen Wert.</translation>
     </message>
 </context>
 <context>
     <name>Host::HealthView</name>
     <message>
         <source>Measured values of the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Gemessene Werte des Akkus</translation>
     </message>
 </context>
 <context>
@@ -2198,7 +2198,7 @@
     </message>
     <message>
         <source>Nobody has chosen the columns that tell of the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Spalten mit den Werten des Akkus hat niemand gewählt.</translation>
     </message>
 </context>
 <context>
@@ -2245,7 +2245,7 @@
     <message>
         <source>English</source>
         <comment>this language, in itself</comment>
-        <translation type="unfinished"></translation>
+        <translation>Deutsch</translation>
     </message>
 </context>
 <context>
@@ -2388,31 +2388,31 @@ Dieses Logbuch liegt in „%1“.</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;prache</translation>
     </message>
     <message>
         <source>&amp;System Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Systemsprache</translation>
     </message>
     <message>
         <source>This logbook is empty. Add your first battery, look around in the sample, or choose the folder of a logbook that you have already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Logbuch ist leer. Legen Sie Ihren ersten Akku an, sehen Sie sich im Beispiel um oder wählen Sie den Ordner eines Logbuchs, das Sie schon haben.</translation>
     </message>
     <message>
         <source>Add a Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku anlegen</translation>
     </message>
     <message>
         <source>Open the Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>Beispiel öffnen</translation>
     </message>
     <message>
         <source>Choose a Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner wählen…</translation>
     </message>
     <message>
         <source>&amp;Backups…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sicherungskopien…</translation>
     </message>
 </context>
 <context>
@@ -2426,187 +2426,187 @@ Dieses Logbuch liegt in „%1“.</translation>
     <name>Host::MergeDialog</name>
     <message>
         <source>without a time</source>
-        <translation type="unfinished"></translation>
+        <translation>ohne Zeit</translation>
     </message>
     <message>
         <source>Battery %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Akku %1</translation>
     </message>
     <message>
         <source>Model %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Modell %1</translation>
     </message>
     <message>
         <source>Discharge of %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Entladung von %1, %2</translation>
     </message>
     <message>
         <source>Flight of %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Flug von %1, %2</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished">Kapazität (mAh)</translation>
+        <translation>Kapazität (mAh)</translation>
     </message>
     <message>
         <source>Discharge rating (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Entladerate (C)</translation>
     </message>
     <message>
         <source>Charge rating (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Laderate (C)</translation>
     </message>
     <message>
         <source>Purchased</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaufdatum</translation>
     </message>
     <message>
         <source>Cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Zyklen</translation>
     </message>
     <message>
         <source>Charged</source>
-        <translation type="unfinished">Geladen</translation>
+        <translation>Geladen</translation>
     </message>
     <message>
         <source>Last use</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt benutzt</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished">Entnommen (mAh)</translation>
+        <translation>Entnommen (mAh)</translation>
     </message>
     <message>
         <source>Maximum current (A)</source>
-        <translation type="unfinished">Maximalstrom (A)</translation>
+        <translation>Maximalstrom (A)</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished">Typ</translation>
+        <translation>Typ</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished">Gewicht</translation>
+        <translation>Gewicht</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished">Größe</translation>
+        <translation>Größe</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished">Flüge</translation>
+        <translation>Flüge</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished">Notizen</translation>
+        <translation>Notizen</translation>
     </message>
     <message>
         <source>Last update</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt geändert</translation>
     </message>
     <message>
         <source>Duration (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer (s)</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished">Ort</translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>Temperature (°C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatur (°C)</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>ja</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>nein</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Angabe</translation>
     </message>
     <message>
         <source>batteries: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Akkus (%1)</translation>
     </message>
     <message>
         <source>models: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Modelle (%1)</translation>
     </message>
     <message>
         <source>locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Orte (%1)</translation>
     </message>
     <message>
         <source>discharges: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Entladungen (%1)</translation>
     </message>
     <message>
         <source>flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Flüge (%1)</translation>
     </message>
     <message>
         <source>Added are %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzugefügt: %1.</translation>
     </message>
     <message>
         <source>Removed, as they were there, are %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt, wie in der anderen Version: %1.</translation>
     </message>
     <message>
         <source>Values changed: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geänderte Werte: %1.</translation>
     </message>
     <message>
         <source>Merge</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusammenführen</translation>
     </message>
     <message>
         <source>“%1” is another version of this logbook, which was changed on another computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist eine andere Version dieses Logbuchs, die auf einem anderen Rechner geändert wurde.</translation>
     </message>
     <message>
         <source>This logbook holds everything that it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Logbuch enthält schon alles, was sie enthält.</translation>
     </message>
     <message>
         <source>No earlier version was found that both come from. So nothing is removed, and you choose wherever the two differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde keine frühere Version gefunden, von der beide abstammen. Deshalb wird nichts entfernt, und Sie wählen überall dort, wo sich die beiden unterscheiden.</translation>
     </message>
     <message>
         <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese &amp;Werte haben sich in beiden Versionen geändert. Kreuzen Sie an, welche aus der anderen Version übernommen werden; die übrigen bleiben, wie sie in diesem Logbuch sind.</translation>
     </message>
     <message>
         <source>The other version is then kept among the copies of the logbook, and Undo in the menu Edit takes the merge back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die andere Version wird dann bei den Kopien des Logbuchs aufgehoben, und „Rückgängig“ im Menü „Bearbeiten“ nimmt das Zusammenführen zurück.</translation>
     </message>
     <message>
         <source>Put Aside</source>
-        <translation type="unfinished"></translation>
+        <translation>Beiseitelegen</translation>
     </message>
     <message>
         <source>Values that both have changed</source>
-        <translation type="unfinished"></translation>
+        <translation>In beiden Versionen geänderte Werte</translation>
     </message>
     <message>
         <source>Take the other’s</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere übernehmen</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>This logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Logbuch</translation>
     </message>
     <message>
         <source>Other version</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Version</translation>
     </message>
 </context>
 <context>
@@ -2687,23 +2687,23 @@ Dieses Logbuch liegt in „%1“.</translation>
     </message>
     <message>
         <source>The copy is restored…</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopie wird wiederhergestellt…</translation>
     </message>
     <message>
         <source>Copy restored</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie wiederhergestellt</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook as it is now cannot be copied first: %1. See that the program can write in “%2”, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts geändert: Das jetzige Logbuch kann vorher nicht kopiert werden: %1. Sorgen Sie dafür, dass das Programm in „%2“ schreiben kann, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
         <source>another program has changed it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat die Datei geändert</translation>
     </message>
     <message>
         <source>Another program has changed what radio logs tell of the discharges. It is on show now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat die Werte aus den Sender-Logs zu den Entladungen geändert. Sie werden jetzt angezeigt.</translation>
     </message>
 </context>
 <context>
@@ -2974,67 +2974,67 @@ Dieses Logbuch liegt in „%1“.</translation>
     </message>
     <message>
         <source>Leave the Page and Show It</source>
-        <translation type="unfinished"></translation>
+        <translation>Seite verlassen und anzeigen</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. It is shown as soon as you have recorded or left what you are entering.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat das Logbuch geändert: %1. Die Änderung wird angezeigt, sobald Sie Ihre Eingaben erfasst oder die Seite verlassen haben.</translation>
     </message>
     <message>
         <source>Show the Other Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Andere Version zeigen</translation>
     </message>
     <message>
         <source>Keep This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Version behalten</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. This window holds something that is not saved. Choose which version to go on with; the other one is kept in “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat das Logbuch geändert: %1. Dieses Fenster enthält etwas, das nicht gespeichert ist. Wählen Sie, mit welcher Version Sie weitermachen; die andere wird in „%2“ aufgehoben.</translation>
     </message>
     <message>
         <source>The logbook is read again…</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Logbuch wird neu gelesen…</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. It is on show now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hat das Logbuch geändert: %1. Der neue Stand wird jetzt angezeigt.</translation>
     </message>
     <message>
         <source>Your last click was not carried out: look at the logbook again, and repeat it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr letzter Klick wurde nicht ausgeführt: Sehen Sie das Logbuch noch einmal an und wiederholen Sie ihn.</translation>
     </message>
     <message>
         <source>The version of the other program holds what this version of Voltbok does not understand, and drops when it saves: %1. It is kept as “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Version des anderen Programms enthält, was diese Version von Voltbok nicht versteht und beim Speichern weglässt: %1. Sie wird als „%2“ aufgehoben.</translation>
     </message>
     <message>
         <source>The version of the other program holds what this version of Voltbok does not understand, and drops when it saves: %1. It cannot be put aside: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Version des anderen Programms enthält, was diese Version von Voltbok nicht versteht und beim Speichern weglässt: %1. Sie kann nicht beiseitegelegt werden: %2.</translation>
     </message>
     <message>
         <source>Another program had changed the logbook, and what you recorded has taken the place of that: %1. The other version is kept in “%2”; undo brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein anderes Programm hatte das Logbuch geändert, und was Sie erfasst haben, ist an die Stelle dieser Änderung getreten: %1. Die andere Version ist in „%2“ aufgehoben; „Rückgängig“ bringt sie zurück.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is gone: another program has moved or removed it. This window still shows what it held. Nothing can be recorded until the file is back; if it does not come back by itself, put it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Logbuchdatei „%1“ ist weg: Ein anderes Programm hat sie verschoben oder entfernt. Dieses Fenster zeigt noch, was sie enthielt. Es kann nichts erfasst werden, bis die Datei wieder da ist; kommt sie nicht von selbst zurück, stellen Sie sie wieder her.</translation>
     </message>
     <message>
         <source>The logbook file “%1” was changed by another program, and is no whole logbook now: %2. This window still shows what it held. Nothing can be recorded until the file is whole; if that does not come by itself, put the file back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Logbuchdatei „%1“ wurde von einem anderen Programm geändert und ist kein unbeschädigtes Logbuch mehr: %2. Dieses Fenster zeigt noch, was sie enthielt. Es kann nichts erfasst werden, bis die Datei wieder unbeschädigt ist; geschieht das nicht von selbst, stellen Sie sie wieder her.</translation>
     </message>
     <message>
         <source>Put the File Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei wiederherstellen</translation>
     </message>
     <message>
         <source>The logbook file is gone or damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Logbuchdatei ist weg oder beschädigt.</translation>
     </message>
     <message>
         <source>Everything that this window shows is kept in a copy, which the next start offers. Go back, and put the file back now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles, was dieses Fenster zeigt, ist in einer Kopie aufgehoben, die der nächste Start anbietet. Gehen Sie zurück und stellen Sie die Datei jetzt wieder her.</translation>
     </message>
 </context>
 <context>
@@ -3458,7 +3458,7 @@ Dieses Logbuch liegt in „%1“.</translation>
     <name>MergeSources</name>
     <message>
         <source>it has changed meanwhile</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei hat sich inzwischen geändert</translation>
     </message>
 </context>
 <context>
@@ -3515,7 +3515,7 @@ Dieses Logbuch liegt in „%1“.</translation>
     <name>Others</name>
     <message>
         <source>as many entries as before, with other contents</source>
-        <translation type="unfinished"></translation>
+        <translation>gleich viele Einträge wie zuvor, mit anderem Inhalt</translation>
     </message>
 </context>
 <context>

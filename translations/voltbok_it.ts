@@ -241,63 +241,63 @@
     </message>
     <message>
         <source>Internal resistance</source>
-        <translation type="unfinished"></translation>
+        <translation>Resistenza interna</translation>
     </message>
     <message>
         <source>Measured capacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacità misurata</translation>
     </message>
     <message>
         <source>mΩ</source>
-        <translation type="unfinished"></translation>
+        <translation>mΩ</translation>
     </message>
 </context>
 <context>
     <name>BatteryHealth</name>
     <message>
         <source>No trend stands out from chance.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna tendenza si distingue dal caso.</translation>
     </message>
     <message>
         <source>Capacity: shown once five measured flights tell it; so far %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Capacità: appare quando cinque voli misurati la forniscono; finora %1.</translation>
     </message>
     <message numerus="yes">
         <source>Capacity: about %1 mAh of %2, from %Ln flights, half of them within %3 mAh of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Capacità: circa %1 mAh su %2, da %Ln volo, con uno scarto massimo di %3 mAh.</numerusform>
+            <numerusform>Capacità: circa %1 mAh su %2, da %Ln voli, metà dei quali se ne scosta al massimo di %3 mAh.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Capacity: about %1 mAh, from %Ln flights, half of them within %2 mAh of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Capacità: circa %1 mAh, da %Ln volo, con uno scarto massimo di %2 mAh.</numerusform>
+            <numerusform>Capacità: circa %1 mAh, da %Ln voli, metà dei quali se ne scosta al massimo di %2 mAh.</numerusform>
         </translation>
     </message>
     <message>
         <source>Ageing: it has fallen by about %1 mAh over these flights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Invecchiamento: in questi voli è diminuita di circa %1 mAh.</translation>
     </message>
     <message>
         <source>Internal resistance: shown once five measured flights tell it; so far %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Resistenza interna: appare quando cinque voli misurati la forniscono; finora %1.</translation>
     </message>
     <message numerus="yes">
         <source>Internal resistance: about %1 mΩ, from %Ln flights, half of them within %2 mΩ of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Resistenza interna: circa %1 mΩ, da %Ln volo, con uno scarto massimo di %2 mΩ.</numerusform>
+            <numerusform>Resistenza interna: circa %1 mΩ, da %Ln voli, metà dei quali se ne scosta al massimo di %2 mΩ.</numerusform>
         </translation>
     </message>
     <message>
         <source>Ageing: it has risen by about %1 mΩ over these flights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Invecchiamento: in questi voli è aumentata di circa %1 mΩ.</translation>
     </message>
     <message>
         <source>No flight of “%1” was measured yet: choose Import Radio Logs… in the menu Logbook to read what your radio has logged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun volo con “%1” è stato ancora misurato: scegliere Importa log del radiocomando… nel menu Registro per leggere ciò che il radiocomando ha registrato.</translation>
     </message>
 </context>
 <context>
@@ -421,15 +421,15 @@
     <name>CopyRestoring</name>
     <message>
         <source>it is a link</source>
-        <translation type="unfinished"></translation>
+        <translation>è un collegamento</translation>
     </message>
     <message>
         <source>What radio logs told of this copy cannot be read: %1. What is known now and fits to it is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>I dati dei log del radiocomando relativi a questa copia non possono essere letti: %1. Ciò che è noto ora e vi corrisponde viene conservato.</translation>
     </message>
     <message>
         <source>the values that radio logs tell cannot be copied</source>
-        <translation type="unfinished"></translation>
+        <translation>i dati dei log del radiocomando non possono essere copiati</translation>
     </message>
 </context>
 <context>
@@ -450,182 +450,182 @@
     <name>Difference</name>
     <message>
         <source>without a time</source>
-        <translation type="unfinished"></translation>
+        <translation>senza ora</translation>
     </message>
     <message>
         <source>%1 °C</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 °C</translation>
     </message>
     <message>
         <source>notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>note: %1</translation>
     </message>
     <message>
         <source>%1 mAh</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mAh</translation>
     </message>
     <message>
         <source>%1 A</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 A</translation>
     </message>
     <message>
         <source>discharge rate %1 C</source>
-        <translation type="unfinished"></translation>
+        <translation>tasso di scarica %1 C</translation>
     </message>
     <message>
         <source>charge rate %1 C</source>
-        <translation type="unfinished"></translation>
+        <translation>tasso di carica %1 C</translation>
     </message>
     <message>
         <source>cycles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>cicli: %1</translation>
     </message>
     <message>
         <source>charged</source>
-        <translation type="unfinished"></translation>
+        <translation>caricata</translation>
     </message>
     <message>
         <source>discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>scaricata</translation>
     </message>
     <message>
         <source>bought on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>data di acquisto: %1</translation>
     </message>
     <message>
         <source>last used %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ultimo uso: %1</translation>
     </message>
     <message>
         <source>type: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo: %1</translation>
     </message>
     <message>
         <source>weight: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>peso: %1</translation>
     </message>
     <message>
         <source>size: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>misura: %1</translation>
     </message>
     <message>
         <source>flights already used: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>voli già effettuati: %1</translation>
     </message>
     <message>
         <source>batteries: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>batterie: %1</translation>
     </message>
     <message>
         <source>last changed %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ultima modifica: %1</translation>
     </message>
     <message>
         <source>%1 fewer</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in meno</translation>
     </message>
     <message>
         <source>%1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in più</translation>
     </message>
     <message>
         <source>%1 changed</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 con modifiche</translation>
     </message>
     <message>
         <source>%1 charged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in stato “caricata”</translation>
     </message>
     <message>
         <source>%1 discharged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 in stato “scaricata”</translation>
     </message>
     <message>
         <source>Flight</source>
-        <translation type="unfinished"></translation>
+        <translation>Volo</translation>
     </message>
     <message>
         <source>Discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarica</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished">Batteria</translation>
+        <translation>Batteria</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished">Modello</translation>
+        <translation>Modello</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished">Luogo</translation>
+        <translation>Luogo</translation>
     </message>
     <message>
         <source>1 flight</source>
-        <translation type="unfinished"></translation>
+        <translation>1 volo</translation>
     </message>
     <message numerus="yes">
         <source>%n flights</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n volo</numerusform>
+            <numerusform>%n voli</numerusform>
         </translation>
     </message>
     <message>
         <source>1 discharge</source>
-        <translation type="unfinished"></translation>
+        <translation>1 scarica</translation>
     </message>
     <message numerus="yes">
         <source>%n discharges</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n scarica</numerusform>
+            <numerusform>%n scariche</numerusform>
         </translation>
     </message>
     <message>
         <source>1 battery</source>
-        <translation type="unfinished"></translation>
+        <translation>1 batteria</translation>
     </message>
     <message numerus="yes">
         <source>%n batteries</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n batteria</numerusform>
+            <numerusform>%n batterie</numerusform>
         </translation>
     </message>
     <message>
         <source>1 model</source>
-        <translation type="unfinished"></translation>
+        <translation>1 modello</translation>
     </message>
     <message numerus="yes">
         <source>%n models</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n modello</numerusform>
+            <numerusform>%n modelli</numerusform>
         </translation>
     </message>
     <message>
         <source>1 location</source>
-        <translation type="unfinished"></translation>
+        <translation>1 luogo</translation>
     </message>
     <message numerus="yes">
         <source>%n locations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n luogo</numerusform>
+            <numerusform>%n luoghi</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 e %2</translation>
     </message>
     <message>
         <source>the same as now</source>
-        <translation type="unfinished"></translation>
+        <translation>come ora</translation>
     </message>
     <message>
         <source>the same as now, in another order</source>
-        <translation type="unfinished"></translation>
+        <translation>come ora, in un altro ordine</translation>
     </message>
 </context>
 <context>
@@ -956,75 +956,75 @@
     <name>Host::BackupsDialog</name>
     <message>
         <source>Backups</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie di sicurezza</translation>
     </message>
     <message>
         <source>&amp;Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ripristina</translation>
     </message>
     <message>
         <source>Every version of the logbook is copied. Restoring a copy is one step, which Undo takes back; the logbook as it is now is copied first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ogni versione del registro viene copiata. Il ripristino di una copia è un’unica operazione, che Annulla revoca; il registro com’è ora viene prima copiato.</translation>
     </message>
     <message>
         <source>Copies, the newest first</source>
-        <translation type="unfinished"></translation>
+        <translation>Copie, dalla più recente</translation>
     </message>
     <message>
         <source>&amp;Copies, the newest first:</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;pie, dalla più recente:</translation>
     </message>
     <message>
         <source>What differs from the logbook now</source>
-        <translation type="unfinished"></translation>
+        <translation>Differenze rispetto al registro attuale</translation>
     </message>
     <message>
         <source>&amp;What differs from the logbook now:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Differenze rispetto al registro attuale:</translation>
     </message>
     <message>
         <source>How many copies are compared</source>
-        <translation type="unfinished"></translation>
+        <translation>Quante copie sono confrontate</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Interrompi</translation>
     </message>
     <message>
         <source>The logbook cannot be read now. Free some space, and try again.</source>
-        <translation type="unfinished">Il registro non può essere letto in questo momento. Liberare spazio e riprovare.</translation>
+        <translation>Il registro non può essere letto in questo momento. Liberare spazio e riprovare.</translation>
     </message>
     <message>
         <source>The copies in “%1” cannot be listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile elencare le copie in “%1”.</translation>
     </message>
     <message>
         <source>There is no copy yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c’è ancora alcuna copia.</translation>
     </message>
     <message>
         <source>The copies cannot be compared: %1. Free some space, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile confrontare le copie: %1. Liberare spazio e riprovare.</translation>
     </message>
     <message>
         <source>The copy of %1 holds %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copia del %1 contiene %2.</translation>
     </message>
     <message>
         <source>This copy cannot be restored: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile ripristinare questa copia: %1.</translation>
     </message>
     <message>
         <source>This copy is not whole any more: %1. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa copia non è più completa: %1. Sceglierne un’altra.</translation>
     </message>
     <message>
         <source>The logbook is as in this copy already. Nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il registro è già come in questa copia. Non è stato modificato nulla.</translation>
     </message>
     <message>
         <source>The copy of %1 is restored. “Undo” in the menu Edit takes that back.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copia del %1 è ripristinata. “Annulla” nel menu Modifica revoca l’operazione.</translation>
     </message>
 </context>
 <context>
@@ -1252,136 +1252,136 @@
     </message>
     <message>
         <source>This is shown once the radio&apos;s logs of five flights with “%1” tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo grafico appare quando i log del radiocomando di cinque voli con “%1” forniscono il valore.</translation>
     </message>
 </context>
 <context>
     <name>Host::CardWatch</name>
     <message>
         <source>The card “%1” holds 1 radio log that is not imported yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La scheda SD “%1” contiene 1 log del radiocomando non ancora importato.</translation>
     </message>
     <message numerus="yes">
         <source>The card “%1” holds %n radio logs that are not imported yet.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>La scheda SD “%1” contiene %n log del radiocomando non ancora importato.</numerusform>
+            <numerusform>La scheda SD “%1” contiene %n log del radiocomando non ancora importati.</numerusform>
         </translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa…</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished">Non ora</translation>
+        <translation>Non ora</translation>
     </message>
 </context>
 <context>
     <name>Host::ColumnsDialog</name>
     <message>
         <source>Columns of a Radio Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonne di un log del radiocomando</translation>
     </message>
     <message>
         <source>“%1” has columns that are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” ha colonne sconosciute.</translation>
     </message>
     <message>
         <source>“%1” and 1 more log have columns that are not known.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” e 1 altro log hanno colonne sconosciute.</translation>
     </message>
     <message numerus="yes">
         <source>“%1” and %n more logs have columns that are not known.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>“%1” e %n altro log hanno colonne sconosciute.</numerusform>
+            <numerusform>“%1” e altri %n log hanno colonne sconosciute.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 Choose those that tell of the battery, or “None”. Your choice is remembered for all logs with these columns.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Scegliere quelle con i valori della batteria, oppure “Nessuna”. La scelta viene ricordata per tutti i log con queste colonne.</translation>
     </message>
     <message>
         <source>C&amp;onsumption (mAh):</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;onsumo (mAh):</translation>
     </message>
     <message>
         <source>C&amp;urrent (A):</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;rrente (A):</translation>
     </message>
     <message>
         <source>&amp;Volts of the battery:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tensione della batteria:</translation>
     </message>
     <message>
         <source>Some &amp;values of this log:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alcuni &amp;valori di questo log:</translation>
     </message>
     <message>
         <source>Use &amp;These</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Usa queste</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished">Nessuna</translation>
+        <translation>Nessuna</translation>
     </message>
     <message>
         <source>Column</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonna</translation>
     </message>
     <message>
         <source>Value %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore %1</translation>
     </message>
     <message>
         <source>Some values of this log</source>
-        <translation type="unfinished"></translation>
+        <translation>Alcuni valori di questo log</translation>
     </message>
     <message>
         <source>One column cannot tell two things.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una colonna non può fornire due grandezze.</translation>
     </message>
 </context>
 <context>
     <name>Host::ConflictOffer</name>
     <message>
         <source>“%1” is another version of this logbook: two computers have changed it, and the program that synchronises the folder has kept both. What it holds is not in this logbook yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” è un’altra versione di questo registro: due computer lo hanno modificato, e il programma che sincronizza la cartella ha conservato entrambe le versioni. Ciò che contiene non è ancora in questo registro.</translation>
     </message>
     <message>
         <source>Merge…</source>
-        <translation type="unfinished"></translation>
+        <translation>Unisci…</translation>
     </message>
     <message>
         <source>The versions are compared…</source>
-        <translation type="unfinished"></translation>
+        <translation>Confronto delle versioni in corso…</translation>
     </message>
     <message>
         <source>The logbook cannot be changed now. Record the flight on the discharge page first, or see the messages above the logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il registro non può essere modificato in questo momento. Registrare prima il volo nella pagina di scarica, oppure vedere i messaggi sopra il registro.</translation>
     </message>
     <message>
         <source>“%1” cannot be read now. Try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” non può essere letto in questo momento. Riprovare più tardi.</translation>
     </message>
     <message>
         <source>Merged with another version</source>
-        <translation type="unfinished"></translation>
+        <translation>Unione con un’altra versione</translation>
     </message>
     <message>
         <source>Merged with “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unione con “%1” eseguita.</translation>
     </message>
     <message>
         <source>The file cannot be put aside: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è possibile mettere da parte il file: %1.</translation>
     </message>
     <message numerus="yes">
         <source>There are %n such versions.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>C’è %n versione di questo tipo.</numerusform>
+            <numerusform>Ci sono %n versioni di questo tipo.</numerusform>
         </translation>
     </message>
 </context>
@@ -1389,38 +1389,38 @@
     <name>Host::CopiesModel</name>
     <message>
         <source>not whole: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>incompleta: %1</translation>
     </message>
     <message>
         <source>Made</source>
-        <translation type="unfinished"></translation>
+        <translation>Creata</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensione</translation>
     </message>
     <message>
         <source>Compared with now</source>
-        <translation type="unfinished"></translation>
+        <translation>Rispetto a ora</translation>
     </message>
 </context>
 <context>
     <name>Host::DifferencesModel</name>
     <message>
         <source>not there</source>
-        <translation type="unfinished"></translation>
+        <translation>assente</translation>
     </message>
     <message>
         <source>What</source>
-        <translation type="unfinished"></translation>
+        <translation>Elemento</translation>
     </message>
     <message>
         <source>In this copy</source>
-        <translation type="unfinished"></translation>
+        <translation>In questa copia</translation>
     </message>
     <message>
         <source>In the logbook now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ora nel registro</translation>
     </message>
 </context>
 <context>
@@ -1985,110 +1985,110 @@
     <name>Host::HealthModel</name>
     <message>
         <source>Counter (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Contatore (mAh)</translation>
     </message>
     <message>
         <source>Current × time (mAh)</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrente × tempo (mAh)</translation>
     </message>
     <message>
         <source>At rest before (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>A riposo prima (V)</translation>
     </message>
     <message>
         <source>At rest after (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>A riposo dopo (V)</translation>
     </message>
     <message>
         <source>Lowest (V)</source>
-        <translation type="unfinished"></translation>
+        <translation>Minima (V)</translation>
     </message>
     <message>
         <source>Resistance (mΩ)</source>
-        <translation type="unfinished"></translation>
+        <translation>Resistenza (mΩ)</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished">Capacità (mAh)</translation>
+        <translation>Capacità (mAh)</translation>
     </message>
     <message>
         <source>What the radio&apos;s counter of the consumption says.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò che indica il contatore del consumo del radiocomando.</translation>
     </message>
     <message>
         <source>The consumption as the logged current adds up over time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il consumo che risulta dalla corrente registrata nel tempo.</translation>
     </message>
     <message>
         <source>The voltage of the whole battery at less than 1 A before the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tensione dell’intera batteria a meno di 1 A prima del volo.</translation>
     </message>
     <message>
         <source>The voltage of the whole battery at less than 1 A after the flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tensione dell’intera batteria a meno di 1 A dopo il volo.</translation>
     </message>
     <message>
         <source>The lowest voltage of the whole battery in flight.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tensione più bassa dell’intera batteria in volo.</translation>
     </message>
     <message>
         <source>The internal resistance of the whole battery: by how much the voltage falls with each ampere.</source>
-        <translation type="unfinished"></translation>
+        <translation>La resistenza interna dell’intera batteria: di quanto scende la tensione per ogni ampere.</translation>
     </message>
     <message>
         <source>An estimate: the consumption, and the charge that the voltages at rest before and after the flight stand for.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una stima: dal consumo e dalla carica a cui corrispondono le tensioni a riposo prima e dopo il volo.</translation>
     </message>
     <message>
         <source>Measured</source>
-        <translation type="unfinished">Misurato</translation>
+        <translation>Misurato</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Mediana</translation>
     </message>
     <message>
         <source>Spread (±)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispersione (±)</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished">Voli</translation>
+        <translation>Voli</translation>
     </message>
     <message>
         <source>What the radio&apos;s logs tell of the flights with this battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò che i log del radiocomando dicono dei voli con questa batteria.</translation>
     </message>
     <message>
         <source>Half of the flights show less than this, half of them more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Metà dei voli mostra meno di questo valore, l’altra metà di più.</translation>
     </message>
     <message>
         <source>Half of the flights lie within so much around the median.</source>
-        <translation type="unfinished"></translation>
+        <translation>Metà dei voli si trova entro questa distanza dalla mediana.</translation>
     </message>
     <message>
         <source>How many flights tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quanti voli forniscono il valore.</translation>
     </message>
     <message>
         <source>%1, %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2: %3</translation>
     </message>
     <message>
         <source>Shown once five measured flights tell it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Appare quando cinque voli misurati forniscono il valore.</translation>
     </message>
     <message>
         <source>No log tells it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun log lo fornisce.</translation>
     </message>
 </context>
 <context>
     <name>Host::HealthView</name>
     <message>
         <source>Measured values of the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Valori misurati della batteria</translation>
     </message>
 </context>
 <context>
@@ -2198,7 +2198,7 @@
     </message>
     <message>
         <source>Nobody has chosen the columns that tell of the battery.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno ha scelto le colonne con i valori della batteria.</translation>
     </message>
 </context>
 <context>
@@ -2245,7 +2245,7 @@
     <message>
         <source>English</source>
         <comment>this language, in itself</comment>
-        <translation type="unfinished"></translation>
+        <translation>Italiano</translation>
     </message>
 </context>
 <context>
@@ -2388,31 +2388,31 @@ Questo registro è conservato in “%1”.</translation>
     </message>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lingua</translation>
     </message>
     <message>
         <source>&amp;System Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Lingua di &amp;sistema</translation>
     </message>
     <message>
         <source>This logbook is empty. Add your first battery, look around in the sample, or choose the folder of a logbook that you have already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo registro è vuoto. Aggiungere la prima batteria, dare un’occhiata all’esempio o scegliere la cartella di un registro già esistente.</translation>
     </message>
     <message>
         <source>Add a Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi batteria</translation>
     </message>
     <message>
         <source>Open the Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri l’esempio</translation>
     </message>
     <message>
         <source>Choose a Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli cartella…</translation>
     </message>
     <message>
         <source>&amp;Backups…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copie di sicurezza…</translation>
     </message>
 </context>
 <context>
@@ -2426,187 +2426,187 @@ Questo registro è conservato in “%1”.</translation>
     <name>Host::MergeDialog</name>
     <message>
         <source>without a time</source>
-        <translation type="unfinished"></translation>
+        <translation>senza ora</translation>
     </message>
     <message>
         <source>Battery %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteria %1</translation>
     </message>
     <message>
         <source>Model %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Modello %1</translation>
     </message>
     <message>
         <source>Discharge of %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarica di %1, %2</translation>
     </message>
     <message>
         <source>Flight of %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Volo di %1, %2</translation>
     </message>
     <message>
         <source>Capacity (mAh)</source>
-        <translation type="unfinished">Capacità (mAh)</translation>
+        <translation>Capacità (mAh)</translation>
     </message>
     <message>
         <source>Discharge rating (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasso di scarica (C)</translation>
     </message>
     <message>
         <source>Charge rating (C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasso di carica (C)</translation>
     </message>
     <message>
         <source>Purchased</source>
-        <translation type="unfinished"></translation>
+        <translation>Acquisto</translation>
     </message>
     <message>
         <source>Cycles</source>
-        <translation type="unfinished"></translation>
+        <translation>Cicli</translation>
     </message>
     <message>
         <source>Charged</source>
-        <translation type="unfinished">Caricata</translation>
+        <translation>Caricata</translation>
     </message>
     <message>
         <source>Last use</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultimo uso</translation>
     </message>
     <message>
         <source>Discharged (mAh)</source>
-        <translation type="unfinished">Scaricato (mAh)</translation>
+        <translation>Scaricato (mAh)</translation>
     </message>
     <message>
         <source>Maximum current (A)</source>
-        <translation type="unfinished">Corrente massima (A)</translation>
+        <translation>Corrente massima (A)</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished">Tipo</translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Weight</source>
-        <translation type="unfinished">Peso</translation>
+        <translation>Peso</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Misura</translation>
     </message>
     <message>
         <source>Flights</source>
-        <translation type="unfinished">Voli</translation>
+        <translation>Voli</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished">Note</translation>
+        <translation>Note</translation>
     </message>
     <message>
         <source>Last update</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultima modifica</translation>
     </message>
     <message>
         <source>Duration (s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Durata (s)</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished">Luogo</translation>
+        <translation>Luogo</translation>
     </message>
     <message>
         <source>Temperature (°C)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura (°C)</translation>
     </message>
     <message>
         <source>yes</source>
-        <translation type="unfinished"></translation>
+        <translation>sì</translation>
     </message>
     <message>
         <source>no</source>
-        <translation type="unfinished"></translation>
+        <translation>no</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuno</translation>
     </message>
     <message>
         <source>batteries: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>batterie (%1)</translation>
     </message>
     <message>
         <source>models: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>modelli (%1)</translation>
     </message>
     <message>
         <source>locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>luoghi (%1)</translation>
     </message>
     <message>
         <source>discharges: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>scariche (%1)</translation>
     </message>
     <message>
         <source>flights: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>voli (%1)</translation>
     </message>
     <message>
         <source>Added are %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementi aggiunti: %1.</translation>
     </message>
     <message>
         <source>Removed, as they were there, are %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elementi rimossi, come nell’altra versione: %1.</translation>
     </message>
     <message>
         <source>Values changed: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valori modificati: %1.</translation>
     </message>
     <message>
         <source>Merge</source>
-        <translation type="unfinished"></translation>
+        <translation>Unisci</translation>
     </message>
     <message>
         <source>“%1” is another version of this logbook, which was changed on another computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” è un’altra versione di questo registro, modificata su un altro computer.</translation>
     </message>
     <message>
         <source>This logbook holds everything that it holds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo registro contiene già tutto ciò che contiene quella versione.</translation>
     </message>
     <message>
         <source>No earlier version was found that both come from. So nothing is removed, and you choose wherever the two differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stata trovata alcuna versione precedente da cui derivino entrambe. Perciò non viene rimosso nulla, e si può scegliere ovunque le due differiscano.</translation>
     </message>
     <message>
         <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrambe le versioni hanno modificato questi &amp;valori. Spuntare quelli da prendere dall’altra versione; i restanti rimangono come sono in questo registro.</translation>
     </message>
     <message>
         <source>The other version is then kept among the copies of the logbook, and Undo in the menu Edit takes the merge back.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’altra versione viene poi conservata tra le copie del registro, e Annulla nel menu Modifica revoca l’unione.</translation>
     </message>
     <message>
         <source>Put Aside</source>
-        <translation type="unfinished"></translation>
+        <translation>Metti da parte</translation>
     </message>
     <message>
         <source>Values that both have changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Valori modificati in entrambe le versioni</translation>
     </message>
     <message>
         <source>Take the other’s</source>
-        <translation type="unfinished"></translation>
+        <translation>Prendi l’altro</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore</translation>
     </message>
     <message>
         <source>This logbook</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo registro</translation>
     </message>
     <message>
         <source>Other version</source>
-        <translation type="unfinished"></translation>
+        <translation>Altra versione</translation>
     </message>
 </context>
 <context>
@@ -2687,23 +2687,23 @@ Questo registro è conservato in “%1”.</translation>
     </message>
     <message>
         <source>The copy is restored…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristino della copia in corso…</translation>
     </message>
     <message>
         <source>Copy restored</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia ripristinata</translation>
     </message>
     <message>
         <source>Nothing was changed: the logbook as it is now cannot be copied first: %1. See that the program can write in “%2”, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato modificato nulla: non è possibile copiare prima il registro com’è ora: %1. Verificare che il programma possa scrivere in “%2” e riprovare.</translation>
     </message>
     <message>
         <source>another program has changed it</source>
-        <translation type="unfinished"></translation>
+        <translation>un altro programma lo ha modificato</translation>
     </message>
     <message>
         <source>Another program has changed what radio logs tell of the discharges. It is on show now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un altro programma ha modificato i dati dei log del radiocomando relativi alle scariche. Ora sono mostrati quelli nuovi.</translation>
     </message>
 </context>
 <context>
@@ -2974,67 +2974,67 @@ Questo registro è conservato in “%1”.</translation>
     </message>
     <message>
         <source>Leave the Page and Show It</source>
-        <translation type="unfinished"></translation>
+        <translation>Lascia la pagina e mostra</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. It is shown as soon as you have recorded or left what you are entering.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un altro programma ha modificato il registro: %1. La modifica verrà mostrata non appena l’inserimento in corso sarà stato registrato o abbandonato.</translation>
     </message>
     <message>
         <source>Show the Other Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra l’altra versione</translation>
     </message>
     <message>
         <source>Keep This Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantieni questa versione</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. This window holds something that is not saved. Choose which version to go on with; the other one is kept in “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un altro programma ha modificato il registro: %1. Questa finestra contiene qualcosa che non è salvato. Scegliere con quale versione proseguire; l’altra viene conservata in “%2”.</translation>
     </message>
     <message>
         <source>The logbook is read again…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rilettura del registro in corso…</translation>
     </message>
     <message>
         <source>Another program has changed the logbook: %1. It is on show now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un altro programma ha modificato il registro: %1. Ora è mostrata la nuova versione.</translation>
     </message>
     <message>
         <source>Your last click was not carried out: look at the logbook again, and repeat it.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ultimo clic non è stato eseguito: guardare di nuovo il registro e ripetere il clic.</translation>
     </message>
     <message>
         <source>The version of the other program holds what this version of Voltbok does not understand, and drops when it saves: %1. It is kept as “%2”.</source>
-        <translation type="unfinished"></translation>
+        <translation>La versione dell’altro programma contiene elementi che questa versione di Voltbok non comprende e che elimina al salvataggio: %1. È conservata come “%2”.</translation>
     </message>
     <message>
         <source>The version of the other program holds what this version of Voltbok does not understand, and drops when it saves: %1. It cannot be put aside: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La versione dell’altro programma contiene elementi che questa versione di Voltbok non comprende e che elimina al salvataggio: %1. Non è possibile metterla da parte: %2.</translation>
     </message>
     <message>
         <source>Another program had changed the logbook, and what you recorded has taken the place of that: %1. The other version is kept in “%2”; undo brings it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un altro programma aveva modificato il registro, e ciò che è stato registrato qui ne ha preso il posto: %1. L’altra versione è conservata in “%2”; Annulla la ripristina.</translation>
     </message>
     <message>
         <source>The logbook file “%1” is gone: another program has moved or removed it. This window still shows what it held. Nothing can be recorded until the file is back; if it does not come back by itself, put it back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file del registro “%1” non c’è più: un altro programma lo ha spostato o rimosso. Questa finestra mostra ancora ciò che conteneva. Non è possibile registrare nulla finché il file non torna; se non torna da solo, rimetterlo al suo posto.</translation>
     </message>
     <message>
         <source>The logbook file “%1” was changed by another program, and is no whole logbook now: %2. This window still shows what it held. Nothing can be recorded until the file is whole; if that does not come by itself, put the file back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file del registro “%1” è stato modificato da un altro programma e non è più un registro completo: %2. Questa finestra mostra ancora ciò che conteneva. Non è possibile registrare nulla finché il file non è di nuovo completo; se ciò non avviene da solo, rimettere il file al suo posto.</translation>
     </message>
     <message>
         <source>Put the File Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimetti il file</translation>
     </message>
     <message>
         <source>The logbook file is gone or damaged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file del registro manca o è danneggiato.</translation>
     </message>
     <message>
         <source>Everything that this window shows is kept in a copy, which the next start offers. Go back, and put the file back now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto ciò che mostra questa finestra è conservato in una copia, che verrà proposta al prossimo avvio. Tornare indietro e rimettere ora il file al suo posto.</translation>
     </message>
 </context>
 <context>
@@ -3458,7 +3458,7 @@ Questo registro è conservato in “%1”.</translation>
     <name>MergeSources</name>
     <message>
         <source>it has changed meanwhile</source>
-        <translation type="unfinished"></translation>
+        <translation>nel frattempo è cambiato</translation>
     </message>
 </context>
 <context>
@@ -3515,7 +3515,7 @@ Questo registro è conservato in “%1”.</translation>
     <name>Others</name>
     <message>
         <source>as many entries as before, with other contents</source>
-        <translation type="unfinished"></translation>
+        <translation>tante voci quante prima, con altri contenuti</translation>
     </message>
 </context>
 <context>
