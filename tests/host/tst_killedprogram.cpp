@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/data/measured.h"
+#include "host/data/moments.h"
 #include "host/safety/backups.h"
 #include "host/safety/recovery.h"
 #include "host/safety/storagefolder.h"
 #include "tests/host/support/harness.h"
 #include "tests/host/support/logbook.h"
 #include "tests/host/support/record.h"
+#include "tests/host/support/stormbook.h"
 #include "tests/support/files.h"
 
 #include <QElapsedTimer>
@@ -13,6 +16,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <memory>
 
 using namespace Host;
@@ -21,6 +25,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int Kills = 500;
+constexpr int Logs = 3;
 constexpr int AtOnce = 8;
 constexpr int KillsOfALogbook = 10; // the copies of ten lives take little room
 constexpr int PauseMs = 40;         // between two changes
@@ -34,8 +39,20 @@ struct Tally
     int broken = 0;
     int recoveries = 0;
     int saves = 0;
+    QMap<QString, int> deeds; // changes of the whole logbook, by what was done
     QStringList faults;
 };
+
+/** Which discharges the file beside a logbook tells of. */
+QStringList measuredBeside(const StorageFolder &folder)
+{
+    QStringList names;
+    const Measured measured = MeasuredFile::load(Test::contents(folder.measuredFile())).measured;
+    for (const MeasuredDischarge &discharge : measured.discharges)
+        names.append(discharge.battery + u' ' + timeOf(discharge.moment).toString(Qt::ISODate));
+    names.sort();
+    return names;
+}
 
 } // namespace
 
@@ -61,10 +78,15 @@ Q_SIGNALS:
     void over();
 
 private:
+    void makeHome();
+    void putConflict();
     void readReports();
     void kill();
     void died();
     QString judge(qint64 death);
+    QString judgeWhole(const Logbook &found) const;
+    QString judgeConflict(const Logbook &found) const;
+    QString conflictFile() const { return m_home->logbook() + u'/' + StormBook::conflictName(m_conflicts); }
     QString recover(const QByteArray &damaged, qint64 limit);
     QString refusal(const QByteArray &damaged) const;
 
@@ -72,23 +94,53 @@ private:
     QRandomGenerator &m_random;
     std::unique_ptr<Home> m_home;
     int m_deaths = 0;
+    int m_conflicts = 0; // that the logbook has had
+    bool m_hasConflict = false;
     QProcess m_process;
     QTimer m_kill;
     qint64 m_killed = 0;
     Record m_record; // since this start; it began with a file that held all that was owed before
 };
 
+void Victim::makeHome()
+{
+    m_home = std::make_unique<Home>();
+    m_home->makeLogbook(StormBook::document());
+    const QString problem = Backups::add(StorageFolder(m_home->logbook()), StormBook::document(),
+                                         QDateTime::currentDateTimeUtc().addSecs(-3600));
+    QDir(m_home->path()).mkdir(u"card"_s);
+    bool isWritten = problem.isEmpty();
+    for (int i = 0; i < Logs; ++i)
+        isWritten =
+            Test::write(m_home->path() + u"/card/"_s + StormBook::logName(i), StormBook::log(i)) && isWritten;
+    if (!isWritten)
+        qFatal("a test cannot write a logbook");
+    m_deaths = 0;
+    m_conflicts = 0;
+}
+
+/** Another computer has changed the logbook, too; unless its last change is not merged yet. */
+void Victim::putConflict()
+{
+    m_hasConflict = m_conflicts > 0 && QFile::exists(conflictFile());
+    if (m_hasConflict || m_random.bounded(2) == 0)
+        return;
+    ++m_conflicts;
+    m_hasConflict = true;
+    if (!Test::write(conflictFile(), StormBook::theirs(m_conflicts)))
+        qFatal("a test cannot write a logbook");
+}
+
 void Victim::start()
 {
     if (m_tally.started == Kills)
         return Q_EMIT over();
     ++m_tally.started;
-    if (!m_home || m_deaths == KillsOfALogbook) {
-        m_home = std::make_unique<Home>();
-        m_home->makeLogbook(smallLogbook());
-        m_deaths = 0;
-    }
-    m_record = Record(Logbook::readFile(m_home->dataFile()));
+    if (!m_home || m_deaths == KillsOfALogbook)
+        makeHome();
+    putConflict();
+    m_record =
+        Record(Logbook::readFile(m_home->dataFile()), measuredBeside(StorageFolder(m_home->logbook())));
     m_killed = 0;
     QProcessEnvironment environment = m_home->environment();
     environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
@@ -102,8 +154,8 @@ void Victim::start()
     }
     m_process.setProcessEnvironment(environment);
     m_process.start(QStringLiteral(PROGRAM), {u"--data"_s, m_home->logbook()});
-    m_process.write(
-        Harness::command({u"storm"_s, QString::number(PauseMs), QString::number(m_random.generate())}));
+    m_process.write(Harness::command({u"storm"_s, QString::number(PauseMs),
+                                      QString::number(m_random.generate()), m_home->path() + u"/card"_s}));
     m_kill.start(60'000); // should it never report anything
 }
 
@@ -132,6 +184,10 @@ void Victim::died()
     ++m_deaths;
     ++m_tally.kills;
     m_tally.saves += m_record.changes();
+    for (const Event &event : m_record.events()) {
+        if (event.isDone() && Steps::isDeed(event.words.value(0)))
+            ++m_tally.deeds[event.words.constFirst()];
+    }
     const QString standardError = QString::fromUtf8(m_process.readAllStandardError());
     // One that died by itself in the middle of a save did so right after its last report.
     const qint64 death =
@@ -156,10 +212,44 @@ QString Victim::judge(qint64 death)
     const bool isWhole = Recovery::examine(StorageFolder(m_home->logbook())).kind == FileState::Whole;
     if (isWhole != found.whole)
         return u"whole or not: the program and the test differ"_s;
-    if (found.whole) // the last save is complete: there is no excuse for anything
-        return m_record.missing(found).join(u", ");
+    if (found.whole)
+        return judgeWhole(found);
+    if (const QStringList deed = m_record.unfinishedDeed(); !deed.isEmpty())
+        return u"broken by "_s + deed.constFirst();
     ++m_tally.broken;
     return recover(bytes, limit);
+}
+
+/** The last save is complete: there is no excuse for anything. */
+QString Victim::judgeWhole(const Logbook &found) const
+{
+    QStringList problems = m_record.missing(found);
+    const QStringList measured = measuredBeside(StorageFolder(m_home->logbook()));
+    if (!m_record.mayTellOf(measured))
+        problems.append(u"measured: "_s + measured.join(u"; "));
+    problems.append(judgeConflict(found));
+    problems.removeAll(QString());
+    return problems.join(u", ");
+}
+
+/** The other version waits for its merge, or was merged and is kept. */
+QString Victim::judgeConflict(const Logbook &found) const
+{
+    if (!m_hasConflict || QFile::exists(conflictFile()))
+        return QString();
+    const QStringList kept = StorageFolder(m_home->logbook()).mergedVersions();
+    const bool isKept = std::any_of(kept.cbegin(), kept.cend(), [this](const QString &path) {
+        return Test::contents(path) == StormBook::theirs(m_conflicts);
+    });
+    if (!isKept)
+        return u"the other version is gone"_s;
+    const QList<Event> &events = m_record.events();
+    const bool isMerged = std::any_of(events.cbegin(), events.cend(), [](const Event &event) {
+        return event.isDone() && event.words.value(0) == u"merge";
+    });
+    return isMerged || found.locations.contains(StormBook::theirPlace(m_conflicts))
+               ? QString()
+               : u"the other version is put aside, and not merged"_s;
 }
 
 /** Puts the newest whole copy in the place of a broken file, as the program does when somebody agrees. */
@@ -240,12 +330,18 @@ void KilledProgramTest::nothingThatWasAcknowledgedIsLostByAKill()
         "%d kills in %lld s, %d with something owed; %d acknowledged changes; %d broken files, %d recoveries",
         tally.kills, static_cast<long long>(clock.elapsed() / 1000), tally.owing, tally.saves, tally.broken,
         tally.recoveries);
+    QStringList deeds;
+    for (auto deed = tally.deeds.cbegin(); deed != tally.deeds.cend(); ++deed)
+        deeds.append(deed.key() + u' ' + QString::number(deed.value()));
+    qInfo("among the changes: %s", qPrintable(deeds.join(u", ")));
     for (const QString &problem : std::as_const(tally.faults))
         qWarning("%s", qPrintable(problem)); // all of them: a failure's own text is cut
     QVERIFY(tally.faults.isEmpty());
     QCOMPARE(tally.kills, Kills);
     QVERIFY(tally.owing >= Kills / 2);
     QVERIFY(tally.saves >= 10 * Kills);
+    for (const QString &deed : {u"edit"_s, u"import"_s, u"merge"_s, u"redo"_s, u"restore"_s, u"undo"_s})
+        QVERIFY2(tally.deeds.value(deed) >= Kills / 25, qPrintable(deed));
     QVERIFY(tally.broken >= Kills / 20);
     QCOMPARE(tally.recoveries, tally.broken);
     QTRY_VERIFY_WITH_TIMEOUT(Harness::sharedLeftovers(leftBefore).isEmpty(), 10'000);

@@ -126,7 +126,7 @@ void FaultRun::readReports()
     while (m_process.canReadLine()) {
         const Event event = Event::parse(m_process.readLine());
         m_record.add(event);
-        if (event.state == u"box" || event.state == u"begin" || m_ends)
+        if (event.state == u"box" || event.state == u"begin" || event.state == u"now" || m_ends)
             continue;
         const QString &command = event.words.constFirst();
         if (command == u"messages")

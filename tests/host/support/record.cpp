@@ -1,47 +1,29 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/host/support/record.h"
 
+#include <QSet>
+
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QStringList Changes{u"click"_s,          u"add-location"_s, u"delete-location"_s, u"add-battery"_s,
-                          u"delete-battery"_s, u"assign"_s,       u"unassign"_s};
-
-void applyClick(Logbook &logbook, const QStringList &words)
+/** Names whose change began after the time in question. */
+struct Later
 {
-    Logbook::Battery &battery = logbook.batteries[words.value(1)];
-    battery.figures.insert(u"Cycles"_s, words.value(2));
-    battery.figures.insert(u"Charged"_s, words.value(3));
-    if (words.size() <= 4)
-        return; // charged
-    battery.discharges.append(words.value(4) + u' ' + words.value(5));
-    const auto model = logbook.models.find(words.value(6));
-    if (model != logbook.models.end())
-        model->flights.append(words.value(4) + u' ' + words.value(7));
-}
+    QSet<QString> changed;
+    QSet<QString> deleted;
 
-void apply(Logbook &logbook, const QStringList &words)
-{
-    const QString &verb = words.constFirst();
-    const QString name = words.value(1);
-    if (verb == u"click")
-        applyClick(logbook, words);
-    else if (verb == u"add-location")
-        logbook.locations.append(name);
-    else if (verb == u"delete-location")
-        logbook.locations.removeOne(name);
-    else if (verb == u"add-battery")
-        logbook.batteries[name].figures.insert(u"Name"_s, name);
-    else if (verb == u"delete-battery")
-        logbook.batteries.remove(name);
-    else if (verb == u"assign")
-        logbook.models[name].batteries.append(words.value(2));
-    else if (verb == u"unassign")
-        logbook.models[name].batteries.removeAll(words.value(2));
-}
+    void add(const QStringList &words)
+    {
+        changed.insert(words.value(1));
+        if (words.constFirst().startsWith(u"delete"))
+            deleted.insert(words.value(1));
+    }
+    bool isNothing() const { return changed.isEmpty(); }
+};
 
 bool startsWith(const QStringList &list, const QStringList &start)
 {
@@ -66,60 +48,39 @@ QMap<QString, QString> lasting(QMap<QString, QString> figures)
     return figures;
 }
 
-} // namespace
-
-Event Event::parse(const QByteArray &line)
+/** Other entries than those owed, or fewer; what began later may have added some at the end. */
+bool differ(const QStringList &found, const QStringList &owed, bool mayGrow)
 {
-    const QStringList words = QString::fromUtf8(line.trimmed()).split(u'\t');
-    return {words.value(0).toLongLong(), words.value(1), words.mid(2)};
+    return mayGrow ? !startsWith(found, owed) : found != owed;
 }
 
-Logbook Record::stateAt(qint64 time, Later *later) const
+QStringList missingBatteries(const Logbook &found, const Logbook &owed, const Later &later)
 {
-    Logbook state = m_start;
-    for (const Event &event : m_events) {
-        if (!Changes.contains(event.words.value(0)))
-            continue;
-        if (event.isDone() && event.time <= time) {
-            apply(state, event.words);
-            *later = {}; // one change at a time: what began before is over
-            continue;
-        }
-        later->changed.insert(event.words.value(1));
-        if (event.words.constFirst().startsWith(u"delete"))
-            later->deleted.insert(event.words.value(1));
-    }
-    return state;
-}
-
-QStringList Record::missing(const Logbook &found, qint64 time) const
-{
-    Later later;
-    const Logbook owed = stateAt(time, &later);
     QStringList result;
-    for (const QString &location : owed.locations) {
-        if (!found.locations.contains(location) && !later.deleted.contains(location))
-            result.append(u"location "_s + location);
-    }
     for (auto it = owed.batteries.cbegin(); it != owed.batteries.cend(); ++it) {
         const auto battery = found.batteries.constFind(it.key());
-        const bool settled = !later.changed.contains(it.key());
+        const bool isSettled = !later.changed.contains(it.key());
         if (battery == found.batteries.cend()) {
             if (!later.deleted.contains(it.key()))
                 result.append(u"battery "_s + it.key());
             continue;
         }
-        if (!startsWith(battery->discharges, it->discharges) ||
-            (settled && battery->discharges != it->discharges))
+        if (differ(battery->discharges, it->discharges, !isSettled))
             result.append(u"discharges of %1: %2, not %3"_s.arg(it.key())
                               .arg(battery->discharges.size())
                               .arg(it->discharges.size()));
-        if (!holds(battery->figures, settled ? it->figures : lasting(it->figures)))
+        if (!holds(battery->figures, isSettled ? it->figures : lasting(it->figures)))
             result.append(u"figures of "_s + it.key());
     }
+    return result;
+}
+
+QStringList missingModels(const Logbook &found, const Logbook &owed, const Later &later)
+{
+    QStringList result;
     for (auto it = owed.models.cbegin(); it != owed.models.cend(); ++it) {
         const Logbook::Model model = found.models.value(it.key());
-        if (!startsWith(model.flights, it->flights))
+        if (differ(model.flights, it->flights, !later.isNothing()))
             result.append(u"flights of %1: %2, not %3"_s.arg(it.key())
                               .arg(model.flights.size())
                               .arg(it->flights.size()));
@@ -133,10 +94,108 @@ QStringList Record::missing(const Logbook &found, qint64 time) const
     return result;
 }
 
+/** What was taken away, and is there all the same. */
+QStringList tooMuch(const Logbook &found, const Logbook &owed, const Later &later)
+{
+    QStringList names;
+    for (const QString &location : found.locations) {
+        if (!owed.locations.contains(location))
+            names.append(location);
+    }
+    for (auto it = found.batteries.cbegin(); it != found.batteries.cend(); ++it) {
+        if (!owed.batteries.contains(it.key()))
+            names.append(it.key());
+    }
+    names.removeIf([&](const QString &name) { return later.changed.contains(name); });
+    QStringList result;
+    for (const QString &name : std::as_const(names))
+        result.append(u"still there: "_s + name);
+    return result;
+}
+
+QStringList difference(const Logbook &found, const Logbook &owed, const Later &later)
+{
+    QStringList result;
+    for (const QString &location : owed.locations) {
+        if (!found.locations.contains(location) && !later.deleted.contains(location))
+            result.append(u"location "_s + location);
+    }
+    return result + missingBatteries(found, owed, later) + missingModels(found, owed, later) +
+           tooMuch(found, owed, later);
+}
+
+} // namespace
+
+Event Event::parse(const QByteArray &line)
+{
+    const QStringList words = QString::fromUtf8(line.trimmed()).split(u'\t');
+    return {words.value(0).toLongLong(), words.value(1), words.mid(2)};
+}
+
+void Record::add(const Event &event)
+{
+    const bool isKnownExactly = event.isDone() && !m_events.isEmpty() && m_events.constLast().state == u"now";
+    m_events.append(isKnownExactly ? Event{event.time, event.state, m_events.constLast().words} : event);
+}
+
+QStringList Record::unfinishedDeed() const
+{
+    if (m_events.isEmpty() || !Steps::isDeed(m_events.constLast().words.value(0)))
+        return {};
+    const Event &last = m_events.constLast();
+    static const QStringList known{u"undo"_s, u"redo"_s, u"restore"_s}; // without another word
+    const bool isKnown = last.state == u"now" || (last.state == u"begin" && known.contains(last.words.at(0)));
+    return isKnown ? last.words : QStringList();
+}
+
+QStringList Record::missing(const Logbook &found, qint64 time) const
+{
+    Steps steps(m_start);
+    Logbook owed = m_start.logbook; // by the time in question, or by a deed behind it
+    Later later;
+    for (const Event &event : m_events) {
+        const QString verb = event.words.value(0);
+        const bool isLate = event.time > time;
+        if (!Steps::isChange(verb) || (Steps::isDeed(verb) && !event.isDone()))
+            continue;
+        if (Steps::isDeed(verb) && isLate && difference(found, owed, later).isEmpty())
+            return {}; // it is not in it
+        if (event.isDone())
+            steps.apply(event.words);
+        if (event.isDone() && (!isLate || Steps::isDeed(verb))) {
+            owed = steps.present().logbook;
+            later = {}; // one change at a time: what began before is over
+        } else {
+            later.add(event.words);
+        }
+    }
+    const QStringList result = difference(found, owed, later);
+    const QStringList unfinished = unfinishedDeed();
+    if (result.isEmpty() || unfinished.isEmpty())
+        return result;
+    steps.apply(unfinished);
+    return difference(found, steps.present().logbook, {}).isEmpty() ? QStringList() : result;
+}
+
+bool Record::mayTellOf(const QStringList &measured) const
+{
+    Steps steps(m_start);
+    for (const Event &event : m_events) {
+        if (event.isDone() && Steps::isChange(event.words.value(0)))
+            steps.apply(event.words);
+    }
+    if (measured == steps.present().measured || measured == steps.before().measured)
+        return true;
+    const QStringList unfinished = unfinishedDeed();
+    if (!unfinished.isEmpty())
+        steps.apply(unfinished);
+    return measured == steps.present().measured;
+}
+
 int Record::changes(qint64 time) const
 {
     return static_cast<int>(std::count_if(m_events.cbegin(), m_events.cend(), [&](const Event &event) {
-        return event.isDone() && event.time <= time && Changes.contains(event.words.value(0));
+        return event.isDone() && event.time <= time && Steps::isChange(event.words.value(0));
     }));
 }
 

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "tests/host/support/logbook.h"
-
-#include <QSet>
+#include "tests/host/support/steps.h"
 
 #include <limits>
 
@@ -11,7 +10,7 @@
 struct Event
 {
     qint64 time = 0; ///< ms since the epoch
-    QString state;   ///< "begin", "done" or "failed"
+    QString state;   ///< "begin", "now", "done" or "failed"
     QStringList words;
 
     static Event parse(const QByteArray &line);
@@ -22,19 +21,24 @@ struct Event
 class Record
 {
 public:
-    explicit Record(Logbook start = {})
-        : m_start(std::move(start))
+    /** @param measured of which discharges the file beside it tells. */
+    explicit Record(const Logbook &start = {}, const QStringList &measured = {})
+        : m_start{start, measured}
     {
     }
 
-    void add(const Event &event) { m_events.append(event); }
+    void add(const Event &event);
     const QList<Event> &events() const { return m_events; }
 
     /**
      * What of all that was acknowledged until @p time is not in @p found. A change that began later may be in
-     * it or not.
+     * it or not, but a change of the whole logbook only as a whole.
      */
     QStringList missing(const Logbook &found, qint64 time = std::numeric_limits<qint64>::max()) const;
+
+    /** Whether the file beside the logbook tells of these discharges: either before the last step or after.
+     */
+    bool mayTellOf(const QStringList &measured) const;
 
     /** The longest time without a report since @p time, in ms: a machine that is busy with other things lets
      * every thread wait. */
@@ -43,16 +47,10 @@ public:
     /** How many changes were acknowledged until @p time. */
     int changes(qint64 time = std::numeric_limits<qint64>::max()) const;
 
+    /** What was being done to the whole logbook at the end of all this; empty when nothing was. */
+    QStringList unfinishedDeed() const;
+
 private:
-    /** Names whose change began after the time in question. */
-    struct Later
-    {
-        QSet<QString> changed;
-        QSet<QString> deleted;
-    };
-
-    Logbook stateAt(qint64 time, Later *later) const;
-
-    Logbook m_start;
+    Steps::Version m_start;
     QList<Event> m_events;
 };

@@ -36,7 +36,8 @@ Event Session::run(const QStringList &words)
     do {
         readReports();
         for (const Event &event : m_record.events().mid(before)) {
-            if (event.state != u"begin" && event.words.value(0) == words.constFirst())
+            if (event.state != u"begin" && event.state != u"now" &&
+                event.words.value(0) == words.constFirst())
                 return event;
         }
     } while (m_process.waitForReadyRead(PatienceMs));

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/host/support/driver/driver.h"
 
+#include "tests/host/support/driver/deeds.h"
 #include "tests/host/support/driver/hands.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QHash>
 #include <QRandomGenerator>
@@ -35,6 +37,15 @@ void report(const QString &what, const QStringList &words)
     const QString time = QString::number(QDateTime::currentMSecsSinceEpoch());
     std::fprintf(stdout, "%s\n", qUtf8Printable((QStringList{time, what} + words).join(u'\t')));
     std::fflush(stdout);
+}
+
+/** Reports what is about to happen, and remembers it for what is reported when it was done. */
+Deeds::Ear earOf(const QString &command, QStringList *result)
+{
+    return [command, result](const QStringList &words) {
+        report(u"now"_s, QStringList{command} + words);
+        *result = words;
+    };
 }
 
 using Action = std::function<bool(const QStringList &, QStringList *)>;
@@ -80,6 +91,19 @@ const QHash<QString, Action> &actions()
              *result = Hands::messages();
              return true;
          }},
+        {u"undo"_s, [](const QStringList &, QStringList *) { return Deeds::move(u"Undo"_s); }},
+        {u"redo"_s, [](const QStringList &, QStringList *) { return Deeds::move(u"Redo"_s); }},
+        {u"restore"_s, [](const QStringList &, QStringList *) { return Deeds::restoreOldest(); }},
+        {u"edit"_s,
+         [](const QStringList &words, QStringList *result) {
+             return Deeds::editFlight(words.value(0).toInt(), earOf(u"edit"_s, result));
+         }},
+        {u"import"_s,
+         [](const QStringList &words, QStringList *result) {
+             return Deeds::import(words.value(0), earOf(u"import"_s, result));
+         }},
+        {u"merge"_s,
+         [](const QStringList &, QStringList *result) { return Deeds::merge(earOf(u"merge"_s, result)); }},
         {u"quit"_s, [](const QStringList &, QStringList *) { return Hands::closeWindow(); }},
     };
     return table;
@@ -143,6 +167,7 @@ void Driver::step()
     }
     if (words.constFirst() == u"storm") {
         dice().seed(words.value(2).toUInt());
+        m_logs = QDir(words.value(3)).entryInfoList(QDir::Files);
         storm(words.value(1).toInt());
         return;
     }
@@ -187,7 +212,9 @@ QStringList Driver::randomCommand()
         return names->constLast();
     };
     const auto spent = [](QStringList *names) { return names->isEmpty() ? QString() : names->takeFirst(); };
-    switch (dice().bounded(40)) {
+    if (std::exchange(m_hasUndone, false) && dice().bounded(2) == 0)
+        return {u"redo"_s}; // another change would leave nothing to do again
+    switch (dice().bounded(60)) {
     case 0:
         return {u"add-location"_s, fresh(&m_locations)};
     case 1:
@@ -201,6 +228,29 @@ QStringList Driver::randomCommand()
                 any(Hands::choices(u"cb_bat_choose_model"_s))};
     case 5:
         return {u"unassign"_s, any(Hands::choices(u"cb_model_choose_bat"_s)), m_batteries.value(0)};
+    case 6:
+    case 7:
+    case 8:
+        m_hasUndone = true;
+        return {u"undo"_s};
+    case 9:
+    case 10:
+    case 11:
+        return {u"edit"_s, QString::number(dice().bounded(1000))};
+    case 12:
+    case 13:
+        return {u"import"_s, m_logs.isEmpty()
+                                 ? QString()
+                                 : m_logs.at(dice().bounded(static_cast<int>(m_logs.size()))).filePath()};
+    case 14:
+        return {u"restore"_s};
+    case 15:
+    case 16:
+    case 17:
+    case 18:
+        if (Deeds::isMergeOffered())
+            return {u"merge"_s};
+        [[fallthrough]];
     default: // where the last command left a page open, back to the cards first
         if (Hands::cards().isEmpty())
             return {u"press"_s, u"pb_options"_s};
