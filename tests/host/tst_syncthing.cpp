@@ -24,19 +24,22 @@ class SyncthingTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void whatBothRecordedApartIsInBothAfterAMerge();
+    void init();
     void cleanup();
+    void whatBothRecordedApartIsInBothAfterAMerge();
+    void whatArrivesIsTakenOverByTheOpenWindow();
 
 private:
     /** Another computer's folder. */
-    QString there() const { return m_program.home(u"there"_s); }
+    QString there() const { return m_program->home(u"there"_s); }
     QByteArray bytesThere() const { return Test::contents(there() + u"/voltbok.xml"_s); }
     Program::Result command(const QString &folder, const QStringList &arguments) const
     {
-        return m_program.run(arguments + QStringList{u"--data"_s, folder});
+        return m_program->run(arguments + QStringList{u"--data"_s, folder});
     }
     void flyThere(int hour);
     void join();
+    void mergeInTheWindow();
     static qsizetype discharges(const QByteArray &document)
     {
         return CatalogueFile::load(document).catalogue.batteries.at(0).discharges.size();
@@ -46,16 +49,30 @@ private:
         return ConflictFiles::ofLogbook(StorageFolder(folder));
     }
 
-    Program m_program;
+    std::unique_ptr<Program> m_program;
     std::unique_ptr<HostWindow> m_window;
     std::unique_ptr<Syncthing> m_first;
     std::unique_ptr<Syncthing> m_second;
 };
 
+/** An open window, and the folder of another computer that holds the same. */
+void SyncthingTest::init()
+{
+    m_program = std::make_unique<Program>();
+    m_window = std::make_unique<HostWindow>(CatalogueFile::save(logbook()).document);
+    QVERIFY(QDir().mkdir(there()));
+    m_first = std::make_unique<Syncthing>();
+    m_second = std::make_unique<Syncthing>();
+    m_first->start(m_window->path(), *m_second);
+    m_second->start(there(), *m_first);
+    TRY(m_first->isConnected() && m_second->isConnected());
+    TRY(bytesThere() == m_window->bytes());
+}
+
 /** Imports the log of a flight that nobody has clicked, from a terminal. */
 void SyncthingTest::flyThere(int hour)
 {
-    const QString log = m_program.home(u"Skylark-2026-05-03-%10000.csv"_s.arg(hour));
+    const QString log = m_program->home(u"Skylark-2026-05-03-%1"_s.arg(hour) + u"0000.csv"_s);
     QVERIFY(Test::write(log, ImportHome::header() + ImportHome::rows(at(hour, 0), 300, 1500)));
     const Program::Result result = command(there(), {u"import"_s, u"--battery"_s, u"A"_s, log});
     QCOMPARE(result.errors, QString());
@@ -68,18 +85,21 @@ void SyncthingTest::join()
     TRY(m_first->isConnected() && m_second->isConnected());
 }
 
+void SyncthingTest::mergeInTheWindow()
+{
+    TRY(m_window->button(u"Merge…"_s));
+    QTimer::singleShot(0, &m_window->window(), [] {
+        auto *dialog = qobject_cast<MergeDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        dialog->accept();
+    });
+    m_window->press(u"Merge…"_s);
+    m_window->settle();
+}
+
 void SyncthingTest::whatBothRecordedApartIsInBothAfterAMerge()
 {
-    m_window = std::make_unique<HostWindow>(CatalogueFile::save(logbook()).document);
     HostWindow &window = *m_window;
-    QVERIFY(QDir().mkdir(there()));
-    m_first = std::make_unique<Syncthing>();
-    m_second = std::make_unique<Syncthing>();
-    m_first->start(window.path(), *m_second);
-    m_second->start(there(), *m_first);
-    TRY(m_first->isConnected() && m_second->isConnected());
-    TRY(bytesThere() == window.bytes());
-
     m_second->cut();
     flyThere(15);
     QTest::qWait(1100); // of two changes the later one keeps its name
@@ -87,14 +107,7 @@ void SyncthingTest::whatBothRecordedApartIsInBothAfterAMerge()
     window.settle();
     QVERIFY(CatalogueFile::load(window.bytes()).catalogue.locations.contains(u"Beach"_s));
     join();
-    TRY(window.button(u"Merge…"_s));
-    QTimer::singleShot(0, &window.window(), [] {
-        auto *dialog = qobject_cast<MergeDialog *>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        dialog->accept();
-    });
-    window.press(u"Merge…"_s);
-    window.settle();
+    mergeInTheWindow();
     QCOMPARE(conflicts(window.path()), QStringList());
     QCOMPARE(discharges(window.bytes()), 3);
     QVERIFY(window.logbook().catalogue()->locations.contains(u"Beach"_s));
@@ -129,10 +142,49 @@ void SyncthingTest::whatBothRecordedApartIsInBothAfterAMerge()
     QVERIFY(!window.button(u"Merge…"_s));
 }
 
+void SyncthingTest::whatArrivesIsTakenOverByTheOpenWindow()
+{
+    HostWindow &window = *m_window;
+    flyThere(15);
+    TRY(!window.taken().isEmpty());
+    QCOMPARE(window.taken(), u"Another program has changed the logbook: 1 flight and 1 discharge more. It "
+                             "is on show now."_s);
+    TRY(window.logbook().catalogue()->batteries.at(0).discharges.constLast().isMeasured);
+    QCOMPARE(window.bytes(), bytesThere());
+    QCOMPARE(window.care().heldByWindow(), CatalogueFile::loadAndSave(bytesThere()).document);
+    QVERIFY(!window.button(u"Merge…"_s));
+    window.addLocation(u"Slope"_s); // on top of it
+    window.settle();
+    TRY(CatalogueFile::load(bytesThere()).catalogue.locations.contains(u"Slope"_s));
+    QCOMPARE(bytesThere(), window.bytes());
+    QCOMPARE(discharges(bytesThere()), 3);
+
+    m_second->cut();
+    flyThere(16);
+    QTest::qWait(1100); // of two changes the later one keeps its name
+    window.addLocation(u"Beach"_s);
+    window.settle();
+    join();
+    mergeInTheWindow();
+    QCOMPARE(conflicts(window.path()), QStringList());
+    TRY(bytesThere() == window.bytes() && conflicts(there()).isEmpty());
+    const Catalogue both = CatalogueFile::load(bytesThere()).catalogue;
+    QCOMPARE(both.batteries.at(0).discharges.size(), 4);
+    QCOMPARE(both.batteries.at(0).cycles, 12U);
+    QVERIFY(both.locations.contains(u"Slope"_s) && both.locations.contains(u"Beach"_s));
+    QVERIFY(window.logbook().catalogue()->batteries.at(0).discharges.constLast().isMeasured);
+    QCOMPARE(window.loss(), QString());
+    QCOMPARE(window.others(), QString());
+    QVERIFY(window.gui().isEnabled());
+}
+
 void SyncthingTest::cleanup()
 {
     if (QTest::currentTestFailed() && m_first && m_second)
         qInfo().noquote() << m_first->log() << "\n--- and the other one ---\n" << m_second->log();
+    m_second.reset();
+    m_first.reset();
+    m_window.reset();
 }
 
 QTEST_MAIN(SyncthingTest)
