@@ -98,23 +98,23 @@
     <name>BatteryHealth</name>
     <message numerus="yes">
         <source>Capacity: about %1 mAh of %2, from %Ln flights, half of them within %3 mAh of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Capacity: about %1 mAh of %2, from %Ln flight, half of them within %3 mAh of that.</numerusform>
+            <numerusform>Capacity: about %1 mAh of %2, from %Ln flights, half of them within %3 mAh of that.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Capacity: about %1 mAh, from %Ln flights, half of them within %2 mAh of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Capacity: about %1 mAh, from %Ln flight, half of them within %2 mAh of that.</numerusform>
+            <numerusform>Capacity: about %1 mAh, from %Ln flights, half of them within %2 mAh of that.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>Internal resistance: about %1 mΩ, from %Ln flights, half of them within %2 mΩ of that.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Internal resistance: about %1 mΩ, from %Ln flight, half of them within %2 mΩ of that.</numerusform>
+            <numerusform>Internal resistance: about %1 mΩ, from %Ln flights, half of them within %2 mΩ of that.</numerusform>
         </translation>
     </message>
 </context>
@@ -122,37 +122,37 @@
     <name>Difference</name>
     <message numerus="yes">
         <source>%n flights</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n flight</numerusform>
+            <numerusform>%n flights</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n discharges</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n discharge</numerusform>
+            <numerusform>%n discharges</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n batteries</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n battery</numerusform>
+            <numerusform>%n batteries</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n models</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n model</numerusform>
+            <numerusform>%n models</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%n locations</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n location</numerusform>
+            <numerusform>%n locations</numerusform>
         </translation>
     </message>
 </context>
@@ -180,9 +180,9 @@
     <name>Host::CardWatch</name>
     <message numerus="yes">
         <source>The card “%1” holds %n radio logs that are not imported yet.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>The card “%1” holds %n radio log that is not imported yet.</numerusform>
+            <numerusform>The card “%1” holds %n radio logs that are not imported yet.</numerusform>
         </translation>
     </message>
 </context>
@@ -190,9 +190,9 @@
     <name>Host::ColumnsDialog</name>
     <message numerus="yes">
         <source>“%1” and %n more logs have columns that are not known.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>“%1” and %n more log have columns that are not known.</numerusform>
+            <numerusform>“%1” and %n more logs have columns that are not known.</numerusform>
         </translation>
     </message>
 </context>
@@ -200,9 +200,9 @@
     <name>Host::ConflictOffer</name>
     <message numerus="yes">
         <source>There are %n such versions.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>There is %n such version.</numerusform>
+            <numerusform>There are %n such versions.</numerusform>
         </translation>
     </message>
 </context>
