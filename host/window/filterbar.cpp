@@ -45,6 +45,8 @@ void FilterBar::retranslate()
         chooser->setAccessibleName(name);
         chooser->setToolTip(name);
         chooser->setItemText(0, all);
+        chooser->setMinimumContentsLength(
+            qMax(chooser->minimumContentsLength(), static_cast<int>(all.size())));
     };
     nameChooser(m_model, tr("Only flights of the model"), tr("All models"));
     nameChooser(m_battery, tr("Only flights with the battery"), tr("All batteries"));
