@@ -5,6 +5,7 @@
 #include "host/app/console.h"
 #include "host/app/opening.h"
 #include "host/safety/instanceserver.h"
+#include "host/window/assistance.h"
 #include "host/window/mainwindow.h"
 #include "host/window/questions.h"
 
@@ -128,6 +129,7 @@ bool mustMakeDemo(const CommandLine &commandLine)
 
 int start(const CommandLine &commandLine, Questions &questions)
 {
+    installAssistance(); // before there is any widget
     const bool drawsOnly = !commandLine.screenshot.isEmpty();
     const Demo demo = commandLine.resetDemo ? Demo::Reset : commandLine.demo ? Demo::Make : Demo::None;
     Opening opening(StorageFolder(commandLine.storagePath), questions);

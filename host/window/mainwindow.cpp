@@ -3,7 +3,6 @@
 
 #include "gui/voltbokgui.h"
 #include "host/safety/folderlock.h"
-#include "host/window/accessiblechoosers.h"
 #include "host/window/logbookpages.h"
 #include "host/window/messagebar.h"
 #include "host/window/openlogbook.h"
@@ -90,7 +89,6 @@ MainWindow::MainWindow(Questions &questions, QWidget *parent)
     // The desktop's, where it has one; dialogs take that of the application.
     QGuiApplication::setWindowIcon(QIcon::fromTheme(u"org.voltbok.Voltbok"_s, ownIcon()));
     setAcceptDrops(true);
-    installAccessibleChoosers();
     buildMenus();
     connectLogbook();
     connect(m_messages, &MessageBar::told, this, &MainWindow::told);

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "host/window/accessiblechoosers.h"
+#include "host/window/assistance.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QComboBox>
 #include <QItemSelectionModel>
+#include <QRadioButton>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
@@ -12,7 +13,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 
-/** Takes over what was selected in the list without having become current, which keys and pointer never do. */
+/** Takes over what was selected in the list without having become current, which keys and pointer never do.
+ */
 void takeSelected(QComboBox &chooser)
 {
     const QItemSelectionModel &selection = *chooser.view()->selectionModel();
@@ -44,23 +46,43 @@ void prepare(QComboBox &chooser)
     showChosen(chooser);
     QObject::connect(&chooser, &QComboBox::currentIndexChanged, list, [&chooser] { showChosen(chooser); });
     // Later: what keys and the pointer select becomes current right after it.
-    QObject::connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, &chooser, [&chooser] {
-        QTimer::singleShot(0, &chooser, [&chooser] { takeSelected(chooser); });
+    QObject::connect(list->selectionModel(), &QItemSelectionModel::selectionChanged, &chooser,
+                     [&chooser] { QTimer::singleShot(0, &chooser, [&chooser] { takeSelected(chooser); }); });
+}
+
+/** Clicks what was toggled alone; a click on what is checked changes nothing and tells everybody. */
+void prepare(QRadioButton &button)
+{
+    auto *click = new QTimer(&button);
+    click->setSingleShot(true);
+    QObject::connect(click, &QTimer::timeout, &button, &QAbstractButton::click);
+    QObject::connect(&button, &QAbstractButton::toggled, click, [click](bool checked) {
+        if (checked)
+            click->start(0);
     });
+    QObject::connect(&button, &QAbstractButton::clicked, click, &QTimer::stop);
+}
+
+/** Later: the list of a box must not be made in the middle of a question about the box. */
+template <typename Widget>
+void prepareLater(Widget *widget)
+{
+    QTimer::singleShot(0, widget, [widget] { prepare(*widget); });
 }
 
 /** Makes nothing itself: Qt's own interfaces do. */
 QAccessibleInterface *prepareWhenAsked(const QString &className, QObject *object)
 {
-    auto *chooser = className == u"QComboBox"_s ? qobject_cast<QComboBox *>(object) : nullptr;
-    if (chooser) // later: its list must not be made in the middle of a question about the box
-        QTimer::singleShot(0, chooser, [chooser] { prepare(*chooser); });
+    if (className == u"QComboBox"_s)
+        prepareLater(static_cast<QComboBox *>(object));
+    else if (className == u"QRadioButton"_s)
+        prepareLater(static_cast<QRadioButton *>(object));
     return nullptr;
 }
 
 } // namespace
 
-void installAccessibleChoosers()
+void installAssistance()
 {
     QAccessible::installFactory(prepareWhenAsked);
 }
