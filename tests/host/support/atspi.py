@@ -86,6 +86,7 @@ class Program:
         import pyatspi  # not before there is a screen: it connects to the bus at once
 
         self.atspi = pyatspi
+        pyatspi.Atspi.set_timeout(3000, 3000)  # milliseconds; what opens a dialog takes as long
         self.process = process
         self.root = wait_for("the program among the accessible ones", self.look_up)
         self.root.setCacheMask(pyatspi.Atspi.Cache.NONE)  # nobody listens to what would keep a cache up to date
@@ -217,12 +218,10 @@ class Program:
         field.currentValue = value
         wait_for(f"{value} in “{name}”", lambda: field.currentValue == value)
 
-    def focused(self):
-        """The object that has the focus."""
-        for item in self.items():
-            if self.atspi.STATE_FOCUSED in self.states(item):
-                return item
-        return None
+    def has_focus(self, role, name):
+        return any(self.atspi.STATE_FOCUSED in self.states(item) and item.getRoleName() == role and
+                   any(re.fullmatch(name, said) for said in (item.name, *self.labels(item)))
+                   for item in self.items())
 
     def command(self, menu, entry):
         """Gives a command of the menu bar."""
@@ -230,3 +229,34 @@ class Program:
             if re.fullmatch(entry, item.name):
                 return self.act(item, "Press")
         raise Failure(f"the menu “{menu}” has no “{entry}”")
+
+
+class Keyboard:
+    """Keys alone; the program is only looked at for where they go."""
+
+    def __init__(self, program):
+        self.program = program
+
+    @staticmethod
+    def press(*keys):
+        subprocess.run(["xdotool", "key", "--clearmodifiers", *keys], check=True)
+
+    @staticmethod
+    def type(text):
+        subprocess.run(["xdotool", "type", text], check=True)
+
+    def go_to(self, role, name):
+        """Tab leads there from wherever one is."""
+        for _ in range(60):
+            if self.program.has_focus(role, name):
+                return
+            self.press("Tab")
+        raise Failure(f"Tab does not lead to the {role} “{name}”")
+
+    def expect(self, role, name):
+        wait_for(f"the focus on the {role} “{name}”", lambda: self.program.has_focus(role, name))
+
+    def fill(self, role, name, text):
+        self.go_to(role, name)
+        self.press("ctrl+a")
+        self.type(text)
