@@ -5,6 +5,7 @@
 #include "host/app/display.h"
 #include "host/app/endsignals.h"
 #include "host/app/startup.h"
+#include "host/preferences/languages.h"
 #include "host/safety/storagefolder.h"
 #include "host/window/questions.h"
 
@@ -49,6 +50,8 @@ int runCommand(char **argv, const Invocation &invocation)
     qInstallMessageHandler(dropMessage);
     int argc = 1; // Qt's own options are about windows
     const QApplication application(argc, argv);
+    Languages languages;
+    languages.speak(u"en"_s); // what scripts read is the same everywhere
     return commandNamed(invocation.command)->run(invocation);
 }
 

@@ -4,9 +4,11 @@
 # source tree. Everything is said on standard error, so that standard output belongs to the program.
 
 build_packages=(g++ cmake ninja-build qt6-base-dev libqt6opengl6-dev qt6-charts-dev qt6-svg-dev
+    qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
     libxlsxwriter-dev libgsl-dev) # the last line is for optional parts: workbooks, fits to radio logs
-test_packages=(qt6-tools-dev qt6-l10n-tools xvfb openbox xdotool adwaita-qt6 qt6ct python3 python3-jsonschema gnumeric
-    poppler-utils qpdf locales shellcheck at-spi2-core dbus-daemon python3-pyatspi)
+test_packages=(xvfb openbox xdotool adwaita-qt6 qt6ct python3 python3-jsonschema gnumeric
+    poppler-utils qpdf locales shellcheck rsync ed vim-tiny syncthing
+    at-spi2-core dbus-daemon python3-pyatspi)
 check_packages=(clang clang-tidy clazy libbenchmark-dev libclang-rt-dev doxygen) # what CI adds
 test_preset=${VOLTBOK_PRESET-dev} # CI asks for "check", in which warnings are errors
 
@@ -40,11 +42,11 @@ install_packages() {
 }
 
 name_packages() {
-    say "Voltbok needs a C++17 compiler, CMake 3.21, Ninja and Qt 6.4 with Charts and SVG (for the tests, Linguist too);"
+    say "Voltbok needs a C++17 compiler, CMake 3.21, Ninja and Qt 6.4 with Charts, SVG and Linguist;"
     say "libxlsxwriter (workbooks) and GSL (fits to radio logs) are optional. Try:"
-    say "  Fedora:        dnf install gcc-c++ cmake ninja-build qt6-qtbase-devel qt6-qtcharts-devel qt6-qtsvg-devel qt6-qttools-devel"
-    say "  Arch:          pacman -S --needed base-devel cmake ninja qt6-base qt6-charts qt6-svg qt6-tools"
-    say "  openSUSE:      zypper install gcc-c++ cmake ninja qt6-base-devel qt6-charts-devel qt6-svg-devel qt6-tools-devel"
+    say "  Fedora:        dnf install gcc-c++ cmake ninja-build qt6-qtbase-devel qt6-qtcharts-devel qt6-qtsvg-devel qt6-qttools-devel qt6-qttranslations"
+    say "  Arch:          pacman -S --needed base-devel cmake ninja qt6-base qt6-charts qt6-svg qt6-tools qt6-translations"
+    say "  openSUSE:      zypper install gcc-c++ cmake ninja qt6-base-devel qt6-charts-devel qt6-svg-devel qt6-tools-devel qt6-translations"
     say "  macOS (brew):  brew install cmake ninja qt"
 }
 

@@ -23,10 +23,10 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("Opening", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Opening)
+};
 
 /** The first of what would be lost, and how much more there is. */
 QString firstFew(const QStringList &losses)
@@ -34,8 +34,7 @@ QString firstFew(const QStringList &losses)
     constexpr qsizetype Few = 3;
     const QString first = losses.first(qMin(Few, losses.size())).join(u", ");
     const qsizetype more = losses.size() - Few;
-    return more <= 0 ? first
-                     : tr(QT_TRANSLATE_NOOP("Opening", "%1 and %2 more")).arg(first, QString::number(more));
+    return more <= 0 ? first : Text::tr("%1 and %n more", nullptr, static_cast<int>(more)).arg(first);
 }
 
 } // namespace
@@ -102,8 +101,7 @@ Opening::Status Opening::takeOver(const FolderLock::Refusal &refusal, bool raise
     Console::complain(refusal.problem);
     Question question;
     question.text = refusal.problem;
-    question.answers = QStringList{tr(QT_TRANSLATE_NOOP("Opening", "Quit")),
-                                   tr(QT_TRANSLATE_NOOP("Opening", "Take the Logbook Over"))};
+    question.answers = QStringList{Text::tr("Quit"), Text::tr("Take the Logbook Over")};
     if (m_questions.ask(question).button == 0)
         return EXIT_FAILURE;
     const QString problem = m_lock->breakAndTake(m_folder).problem;
@@ -114,18 +112,16 @@ QString Opening::describe(const FileState &state) const
 {
     switch (state.kind) {
     case FileState::Missing:
-        return tr(QT_TRANSLATE_NOOP("Opening",
-                                    "The logbook file “%1” is missing, but earlier versions of it are "
-                                    "there. Nothing was changed. Restore one of them."))
+        return Text::tr("The logbook file “%1” is missing, but earlier versions of it are "
+                        "there. Nothing was changed. Restore one of them.")
             .arg(m_folder.dataFile());
     case FileState::Damaged:
-        return tr(QT_TRANSLATE_NOOP("Opening", "The logbook file “%1” is damaged: %2. Nothing was changed. "
-                                               "Restore one of its copies, or start with an empty logbook."))
+        return Text::tr("The logbook file “%1” is damaged: %2. Nothing was changed. "
+                        "Restore one of its copies, or start with an empty logbook.")
             .arg(m_folder.dataFile(), state.problem);
     default:
-        return tr(QT_TRANSLATE_NOOP("Opening",
-                                    "The logbook file “%1” cannot be read: %2. Nothing was changed. "
-                                    "Put the right file in its place, or choose another folder."))
+        return Text::tr("The logbook file “%1” cannot be read: %2. Nothing was changed. "
+                        "Put the right file in its place, or choose another folder.")
             .arg(m_folder.dataFile(), state.problem);
     }
 }
@@ -138,17 +134,16 @@ Opening::Status Opening::recover(const FileState &state)
     if (!document)
         return EXIT_FAILURE;
     if (!WholeFile::isWhole(*document)) // another program has been at it since it was offered
-        return refuse(tr(QT_TRANSLATE_NOOP(
-            "Opening", "The version that you chose cannot be read any more. Nothing was changed. Start the "
-                       "program again, and choose another one.")));
+        return refuse(
+            Text::tr("The version that you chose cannot be read any more. Nothing was changed. Start the "
+                     "program again, and choose another one."));
     Backups::keepNewestWhole(m_folder); // a copy made before a damage is never thinned out
     QString aside;
     const QString reason = Recovery::replace(m_folder, *document, QDateTime::currentDateTimeUtc(), &aside);
     if (reason.isEmpty())
         return std::nullopt;
-    return refuse(tr(QT_TRANSLATE_NOOP(
-                         "Opening", "Nothing could be put in the place of “%1”: %2. All is as it was. Free "
-                                    "some space, and start the program again."))
+    return refuse(Text::tr("Nothing could be put in the place of “%1”: %2. All is as it was. Free "
+                           "some space, and start the program again.")
                       .arg(m_folder.dataFile(), reason));
 }
 
@@ -159,9 +154,8 @@ QString Opening::keepWhatWouldBeLost(const FileState &state)
         return QString();
     const CatalogueFile::Saved saved = CatalogueFile::loadAndSave(state.bytes);
     if (!saved.problem.isEmpty())
-        return tr(QT_TRANSLATE_NOOP(
-                      "Opening", "The logbook file “%1” cannot be checked before it is opened: %2. Nothing "
-                                 "was changed. Free some space, or see that the program can write in “%3”."))
+        return Text::tr("The logbook file “%1” cannot be checked before it is opened: %2. Nothing "
+                        "was changed. Free some space, or see that the program can write in “%3”.")
             .arg(m_folder.dataFile(), saved.problem, QDir::tempPath());
     const QStringList lost = losses(state.bytes, saved.document);
     if (lost.isEmpty())
@@ -170,17 +164,13 @@ QString Opening::keepWhatWouldBeLost(const FileState &state)
     const QString reason =
         Recovery::keepAside(m_folder, state.bytes, QDateTime::currentDateTimeUtc(), &aside);
     if (!reason.isEmpty())
-        return tr(QT_TRANSLATE_NOOP(
-                      "Opening",
-                      "The logbook file “%1” holds what this version of Voltbok would drop when it saves, "
-                      "and no copy of it can be put aside: %2. Nothing was changed. Free some space, and "
-                      "start the program again."))
+        return Text::tr("The logbook file “%1” holds what this version of Voltbok would drop when it saves, "
+                        "and no copy of it can be put aside: %2. Nothing was changed. Free some space, and "
+                        "start the program again.")
             .arg(m_folder.dataFile(), reason);
-    m_lossesMessage =
-        tr(QT_TRANSLATE_NOOP("Opening",
-                             "The logbook file holds what this version of Voltbok does not understand, and "
-                             "drops when it saves: %1. The file as it is now is kept as “%2”."))
-            .arg(firstFew(lost), aside);
+    m_lossesMessage = Text::tr("The logbook file holds what this version of Voltbok does not understand, and "
+                               "drops when it saves: %1. The file as it is now is kept as “%2”.")
+                          .arg(firstFew(lost), aside);
     return QString();
 }
 

@@ -4,6 +4,7 @@
 #include "host/app/commandline.h"
 #include "host/app/console.h"
 #include "host/app/opening.h"
+#include "host/preferences/languages.h"
 #include "host/safety/instanceserver.h"
 #include "host/window/assistance.h"
 #include "host/window/mainwindow.h"
@@ -23,10 +24,10 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("Startup", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Startup)
+};
 
 /** Whether a file is there that is no picture, such as the logbook itself. */
 bool isOtherFile(const QString &path)
@@ -41,9 +42,9 @@ class Program final : public QObject
     Q_DISABLE_COPY_MOVE(Program)
 
 public:
-    explicit Program(Questions &questions)
+    Program(Questions &questions, Languages &languages)
         : m_questions(questions)
-        , m_window(questions)
+        , m_window(questions, &languages)
     {
         connect(&m_window, &MainWindow::told, &Console::complain);
         connect(&m_window, &MainWindow::folderRequested, this, &Program::openInstead);
@@ -65,9 +66,9 @@ private:
         if (!opened.lossesMessage.isEmpty())
             m_window.tell(u"losses"_s, opened.lossesMessage);
         if (opened.isNew && wasNamed)
-            m_window.tell(u"new"_s,
-                          tr(QT_TRANSLATE_NOOP("Startup", "A new logbook begins in “%1”: there was none."))
-                              .arg(opened.folder.path()));
+            m_window.tell(
+                u"new"_s,
+                Text::tr("A new logbook begins in “%1”: there was none.").arg(opened.folder.path()));
     }
 
     /** Where that does not work, or the user has enough of it, the folder before stays open. */
@@ -81,8 +82,8 @@ private:
 
     bool isReady(Opening &opening)
     {
-        const std::unique_ptr<Progress> progress = m_questions.progress(
-            tr(QT_TRANSLATE_NOOP("Startup", "The logbook is checked…")), Opening::CheckSteps);
+        const std::unique_ptr<Progress> progress =
+            m_questions.progress(Text::tr("The logbook is checked…"), Opening::CheckSteps);
         return !opening.prepareFile([&progress] { return progress->step(); });
     }
 
@@ -106,16 +107,14 @@ int draw(Opening &opening, const CommandLine &commandLine)
         return opening.refuse(opening.describe(state));
     const QString path = commandLine.screenshot;
     if (isOtherFile(path))
-        return opening.refuse(
-            tr(QT_TRANSLATE_NOOP("Startup", "The picture “%1” was not written: there is a file of that name, "
-                                            "and it is no picture. Choose another name."))
-                .arg(path));
+        return opening.refuse(Text::tr("The picture “%1” was not written: there is a file of that name, "
+                                       "and it is no picture. Choose another name.")
+                                  .arg(path));
     QImageWriter writer(path, "png");
     if (writer.write(MainWindow::picture(folder, commandLine.page).toImage()))
         return EXIT_SUCCESS;
-    return opening.refuse(
-        tr(QT_TRANSLATE_NOOP("Startup", "The picture “%1” cannot be written: %2. Choose another name."))
-            .arg(path, writer.errorString()));
+    return opening.refuse(Text::tr("The picture “%1” cannot be written: %2. Choose another name.")
+                              .arg(path, writer.errorString()));
 }
 
 bool mustMakeDemo(const CommandLine &commandLine)
@@ -130,6 +129,8 @@ bool mustMakeDemo(const CommandLine &commandLine)
 int start(const CommandLine &commandLine, Questions &questions)
 {
     installAssistance(); // before there is any widget
+    Languages languages;
+    languages.speakChosen();
     const bool drawsOnly = !commandLine.screenshot.isEmpty();
     const Demo demo = commandLine.resetDemo ? Demo::Reset : commandLine.demo ? Demo::Make : Demo::None;
     Opening opening(StorageFolder(commandLine.storagePath), questions);
@@ -141,7 +142,7 @@ int start(const CommandLine &commandLine, Questions &questions)
         return draw(opening, commandLine);
     if (const Opening::Status ended = opening.prepareFile())
         return *ended;
-    return Program(questions).run(opening.opened(), commandLine);
+    return Program(questions, languages).run(opening.opened(), commandLine);
 }
 
 } // namespace Host

@@ -8,10 +8,10 @@
 namespace Host {
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("Changes", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Changes)
+};
 
 /** The records of one kind that only one of two states has, or that the two have differently. */
 template <typename Record>
@@ -42,27 +42,24 @@ struct Difference
 QString batteryChange(const Battery &before, const Battery &after)
 {
     if (before.name != after.name)
-        return tr(QT_TRANSLATE_NOOP("Changes", "Battery %1 renamed")).arg(before.name);
+        return Text::tr("Battery %1 renamed").arg(before.name);
     if (before.charged != after.charged)
-        return (after.charged ? tr(QT_TRANSLATE_NOOP("Changes", "Charged %1"))
-                              : tr(QT_TRANSLATE_NOOP("Changes", "Discharged %1")))
-            .arg(after.name);
-    return tr(QT_TRANSLATE_NOOP("Changes", "Battery %1 edited")).arg(after.name);
+        return (after.charged ? Text::tr("Charged %1") : Text::tr("Discharged %1")).arg(after.name);
+    return Text::tr("Battery %1 edited").arg(after.name);
 }
 
 QString modelChange(const Model &before, const Model &after)
 {
     if (before.name != after.name)
-        return tr(QT_TRANSLATE_NOOP("Changes", "Model %1 renamed")).arg(before.name);
+        return Text::tr("Model %1 renamed").arg(before.name);
     if (before.batteries != after.batteries)
-        return tr(QT_TRANSLATE_NOOP("Changes", "Batteries of %1 changed")).arg(after.name);
+        return Text::tr("Batteries of %1 changed").arg(after.name);
     if (before.log.size() < after.log.size())
-        return tr(QT_TRANSLATE_NOOP("Changes", "Flight of %1 recorded")).arg(after.name);
+        return Text::tr("Flight of %1 recorded").arg(after.name);
     if (before.log != after.log)
-        return before.log.size() > after.log.size()
-                   ? tr(QT_TRANSLATE_NOOP("Changes", "Flight of %1 deleted")).arg(after.name)
-                   : tr(QT_TRANSLATE_NOOP("Changes", "Flight of %1 edited")).arg(after.name);
-    return tr(QT_TRANSLATE_NOOP("Changes", "Model %1 edited")).arg(after.name);
+        return before.log.size() > after.log.size() ? Text::tr("Flight of %1 deleted").arg(after.name)
+                                                    : Text::tr("Flight of %1 edited").arg(after.name);
+    return Text::tr("Model %1 edited").arg(after.name);
 }
 
 } // namespace
@@ -77,19 +74,18 @@ QString changeName(const Catalogue &before, const Catalogue &after)
     if (models.isOneChanged() && batteries.isEmpty())
         return modelChange(models.removed.constFirst(), models.added.constFirst());
     if (batteries.removed.isEmpty() && batteries.added.size() == 1)
-        return tr(QT_TRANSLATE_NOOP("Changes", "Battery %1 added")).arg(batteries.added.constFirst().name);
+        return Text::tr("Battery %1 added").arg(batteries.added.constFirst().name);
     if (batteries.added.isEmpty() && batteries.removed.size() == 1)
-        return tr(QT_TRANSLATE_NOOP("Changes", "Battery %1 deleted"))
-            .arg(batteries.removed.constFirst().name);
+        return Text::tr("Battery %1 deleted").arg(batteries.removed.constFirst().name);
     if (models.removed.isEmpty() && models.added.size() == 1)
-        return tr(QT_TRANSLATE_NOOP("Changes", "Model %1 added")).arg(models.added.constFirst().name);
+        return Text::tr("Model %1 added").arg(models.added.constFirst().name);
     if (models.added.isEmpty() && models.removed.size() == 1)
-        return tr(QT_TRANSLATE_NOOP("Changes", "Model %1 deleted")).arg(models.removed.constFirst().name);
+        return Text::tr("Model %1 deleted").arg(models.removed.constFirst().name);
     if (locations.removed.isEmpty() && locations.added.size() == 1)
-        return tr(QT_TRANSLATE_NOOP("Changes", "Location %1 added")).arg(locations.added.constFirst());
+        return Text::tr("Location %1 added").arg(locations.added.constFirst());
     if (locations.added.isEmpty() && locations.removed.size() == 1)
-        return tr(QT_TRANSLATE_NOOP("Changes", "Location %1 deleted")).arg(locations.removed.constFirst());
-    return tr(QT_TRANSLATE_NOOP("Changes", "Change of the logbook"));
+        return Text::tr("Location %1 deleted").arg(locations.removed.constFirst());
+    return Text::tr("Change of the logbook");
 }
 
 } // namespace Host

@@ -23,10 +23,10 @@ constexpr int Version = 1;
 constexpr int MillisecondsOfASecond = 1000;
 constexpr qint64 SecondsOfADay = 86'400;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("MeasuredFile", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(MeasuredFile)
+};
 
 // A time of the file is what the clock showed, in whatever time zone it is read: no QDateTime is asked.
 QString momentText(qint64 moment)
@@ -227,10 +227,10 @@ MeasuredFile::Loaded MeasuredFile::load(const QByteArray &bytes)
     const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     Reader reader(document.object());
     if (!document.isObject() || reader.text(u"format"_s) != "voltbok-measured"_L1)
-        return {{}, tr(QT_TRANSLATE_NOOP("MeasuredFile", "it is damaged")), false};
+        return {{}, Text::tr("it is damaged"), false};
     const QJsonValue version = reader.take(u"version"_s);
     if (version.toInt() > Version)
-        return {{}, tr(QT_TRANSLATE_NOOP("MeasuredFile", "a later version of Voltbok wrote it")), true};
+        return {{}, Text::tr("a later version of Voltbok wrote it"), true};
     Loaded loaded;
     const QJsonArray discharges = reader.take(u"discharges"_s).toArray();
     for (const auto &value : discharges) {

@@ -99,5 +99,11 @@ void mark(Catalogue &catalogue, const Measured &measured);
  */
 Measured followed(const Measured &measured, const Catalogue &before, const Catalogue &after);
 
+/**
+ * What of these values, which belong to the logbook now, also belongs to another version of it: the entries
+ * of discharges that say the same there. A log of which something does not fit is not known any more.
+ */
+Measured fitting(const Measured &measured, const Catalogue &now, const Catalogue &other);
+
 } // namespace MeasuredFile
 } // namespace Host

@@ -51,6 +51,8 @@ std::optional<qint64> clockOffset(const QList<ImportedLog> &logs, const Catalogu
     int most = std::max(LeastFlights - 1, 2 * present - 1); // chance may match some, too
     for (int halves = 1; halves <= MostHalves; ++halves) {  // the smallest that explains as much as any
         for (const int sign : {1, -1}) {
+            if (options.goOn && !options.goOn())
+                return std::nullopt;
             const qint64 offset = qint64(sign) * halves * HalfAnHour * Second;
             const auto [near, all] = matchesAt(offset);
             if (near <= most || 2 * near <= all)

@@ -24,14 +24,14 @@ namespace {
 
 constexpr qsizetype PieceSize = qsizetype(256) * 1024;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("LogReading", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(LogReading)
+};
 
 QString sentence(const QString &reason)
 {
-    return tr(QT_TRANSLATE_NOOP("LogReading", "It cannot be read: %1.")).arg(reason);
+    return Text::tr("It cannot be read: %1.").arg(reason);
 }
 
 /** Logs whose bytes have been read already, by their SHA-256. */
@@ -99,15 +99,14 @@ RadioLog logOf(const Measured &measured, const KnownLog &known)
     return log;
 }
 
-std::optional<ColumnMapping> chosenColumns(const QString &header, const Measured &measured,
-                                           const LogReading::Options &options)
+/** The columns that the user chose now and earlier. */
+QMap<QString, ColumnMapping> chosenColumns(const Measured &measured, const LogReading::Options &options)
 {
-    if (options.mappings.contains(header))
-        return options.mappings.value(header);
-    if (!measured.columns.contains(header))
-        return std::nullopt;
-    const MeasuredColumns columns = measured.columns.value(header);
-    return ColumnMapping{columns.consumed, columns.current, columns.volts};
+    QMap<QString, ColumnMapping> chosen;
+    for (auto earlier = measured.columns.cbegin(); earlier != measured.columns.cend(); ++earlier)
+        chosen.insert(earlier.key(), {earlier->consumed, earlier->current, earlier->volts});
+    chosen.insert(options.mappings);
+    return chosen;
 }
 
 ImportedLog refused(const QString &path, const QString &reason)
@@ -126,14 +125,14 @@ ImportedLog readOne(const QString &path, const Measured &measured, const Earlier
     if (!info.exists())
         return refused(path, sentence(WholeFile::clause(qt_error_string(ENOENT))));
     if (!info.isFile()) // nothing else is opened: a pipe would be waited for
-        return refused(path, tr(QT_TRANSLATE_NOOP("LogReading", "It is not a regular file.")));
+        return refused(path, Text::tr("It is not a regular file."));
     QFile file(path);
     if (!file.open(QFile::ReadOnly))
         return refused(path, sentence(WholeFile::clause(file.errorString())));
     const Prints prints = printsOf(file, earlier, options);
     if (prints.whole.isEmpty())
         return refused(path, options.goOn && !options.goOn()
-                                 ? tr(QT_TRANSLATE_NOOP("LogReading", "The reading was cancelled."))
+                                 ? Text::tr("The reading was cancelled.")
                                  : sentence(WholeFile::clause(file.errorString())));
     ImportedLog result{path, prints.whole, false, {}, {}};
     if (const KnownLog *known = measured.logOf(prints.whole)) {
@@ -145,21 +144,18 @@ ImportedLog readOne(const QString &path, const Measured &measured, const Earlier
     ReadOptions reading;
     reading.sha256 = prints.whole;
     reading.knownBytes = prints.knownBytes;
+    reading.mappings = chosenColumns(measured, options);
     if (options.goOn)
         reading.goOn = [&](qint64) { return options.goOn(); };
     result.log = readRadioLog(file, path, reading);
-    if (const auto columns = chosenColumns(result.log.headerKey, measured, options);
-        columns && result.log.status == LogStatus::Read) {
-        reading.mapping = *columns;
-        result.log = readRadioLog(file, path, reading);
-    }
     return result;
 }
 
 } // namespace
 
-QStringList LogReading::paths(const QStringList &given)
+QStringList LogReading::paths(const QStringList &given, const Options &options)
 {
+    const auto goesOn = [&options] { return !options.goOn || options.goOn(); };
     QStringList files;
     for (const QString &path : given) {
         if (!QFileInfo(path).isDir()) {
@@ -168,7 +164,7 @@ QStringList LogReading::paths(const QStringList &given)
         }
         QStringList below;
         QDirIterator entries(path, {u"*.csv"_s}, QDir::Files, QDirIterator::Subdirectories);
-        while (entries.hasNext())
+        while (goesOn() && entries.hasNext())
             below.append(entries.next());
         below.sort();
         files += below;
@@ -185,9 +181,11 @@ QList<ImportedLog> LogReading::read(const QStringList &paths, const Measured &me
     // The shorter ones first: one that has grown goes on behind what it was.
     QList<qsizetype> order(paths.size());
     std::iota(order.begin(), order.end(), 0);
-    std::stable_sort(order.begin(), order.end(), [&](qsizetype left, qsizetype right) {
-        return QFileInfo(paths.at(left)).size() < QFileInfo(paths.at(right)).size();
-    });
+    QList<qint64> sizes;
+    for (const QString &path : paths)
+        sizes.append(options.goOn && !options.goOn() ? 0 : QFileInfo(path).size());
+    std::stable_sort(order.begin(), order.end(),
+                     [&](qsizetype left, qsizetype right) { return sizes.at(left) < sizes.at(right); });
     QList<ImportedLog> logs(paths.size());
     for (const qsizetype i : std::as_const(order)) {
         logs[i] = readOne(paths.at(i), measured, earlier, options);
@@ -197,6 +195,16 @@ QList<ImportedLog> LogReading::read(const QStringList &paths, const Measured &me
             earlier.insert(logs.at(i).sha256, logs.at(i).log.bytes);
     }
     return logs;
+}
+
+void LogReading::remember(Measured &measured, const QMap<QString, ColumnMapping> &mappings)
+{
+    for (auto chosen = mappings.cbegin(); chosen != mappings.cend(); ++chosen) {
+        MeasuredColumns &columns = measured.columns[chosen.key()];
+        columns.consumed = chosen->consumed;
+        columns.current = chosen->current;
+        columns.volts = chosen->volts;
+    }
 }
 
 } // namespace Host

@@ -35,14 +35,20 @@ struct Options
     QMap<QString, ColumnMapping> mappings;
 };
 
-/** The files that are meant: a folder stands for the .csv files below it, in the order of their names. */
-QStringList paths(const QStringList &given);
+/**
+ * The files that are meant: a folder stands for the .csv files below it, in the order of their names. Those
+ * that were found so far where the looking was ended.
+ */
+QStringList paths(const QStringList &given, const Options &options = {});
 
 /**
  * Reads files in the order in which they are given. Which of two is read whole, where one begins with the
  * other's bytes, does not depend on that order.
  */
 QList<ImportedLog> read(const QStringList &paths, const Measured &measured, const Options &options = {});
+
+/** Remembers the columns that the user chose. */
+void remember(Measured &measured, const QMap<QString, ColumnMapping> &mappings);
 
 } // namespace LogReading
 } // namespace Host

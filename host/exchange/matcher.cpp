@@ -42,17 +42,43 @@ bool Matcher::saysTheSame(const ImportedDischarge &discharge, const Flight &flig
            found.current == discharge.current.value_or(found.current);
 }
 
-QList<Matcher::Pair> Matcher::pairsOf(const ImportedDischarge &discharge, qsizetype index) const
+const std::vector<Matcher::TimedFlight> &Matcher::logOf(qsizetype model)
+{
+    const auto known = m_logs.constFind(model);
+    if (known != m_logs.cend())
+        return *known;
+    std::vector<TimedFlight> &sorted = m_logs[model];
+    const QList<Flight> &log = m_catalogue.models.at(model).log;
+    for (qsizetype i = 0; i < log.size(); ++i)
+        sorted.emplace_back(momentOf(log.at(i).time), i);
+    std::sort(sorted.begin(), sorted.end());
+    return sorted;
+}
+
+/** In the order of the log. */
+QList<qsizetype> Matcher::flightsBetween(qsizetype model, qint64 from, qint64 to)
+{
+    QList<qsizetype> flights;
+    const std::vector<TimedFlight> &log = logOf(model);
+    auto flight = std::lower_bound(log.cbegin(), log.cend(), TimedFlight(from, 0));
+    for (; flight != log.cend() && flight->first <= to; ++flight)
+        flights.append(flight->second);
+    std::sort(flights.begin(), flights.end());
+    return flights;
+}
+
+QList<Matcher::Pair> Matcher::pairsOf(const ImportedDischarge &discharge, qsizetype index)
 {
     QList<Pair> pairs;
     const qsizetype model = indexOfName(m_catalogue.models, discharge.model);
-    const QList<Flight> log = model < 0 ? QList<Flight>() : m_catalogue.models.at(model).log;
+    if (model < 0)
+        return pairs;
+    const QList<Flight> &log = m_catalogue.models.at(model).log;
     const qint64 start = discharge.whole.start / Second;
     const qint64 end = endOf(discharge);
-    for (qsizetype i = 0; i < log.size(); ++i) {
+    const QList<qsizetype> near = flightsBetween(model, start - BeforeStart, end + AfterEnd);
+    for (const qsizetype i : near) {
         const qint64 moment = momentOf(log.at(i).time);
-        if (moment == NoMoment || moment < start - BeforeStart || moment > end + AfterEnd)
-            continue;
         Pair pair{std::max<qint64>({start - moment, moment - end, 0}), moment, i, index, {}, {}};
         const QList<DischargePlace> places = m_moments.firstDischargesAt(moment);
         const auto at = [this](const DischargePlace &place) -> const Discharge & {

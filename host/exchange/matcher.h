@@ -3,10 +3,13 @@
 
 #include "host/exchange/matching.h"
 
+#include <QHash>
 #include <QSet>
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
+#include <vector>
 
 namespace Host {
 
@@ -61,9 +64,14 @@ private:
         }
     };
 
+    /** A time, and where the flight of it stands in its model's log. */
+    using TimedFlight = std::pair<qint64, qsizetype>;
+
     bool isDecided(ImportedDischarge &discharge) const;
     bool goesOn(ImportedDischarge &discharge) const;
-    QList<Pair> pairsOf(const ImportedDischarge &discharge, qsizetype index) const;
+    const std::vector<TimedFlight> &logOf(qsizetype model);
+    QList<qsizetype> flightsBetween(qsizetype model, qint64 from, qint64 to);
+    QList<Pair> pairsOf(const ImportedDischarge &discharge, qsizetype index);
     bool saysTheSame(const ImportedDischarge &discharge, const Flight &flight, const Discharge &found) const;
     void fill(ImportedDischarge &discharge, const Pair &pair) const;
     void leave(ImportedDischarge &discharge, const QList<Pair> &pairs);
@@ -74,7 +82,8 @@ private:
     const Measured &m_measured;
     const MatchOptions &m_options;
     const Moments m_moments;
-    QSet<qsizetype> m_proposed; ///< batteries
+    QHash<qsizetype, std::vector<TimedFlight>> m_logs; ///< of the models that were asked for, sorted
+    QSet<qsizetype> m_proposed;                        ///< batteries
 };
 
 } // namespace Host

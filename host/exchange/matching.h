@@ -10,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 namespace Host {
@@ -89,6 +90,8 @@ struct MatchOptions
     QString battery; ///< for what is new; without it one is proposed
     bool replacesEntered = false;
     qint64 clockOffset = 0; ///< ms to add to what the radio's clock showed
+    /** Asked now and then by clockOffset(), which takes long; false ends it without a result. */
+    std::function<bool()> goOn;
 };
 
 /**

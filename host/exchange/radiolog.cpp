@@ -20,6 +20,7 @@ namespace Host {
 namespace {
 
 constexpr int RowsThatTellTheirWidth = 100;
+constexpr int MostSamples = 5;
 constexpr qsizetype MostSessions = 10'000; // a day has 1,440 gaps of a minute
 constexpr qint64 BytesBetweenQuestions = qint64(1024) * 1024;
 
@@ -43,6 +44,7 @@ private:
     void readRow(const LogLines &lines);
     void read(LogColumns::Kind kind, const LogLines &lines, std::optional<double> &value) const;
     bool isSilent(const LogSample &sample, QByteArrayView line);
+    void keepSample(const LogLines &lines);
     void endSession();
     void judge();
     void refuse(LogStatus status, const QString &reason);
@@ -121,10 +123,8 @@ void Reader::fitHeaderToRows()
         ++i;
     }
     m_log.headerKey = m_header.key();
-    if (!widths.isEmpty() && !widths.contains(m_header.count())) {
-        const auto most = std::max_element(widths.cbegin(), widths.cend());
-        m_header.joinTo(most.key());
-    }
+    if (!widths.isEmpty() && !widths.contains(m_header.count()))
+        m_header.joinTo(std::max_element(widths.cbegin(), widths.cend()).key());
     m_sensors = m_header.sensors();
     for (const qsizetype sensor : std::as_const(m_sensors))
         m_log.columns.append(m_header.name(sensor));
@@ -132,7 +132,8 @@ void Reader::fitHeaderToRows()
 
 void Reader::chooseColumns()
 {
-    m_columns.emplace(m_header, m_options.mapping);
+    const auto chosen = m_options.mappings.constFind(m_log.headerKey);
+    m_columns.emplace(m_header, chosen == m_options.mappings.cend() ? nullptr : &*chosen);
     m_log.needsMapping = m_columns->needsMapping();
     LogLines lines(m_device, m_headerEnd);
     while (!m_columns->isSettled() && lines.next() && goesOn(lines)) {
@@ -219,6 +220,17 @@ void Reader::readRow(const LogLines &lines)
     }
     m_builder.add(sample, lines.begin(), lines.end());
     ++m_log.rows;
+    keepSample(lines);
+}
+
+/** A few rows from all over the file. */
+void Reader::keepSample(const LogLines &lines)
+{
+    const qsizetype count = m_log.samples.size();
+    if (!m_log.needsMapping || count == MostSamples || lines.begin() < m_log.bytes / MostSamples * count)
+        return;
+    m_fields.split(lines.line(), m_header.count());
+    m_log.samples.append(m_fields.texts(m_sensors));
 }
 
 void Reader::read(LogColumns::Kind kind, const LogLines &lines, std::optional<double> &value) const

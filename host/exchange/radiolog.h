@@ -3,6 +3,7 @@
 
 #include <QDateTime>
 #include <QList>
+#include <QMap>
 #include <QString>
 #include <QStringList>
 
@@ -37,8 +38,7 @@ struct LogName
  * others. */
 std::optional<LogName> logName(const QString &fileName);
 
-/** Which columns a log is read by: names as in its header, "Curr(A)"; never positions. Empty: chosen by rule.
- */
+/** Which columns a log is read by: names as in its header, "Curr(A)"; never positions. Empty: by none. */
 struct ColumnMapping
 {
     QString consumed; ///< mAh
@@ -122,17 +122,20 @@ struct RadioLog
     QList<Session> sessions; ///< in the order of the file, each as a discharge of its own
     qint64 bytes = 0;        ///< length of the file
 
-    QStringList columns;   ///< names of its sensors, for a choice by the user
-    ColumnMapping mapping; ///< the columns it was read by; empty where there is none that says anything
-    QString headerKey;     ///< the same for all logs of the same header; a chosen mapping is remembered by it
-    bool needsMapping = false; ///< no column is known for the consumption or the current, but one may be it
+    QStringList columns;        ///< names of its sensors, for a choice by the user
+    QList<QStringList> samples; ///< a few rows of these, where such a choice is needed
+    ColumnMapping mapping;      ///< the columns it was read by; empty where there is none that says anything
+    QString headerKey; ///< the same for all logs of the same header; a chosen mapping is remembered by it
+    /** No column is known for the consumption or the current, but one may be it, and nobody has said which.
+     */
+    bool needsMapping = false;
 };
 
 struct ReadOptions
 {
-    int file = -1;         ///< copied into the sessions
-    QString sha256;        ///< as above
-    ColumnMapping mapping; ///< chosen by the user for this header
+    int file = -1;                         ///< copied into the sessions
+    QString sha256;                        ///< as above
+    QMap<QString, ColumnMapping> mappings; ///< chosen by the user, by the key of a header
     /**
      * The length of a known file whose bytes this one begins with: only rows that were not whole then are
      * read. RadioLog::rows counts these only.

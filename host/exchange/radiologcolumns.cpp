@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -27,9 +28,23 @@ bool isSame(const QString &left, const QString &right)
     return left.compare(right, Qt::CaseInsensitive) == 0;
 }
 
-double scaleOf(const QString &column)
+/** The units that are read, and what makes mAh, A and V of them; a column without one has the first. */
+const std::vector<std::pair<QString, double>> &unitsOf(LogColumns::Kind kind)
 {
-    return isSame(unitOf(column), u"mA"_s) ? 0.001 : 1;
+    using Units = std::vector<std::pair<QString, double>>;
+    static const std::array<Units, 3> units{Units{{u"mAh"_s, 1}, {u"Ah"_s, 1000}},
+                                            Units{{u"A"_s, 1}, {u"mA"_s, 0.001}},
+                                            Units{{u"V"_s, 1}, {u"mV"_s, 0.001}}};
+    return units.at(kind);
+}
+
+double scaleOf(LogColumns::Kind kind, const QString &column)
+{
+    for (const auto &[unit, scale] : unitsOf(kind)) {
+        if (isSame(unitOf(column), unit))
+            return scale;
+    }
+    return 1;
 }
 
 /** Whether a column bears a known name, milliamperes for amperes included. */
@@ -38,6 +53,12 @@ bool isNamed(const QString &column, const QString &known)
     const QString unit = unitOf(known);
     return isSame(labelOf(column), labelOf(known)) &&
            (isSame(unitOf(column), unit) || (unit == "A"_L1 && isSame(unitOf(column), u"mA"_s)));
+}
+
+/** What the receiver's own battery gave, never that of the motor. */
+bool isOfTheReceiver(const QString &column)
+{
+    return isSame(labelOf(column), u"BCur"_s);
 }
 
 /** The columns of this label whatever their unit: half of a pair. */
@@ -80,20 +101,39 @@ double LogColumn::value(const LogFields &fields) const
     return sum * scale;
 }
 
-LogColumns::LogColumns(const LogHeader &header, const ColumnMapping &chosen)
+LogColumns::LogColumns(const LogHeader &header, const ColumnMapping *chosen)
+{
+    for (const Kind kind : {Consumed, Current, Volts})
+        addKnown(header, kind);
+    m_needsMapping = !chosen && (isUnknown(header, Consumed) || isUnknown(header, Current));
+    addLastResorts(header);
+    if (chosen)
+        choose(header, *chosen);
+}
+
+/** Puts what the user chose before what the rule knows, which counts where the choice says nothing. */
+void LogColumns::choose(const LogHeader &header, const ColumnMapping &chosen)
 {
     const std::array names{chosen.consumed, chosen.current, chosen.volts};
     for (const Kind kind : {Consumed, Current, Volts}) {
-        for (qsizetype i = 2; i < header.count() && !names.at(kind).isEmpty(); ++i) {
+        const std::vector<LogColumn> known = std::exchange(m_candidates.at(kind), {});
+        if (names.at(kind).isEmpty())
+            continue;
+        for (qsizetype i = 2; i < header.count(); ++i) {
             if (header.name(i) == names.at(kind))
-                add(kind, {header.name(i), {i}, scaleOf(header.name(i))});
+                add(kind, {header.name(i), {i}, scaleOf(kind, header.name(i))});
         }
-        if (m_candidates.at(kind).empty())
-            addKnown(header, kind);
+        for (const LogColumn &column : known)
+            add(kind, column);
     }
-    m_needsMapping = (m_candidates[Consumed].empty() && hasUnknown(header, {u"mAh"_s, u"Ah"_s, QString()})) ||
-                     (m_candidates[Current].empty() && hasUnknown(header, {u"A"_s, u"mA"_s, QString()}));
-    addLastResorts(header);
+}
+
+bool LogColumns::mayBe(Kind kind, const QString &column)
+{
+    const auto &units = unitsOf(kind);
+    const QString unit = unitOf(column);
+    return unit.isEmpty() || std::any_of(units.begin(), units.end(),
+                                         [&unit](const auto &known) { return isSame(known.first, unit); });
 }
 
 void LogColumns::addKnown(const LogHeader &header, Kind kind)
@@ -106,12 +146,12 @@ void LogColumns::addKnown(const LogHeader &header, Kind kind)
             for (const std::vector<qsizetype> &half : {first, second})
                 parts.insert(parts.end(), half.begin(), half.begin() + (half.empty() ? 0 : 1));
             if (!parts.empty())
-                add(kind, {known, parts, scaleOf(header.name(parts.front()))});
+                add(kind, {known, parts, scaleOf(kind, header.name(parts.front()))});
             continue;
         }
         for (qsizetype i = 2; i < header.count(); ++i) {
             if (isNamed(header.name(i), known))
-                add(kind, {header.name(i), {i}, scaleOf(header.name(i))});
+                add(kind, {header.name(i), {i}, scaleOf(kind, header.name(i))});
         }
     }
 }
@@ -121,7 +161,7 @@ void LogColumns::addLastResorts(const LogHeader &header)
 {
     for (qsizetype i = 2; i < header.count(); ++i) {
         const QString &name = header.name(i);
-        if (isSame(unitOf(name), u"mAh"_s) && !isSame(labelOf(name), u"BCur"_s))
+        if (isSame(unitOf(name), u"mAh"_s) && !isOfTheReceiver(name))
             add(Consumed, {name, {i}, 1, true});
         if (isSame(name, u"RxBt(V)"_s))
             add(Volts, {name, {i}, 1, true});
@@ -130,23 +170,20 @@ void LogColumns::addLastResorts(const LogHeader &header)
 
 void LogColumns::add(Kind kind, LogColumn column)
 {
-    std::vector<LogColumn> &candidates = m_candidates.at(kind);
-    const bool isThere = std::any_of(candidates.begin(), candidates.end(), [&column](const LogColumn &other) {
-        return other.parts == column.parts;
-    });
-    if (!isThere)
-        candidates.push_back(std::move(column));
+    m_candidates.at(kind).push_back(std::move(column));
 }
 
-/** Whether a column may be one of these units; one without a unit only where none has one. */
-bool LogColumns::hasUnknown(const LogHeader &header, const QStringList &units) const
+/** Whether no column is known, but one may be it; one without a unit only where none has one. */
+bool LogColumns::isUnknown(const LogHeader &header, Kind kind) const
 {
+    if (!m_candidates.at(kind).empty())
+        return false;
     const QList<qsizetype> sensors = header.sensors();
     const bool haveUnits = std::any_of(sensors.begin(), sensors.end(),
                                        [&header](qsizetype i) { return !unitOf(header.name(i)).isEmpty(); });
     return std::any_of(sensors.begin(), sensors.end(), [&](qsizetype i) {
-        const QString unit = unitOf(header.name(i));
-        return units.contains(unit, Qt::CaseInsensitive) && (!unit.isEmpty() || !haveUnits);
+        const QString &name = header.name(i);
+        return mayBe(kind, name) && !(haveUnits && unitOf(name).isEmpty()) && !isOfTheReceiver(name);
     });
 }
 

@@ -38,7 +38,11 @@ class LogColumns
 public:
     enum Kind { Consumed, Current, Volts };
 
-    LogColumns(const LogHeader &header, const ColumnMapping &chosen);
+    /** @param chosen by the user; null: the rule chooses. */
+    LogColumns(const LogHeader &header, const ColumnMapping *chosen);
+
+    /** Whether the unit of a column fits, or whether it has none. */
+    static bool mayBe(Kind kind, const QString &column);
 
     void watch(const LogFields &fields);
     bool isSettled() const;                   ///< nothing that follows changes the choice
@@ -48,10 +52,11 @@ public:
     bool needsMapping() const { return m_needsMapping; }
 
 private:
+    void choose(const LogHeader &header, const ColumnMapping &chosen);
     void addKnown(const LogHeader &header, Kind kind);
     void addLastResorts(const LogHeader &header);
     void add(Kind kind, LogColumn column);
-    bool hasUnknown(const LogHeader &header, const QStringList &units) const;
+    bool isUnknown(const LogHeader &header, Kind kind) const;
 
     std::array<std::vector<LogColumn>, 3> m_candidates;
     bool m_needsMapping = false;

@@ -73,6 +73,14 @@ int fraction(QByteArrayView field)
 
 } // namespace
 
+QStringList LogFields::texts(const QList<qsizetype> &indexes) const
+{
+    QStringList texts;
+    for (const qsizetype index : indexes)
+        texts.append(QString::fromUtf8(at(index)));
+    return texts;
+}
+
 void LogFields::split(QByteArrayView line, qsizetype wanted)
 {
     if (const auto size = static_cast<size_t>(wanted); m_fields.size() < size)

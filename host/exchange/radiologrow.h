@@ -36,6 +36,7 @@ public:
             --end;
         return QByteArrayView(begin, end);
     }
+    QStringList texts(const QList<qsizetype> &indexes) const;
 
 private:
     bool splitQuoted(QByteArrayView line, qsizetype wanted);

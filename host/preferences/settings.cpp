@@ -13,6 +13,7 @@ const QString PanelSizes = u"panel/sizes"_s;
 const QString PanelOpen = u"panel/open"_s;
 const QString Tables = u"tables/"_s;
 const QString RecentFolders = u"folders/recent"_s;
+const QString Language = u"language"_s;
 const QString Limits = u"limits/"_s;
 constexpr qsizetype MostRecentFolders = 8;
 
@@ -74,6 +75,16 @@ void Settings::addRecentFolder(const QString &path)
     folders.removeAll(path);
     folders.prepend(path);
     m_store.setValue(RecentFolders, folders.first(std::min(folders.size(), MostRecentFolders)));
+}
+
+QString Settings::language() const
+{
+    return m_store.value(Language).toString();
+}
+
+void Settings::setLanguage(const QString &code)
+{
+    m_store.setValue(Language, code);
 }
 
 int Settings::limit(const QString &name, int otherwise) const

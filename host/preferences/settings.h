@@ -35,6 +35,10 @@ public:
     /** Puts a folder at the beginning. */
     void addRecentFolder(const QString &path);
 
+    /** The code of the language; empty where it is the system's. */
+    QString language() const;
+    void setLanguage(const QString &code);
+
     /** A limit that the user may change, by its name. */
     int limit(const QString &name, int otherwise) const;
     void setLimit(const QString &name, int value);

@@ -37,9 +37,23 @@ void BackupKeeper::look()
     m_worker->ask();
 }
 
+void BackupKeeper::look(const QByteArray &document)
+{
+    QMetaObject::invokeMethod(
+        m_worker, [worker = m_worker, document] { worker->keep(document, false); }, Qt::QueuedConnection);
+}
+
 void BackupKeeper::lookAndWait()
 {
     QMetaObject::invokeMethod(m_worker, &CopyWorker::work, Qt::BlockingQueuedConnection);
+}
+
+bool BackupKeeper::keep(const QByteArray &document, bool forGood)
+{
+    bool isKept = false;
+    QMetaObject::invokeMethod(
+        m_worker, [&] { isKept = m_worker->keep(document, forGood); }, Qt::BlockingQueuedConnection);
+    return isKept;
 }
 
 } // namespace Host

@@ -34,8 +34,17 @@ public:
 
     /** The data file may have changed: returns at once; the file is read, checked and copied elsewhere. */
     void look();
-    /** The same, and waits until the copy is made: before something overwrites the file. */
+    /** The same for a version that the data file may hold no more by then. */
+    void look(const QByteArray &document);
+    /** Looks, and waits until the copy is made: before something overwrites the file. */
     void lookAndWait();
+    /**
+     * Waits until one of the copies is this whole logbook, which the data file may hold no more.
+     *
+     * @param forGood that copy is never thinned out.
+     * @return whether there is such a copy; where not, failed() says why.
+     */
+    bool keep(const QByteArray &document, bool forGood = false);
 
 Q_SIGNALS:
     /** No copy could be made; told once for each reason, until a copy is made again. A whole sentence. */

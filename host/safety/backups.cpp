@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -95,12 +96,19 @@ QString keep(const StorageFolder &folder, Copy copy)
     copy.kept = true;
     const QString name = Backups::fileName(copy);
     const QDir backups = folder.backups();
+    const QString beside = backups.filePath(Backups::measuredName(before));
+    const QString besideKept = backups.filePath(Backups::measuredName(name));
+    // Whenever this is cut off, the copy has its measured values.
+    const WholeFile::Reading values =
+        QFileInfo(beside).isSymLink() ? WholeFile::Reading() : WholeFile::read(beside);
+    const bool isCopied =
+        !values.bytes.isEmpty() &&
+        WholeFile::write(besideKept, values.bytes, WholeFile::permissionsOf(beside)).isEmpty();
     QFile file(backups.filePath(before));
-    if (!file.rename(backups.filePath(name)))
-        return WholeFile::clause(file.errorString());
-    QFile::rename(backups.filePath(Backups::measuredName(before)),
-                  backups.filePath(Backups::measuredName(name)));
-    return QString();
+    const bool isRenamed = file.rename(backups.filePath(name));
+    if (isCopied)
+        QFile::remove(isRenamed ? beside : besideKept);
+    return isRenamed ? QString() : WholeFile::clause(file.errorString());
 }
 
 /** Copies the measured values, too; those that can be read. */
@@ -146,6 +154,13 @@ std::optional<QList<Copy>> Backups::listed(const StorageFolder &folder)
         copies.append(*std::move(copy));
     }
     std::sort(copies.begin(), copies.end(), isNewer);
+    QHash<QString, int> called;
+    for (const Copy &copy : std::as_const(copies))
+        ++called[copy.stamp];
+    for (Copy &copy : copies) {
+        if (called.value(copy.stamp) > 1)
+            copy.stamp = longStamp(copy.name);
+    }
     return copies;
 }
 
@@ -203,6 +218,19 @@ QString Backups::add(const StorageFolder &folder, const QByteArray &document, co
     if (problem.isEmpty())
         addMeasured(folder, fileName(copy), permissions);
     return problem;
+}
+
+QString Backups::ensure(const StorageFolder &folder, const QByteArray &document, const QDateTime &now,
+                        bool forGood)
+{
+    const QList<Copy> copies = list(folder);
+    for (const Copy &copy : copies) {
+        if (copy.size == document.size() &&
+            WholeFile::read(folder.backups().filePath(copy.name)).bytes == document)
+            return forGood ? keep(folder, copy) : QString();
+    }
+    const QString problem = add(folder, document, now);
+    return problem.isEmpty() && forGood ? keepNewestWhole(folder) : problem;
 }
 
 void Backups::removeLeftovers(const StorageFolder &folder)

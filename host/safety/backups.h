@@ -21,6 +21,7 @@ struct Copy
     QDateTime time;     ///< when it was made, by the clock of that moment; in UTC
     qint64 size = 0;    ///< in bytes
     bool kept = false;  ///< never thinned out
+    QString stamp;      ///< what the copy is called; unique among those of a list
     qint64 beside = 0;  ///< bytes of the measured values that are kept with it; 0 where there are none
 };
 
@@ -31,6 +32,9 @@ struct Copy
  * A name carries a running number, "kept" for a copy that is never thinned out, and the time in UTC:
  * "voltbok-00000042-20261121-195112-123Z.xml", "voltbok-00000042-kept-20261121-195112-123Z.xml". Names
  * without a number and a Z, "voltbok-20261121-205112-123.xml", are local times of earlier versions.
+ *
+ * A copy is called by its time, "20261121-195112-123Z". Where a clock that was set back has given several the
+ * same, each is called by all that its name says, "00000042-20261121-195112-123Z".
  */
 namespace Backups {
 
@@ -42,6 +46,9 @@ std::optional<Copy> parse(const QString &fileName);
 
 /** The file name that says what @p copy holds; its own name does not count. */
 QString fileName(const Copy &copy);
+
+/** What a copy is called by all that its file name says. */
+QString longStamp(const QString &copyName);
 
 /** The file that keeps the measured values of a copy: "voltbok-00000042-20261121-195112-123Z.json". */
 QString measuredName(const QString &copyName);
@@ -70,6 +77,16 @@ bool agreesWithClock(const QList<Copy> &newestFirst, const QDateTime &now);
 /** Deletes the copies that may go. */
 void thin(const StorageFolder &folder, const QDateTime &now);
 
+/** What a copy holds. */
+struct Held
+{
+    QByteArray document;
+    QByteArray beside; ///< the measured values that are kept with it; empty where there are none to be read
+    QString besideProblem; ///< why there are none to be read, a clause; empty where none are there
+    QString problem;       ///< why it is no whole logbook, a clause; empty when it is
+};
+Held held(const StorageFolder &folder, const Copy &copy);
+
 /** The newest copy that is a whole logbook, and its bytes where they are wanted. */
 std::optional<Copy> newestWhole(const StorageFolder &folder, QByteArray *bytes = nullptr);
 
@@ -85,6 +102,14 @@ QString keepNewestWhole(const StorageFolder &folder);
  * @return why there is no copy, a clause; empty when there is one.
  */
 QString add(const StorageFolder &folder, const QByteArray &document, const QDateTime &now);
+
+/**
+ * Sees to it that one of the copies, whichever, is this whole logbook.
+ *
+ * @param forGood that copy is never thinned out.
+ * @return why there is no such copy, a clause; empty when there is one.
+ */
+QString ensure(const StorageFolder &folder, const QByteArray &document, const QDateTime &now, bool forGood);
 
 /** Deletes what copies that were cut off while they were written left behind. Only for who has the lock. */
 void removeLeftovers(const StorageFolder &folder);

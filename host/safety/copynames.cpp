@@ -40,6 +40,7 @@ std::optional<Copy> Backups::parse(const QString &fileName)
         return std::nullopt;
     Copy copy;
     copy.name = fileName;
+    copy.stamp = match.captured(3) + u'-' + match.captured(4) + match.captured(5);
     copy.number = match.captured(1).toULongLong();
     copy.time = utc ? QDateTime(date, time, Qt::UTC) : fromLocal(date, time);
     copy.kept = !match.captured(2).isEmpty();
@@ -52,6 +53,11 @@ QString Backups::fileName(const Copy &copy)
     return u"voltbok-%1-%2%3-%4Z.xml"_s.arg(
         QString::number(copy.number).rightJustified(8, u'0'), copy.kept ? u"kept-"_s : QString(),
         time.date().toString(DateFormat), time.time().toString(TimeFormat));
+}
+
+QString Backups::longStamp(const QString &copyName)
+{
+    return copyName.chopped(4).sliced(8); // without "voltbok-" and ".xml"
 }
 
 QString Backups::measuredName(const QString &copyName)

@@ -100,6 +100,14 @@ void CopyWorker::work()
     copy(reading.bytes);
 }
 
+bool CopyWorker::keep(const QByteArray &document, bool forGood)
+{
+    const QString problem = Backups::ensure(m_folder, document, m_clock(), forGood);
+    if (!problem.isEmpty())
+        fail(problem);
+    return problem.isEmpty();
+}
+
 void CopyWorker::copy(const QByteArray &document)
 {
     const QDateTime now = m_clock();

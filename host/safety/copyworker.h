@@ -26,6 +26,8 @@ public:
     void ask();
     /** One round: the data file as it is now is checked, and copied if it is whole. */
     void work();
+    /** Makes sure of a copy of this document. @return whether there is one. */
+    bool keep(const QByteArray &document, bool forGood);
     /** Removes what earlier rounds that were cut off have left. */
     void cleanUp();
 

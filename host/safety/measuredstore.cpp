@@ -32,6 +32,14 @@ QString write(const StorageFolder &folder, const QByteArray &bytes)
     return WholeFile::write(folder.measuredFileTarget(), bytes, WholeFile::permissionsOf(folder.dataFile()));
 }
 
+void putBack(const StorageFolder &folder, const QByteArray &bytes)
+{
+    if (bytes.isEmpty())
+        QFile::remove(folder.measuredFileTarget());
+    else
+        write(folder, bytes);
+}
+
 } // namespace
 
 MeasuredStore::Stored MeasuredStore::load(const StorageFolder &folder)
@@ -76,8 +84,12 @@ QString MeasuredStore::put(const StorageFolder &folder, const QByteArray &bytes)
         if (!problem.isEmpty())
             return problem;
     }
-    if (!bytes.isEmpty())
-        return write(folder, bytes);
+    if (!bytes.isEmpty()) {
+        const QString problem = write(folder, bytes);
+        if (!problem.isEmpty() && WholeFile::read(folder.measuredFile()).bytes != before.bytes)
+            putBack(folder, before.bytes); // it was written, and cannot be read
+        return problem;
+    }
     QFile file(folder.measuredFileTarget());
     return !file.exists() || file.remove() ? QString() : WholeFile::clause(file.errorString());
 }

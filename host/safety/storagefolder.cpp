@@ -12,6 +12,8 @@ namespace Host {
 
 namespace {
 
+constexpr QStringView MergedForm = u"'voltbok-merged-'yyyyMMdd-HHmmss-zzz'Z.xml'";
+
 /** The file that a name stands for. */
 QString targetOf(const QString &path)
 {
@@ -107,6 +109,30 @@ QStringList StorageFolder::asides() const
     for (const QString &name : names)
         paths.append(folder.filePath(name));
     return paths;
+}
+
+QString StorageFolder::mergedVersion(const QDateTime &now) const
+{
+    return freeName(backups(), now, MergedForm);
+}
+
+QStringList StorageFolder::mergedVersions() const
+{
+    QStringList paths;
+    const QStringList names =
+        backups().entryList({u"voltbok-merged-*.xml"_s}, QDir::Files | QDir::NoSymLinks, QDir::Name);
+    for (const QString &name : names) {
+        if (timeOfMerged(name).isValid())
+            paths.append(backups().filePath(name));
+    }
+    return paths;
+}
+
+QDateTime StorageFolder::timeOfMerged(const QString &path)
+{
+    QDateTime time = QDateTime::fromString(QFileInfo(path).fileName(), MergedForm.toString());
+    time.setTimeSpec(Qt::UTC);
+    return time;
 }
 
 QString StorageFolder::problem() const

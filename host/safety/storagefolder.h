@@ -45,6 +45,14 @@ public:
     /** A name, not taken yet, for a data file that is put aside; it is never thinned out. */
     QString aside(const QDateTime &now) const;
 
+    /** A name, not taken yet, among the copies for another version of the logbook that was merged into this
+     * one. It is no copy of this logbook, and never thinned out. */
+    QString mergedVersion(const QDateTime &now) const;
+    /** Those that are there, the oldest first; absolute paths. */
+    QStringList mergedVersions() const;
+    /** When it was merged, by its name. */
+    static QDateTime timeOfMerged(const QString &path);
+
     /** Why this folder cannot hold a logbook, in a whole sentence; empty when it can. A folder that does not
      * exist yet is fine if it can be created. */
     QString problem() const;

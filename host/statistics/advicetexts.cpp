@@ -11,10 +11,10 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 
-QString tr(const char *text, int count = -1)
+struct Text
 {
-    return QCoreApplication::translate("Advice", text, nullptr, count);
-}
+    Q_DECLARE_TR_FUNCTIONS(Advice)
+};
 
 constexpr double Tiny = 1e-9; // what a share may be short of by the way that it is worked out
 
@@ -27,50 +27,48 @@ int toInt(qint64 days)
 
 QString AdviceTexts::storage(const QString &battery, qint64 days)
 {
-    return tr(QT_TRANSLATE_N_NOOP("Advice",
-                                  "Bring “%1” to storage charge: it has been charged, and not used, "
-                                  "for %n days."),
-              toInt(days))
+    return Text::tr("Bring “%1” to storage charge: it has been charged, and not used, "
+                    "for %n days.",
+                    nullptr, toInt(days))
         .arg(battery);
 }
 
 QString AdviceTexts::deep(const QString &battery, double share)
 {
-    return tr(QT_TRANSLATE_NOOP("Advice", "Land earlier with “%1”: one of its last discharges took %2 of its "
-                                          "capacity."))
+    return Text::tr("Land earlier with “%1”: one of its last discharges took %2 of its "
+                    "capacity.")
         .arg(battery, QLocale().toString(std::floor(share * 100.0 + Tiny), 'f', 0) + u" %"_s);
 }
 
 QString AdviceTexts::load(const QString &battery, double load, unsigned int rating)
 {
-    return tr(QT_TRANSLATE_NOOP("Advice", "Load “%1” less: one of its last discharges reached %2 C, and its "
-                                          "label allows %3 C."))
+    return Text::tr("Load “%1” less: one of its last discharges reached %2 C, and its "
+                    "label allows %3 C.")
         .arg(battery, QLocale().toString(load, 'f', 1), QLocale().toString(rating));
 }
 
 QString AdviceTexts::cold(const QString &battery, int degrees)
 {
-    return tr(QT_TRANSLATE_NOOP("Advice", "Warm “%1” before you fly: its last flight was at %2 °C."))
+    return Text::tr("Warm “%1” before you fly: its last flight was at %2 °C.")
         .arg(battery, QLocale().toString(degrees));
 }
 
 QString AdviceTexts::idle(const QString &battery, qint64 days)
 {
-    return tr(QT_TRANSLATE_N_NOOP("Advice", "Check the voltage of “%1”: it has not been used for %n days."),
-              toInt(days))
+    return Text::tr("Check the voltage of “%1”: it has not been used for %n days.", nullptr, toInt(days))
         .arg(battery);
 }
 
 QString AdviceTexts::age(const QString &battery, QDate purchase)
 {
-    return tr(QT_TRANSLATE_NOOP("Advice", "Watch how “%1” performs: it was bought on %2."))
+    return Text::tr("Watch how “%1” performs: it was bought on %2.")
         .arg(battery, QLocale().toString(purchase, QLocale::ShortFormat));
 }
 
 QString AdviceTexts::timer(const QString &battery, const QString &model, int seconds)
 {
-    return tr(QT_TRANSLATE_NOOP("Advice", "Set the timer of “%1” to %2 for “%3”: its flights on this battery "
-                                          "show how much it needs."))
+    return Text::tr("Set the timer of “%1” to %2 for “%3”: its flights on this battery "
+                    "show how much it needs.")
         .arg(model, minutes(seconds), battery);
 }
 

@@ -10,7 +10,6 @@
 namespace Host {
 namespace {
 
-constexpr size_t FewestFlights = 5;
 constexpr size_t MostFlights = 500; // of the newest ones: each is compared with each
 constexpr double Significance = 0.05;
 constexpr double SecondsOfAYear = 365.25 * 86'400;
@@ -37,14 +36,9 @@ std::vector<double> valuesOf(const std::vector<Point> &points)
     return values;
 }
 
-/** Half of the values lie no further from the median: one flight on a cold day does not widen it. */
-double spreadOf(const std::vector<double> &values, double median)
+double yearsBetween(const Point &one, const Point &other)
 {
-    std::vector<double> distances;
-    distances.reserve(values.size());
-    for (const double value : values)
-        distances.push_back(std::abs(value - median));
-    return medianOf(distances);
+    return static_cast<double>(other.moment - one.moment) / SecondsOfAYear;
 }
 
 /** The median of the slopes between all flights of different times, per year. */
@@ -54,8 +48,7 @@ double slopeOf(const std::vector<Point> &points)
     slopes.reserve(points.size() * points.size() / 2);
     for (size_t i = 0; i < points.size(); ++i) {
         for (size_t j = i + 1; j < points.size(); ++j) {
-            const auto years =
-                static_cast<double>(points.at(j).moment - points.at(i).moment) / SecondsOfAYear;
+            const double years = yearsBetween(points.at(i), points.at(j));
             if (years > 0)
                 slopes.push_back((points.at(j).value - points.at(i).value) / years);
         }
@@ -107,18 +100,15 @@ bool isTrend(const std::vector<Point> &points, bool isRising)
 
 std::optional<Trend> trendOf(std::vector<Point> points, bool isWorseWhenRising)
 {
-    if (points.size() < FewestFlights)
+    if (static_cast<qsizetype>(points.size()) < FewestFlights)
         return std::nullopt;
     std::stable_sort(points.begin(), points.end(),
                      [](const Point &left, const Point &right) { return left.moment < right.moment; });
-    Trend trend;
-    trend.flights = static_cast<int>(points.size());
-    const std::vector<double> all = valuesOf(points);
-    trend.median = medianOf(all);
-    trend.spread = spreadOf(all, trend.median);
     if (points.size() > MostFlights)
         points.erase(points.begin(), points.end() - static_cast<qsizetype>(MostFlights));
+    Trend trend{spreadOf(valuesOf(points))};
     trend.perYear = slopeOf(points);
+    trend.change = trend.perYear * yearsBetween(points.front(), points.back());
     trend.isAgeing = isTrend(points, isWorseWhenRising);
     return trend;
 }
@@ -138,8 +128,24 @@ std::vector<Point> pointsOf(const QList<Measurement> &measurements, std::optiona
 
 Health healthOf(const QList<Measurement> &measurements)
 {
-    return {trendOf(pointsOf(measurements, &Measurement::resistance), true),
-            trendOf(pointsOf(measurements, &Measurement::capacity), false)};
+    const std::vector<Point> resistances = pointsOf(measurements, &Measurement::resistance);
+    const std::vector<Point> capacities = pointsOf(measurements, &Measurement::capacity);
+    return {static_cast<int>(resistances.size()), static_cast<int>(capacities.size()),
+            trendOf(resistances, true), trendOf(capacities, false)};
+}
+
+/** The spread does not widen with one flight on a cold day. */
+Spread spreadOf(const std::vector<double> &values)
+{
+    if (values.empty())
+        return {};
+    Spread found{static_cast<int>(values.size()), medianOf(values)};
+    std::vector<double> distances;
+    distances.reserve(values.size());
+    for (const double value : values)
+        distances.push_back(std::abs(value - found.median));
+    found.spread = medianOf(distances);
+    return found;
 }
 
 } // namespace Host

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/statistics/history.h"
 
+#include "host/statistics/measuredfigures.h"
+
 #include <QHash>
 
 #include <algorithm>
@@ -24,15 +26,42 @@ bool isLower(const HistoryPoint &one, const HistoryPoint &other)
 
 std::optional<double> limitOf(const Battery &battery, Quantity quantity)
 {
-    if (battery.capacity == 0)
+    if (battery.capacity == 0 || quantity == Quantity::Resistance)
         return std::nullopt;
-    if (quantity == Quantity::CapacityUsed)
+    if (quantity == Quantity::CapacityUsed || quantity == Quantity::Capacity)
         return battery.capacity;
     if (battery.rating == 0)
         return std::nullopt;
     if (quantity == Quantity::Load)
         return battery.rating;
     return battery.rating * (battery.capacity / MilliampereHours);
+}
+
+void addDischarges(History &history, const Battery &battery, Quantity quantity)
+{
+    for (const Discharge &discharge : battery.discharges) {
+        const std::optional<double> value = valueOf(battery, discharge, quantity);
+        if (!value)
+            continue;
+        if (discharge.time.isValid())
+            history.points.append({discharge.time, *value, sourceOf(battery, discharge)});
+        else
+            ++history.withoutTime;
+    }
+}
+
+/** What the logs of a battery's flights tell of one of the two quantities that they alone know. */
+QList<HistoryPoint> pointsOfLogs(const Battery &battery, Quantity quantity, const Measured &measured)
+{
+    QList<HistoryPoint> points;
+    const QList<Measurement> measurements = measurementsOf(battery, measured);
+    for (const Measurement &measurement : measurements) {
+        const std::optional<double> value =
+            quantity == Quantity::Resistance ? measurement.resistance : measurement.capacity;
+        if (value && measurement.time.isValid())
+            points.append({measurement.time, *value, Source::Measured});
+    }
+    return points.size() < FewestFlights ? QList<HistoryPoint>() : points;
 }
 
 /** In which of so many equal parts of a span a value lies. */
@@ -43,8 +72,15 @@ int partOf(double value, double from, double to, int parts)
 
 } // namespace
 
+bool isOfLogs(Quantity quantity)
+{
+    return quantity == Quantity::Resistance || quantity == Quantity::Capacity;
+}
+
 std::optional<double> valueOf(const Battery &battery, const Discharge &discharge, Quantity quantity)
 {
+    if (isOfLogs(quantity))
+        return std::nullopt;
     if (quantity == Quantity::CapacityUsed)
         return discharge.discharged > 0 ? std::optional<double>(discharge.discharged) : std::nullopt;
     if (discharge.current == 0)
@@ -55,19 +91,14 @@ std::optional<double> valueOf(const Battery &battery, const Discharge &discharge
     return battery.capacity > 0 ? std::optional(amperes * MilliampereHours / battery.capacity) : std::nullopt;
 }
 
-History historyOf(const Battery &battery, Quantity quantity)
+History historyOf(const Battery &battery, Quantity quantity, const Measured &measured)
 {
     History history;
     history.limit = limitOf(battery, quantity);
-    for (const Discharge &discharge : battery.discharges) {
-        const std::optional<double> value = valueOf(battery, discharge, quantity);
-        if (!value)
-            continue;
-        if (discharge.time.isValid())
-            history.points.append({discharge.time, *value, sourceOf(battery, discharge)});
-        else
-            ++history.withoutTime;
-    }
+    if (isOfLogs(quantity))
+        history.points = pointsOfLogs(battery, quantity, measured);
+    else
+        addDischarges(history, battery, quantity);
     std::stable_sort(history.points.begin(), history.points.end(), isEarlier);
     return history;
 }

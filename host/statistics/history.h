@@ -2,6 +2,7 @@
 #pragma once
 
 #include "host/data/catalogue.h"
+#include "host/data/measured.h"
 #include "host/data/sources.h"
 
 #include <QDateTime>
@@ -16,7 +17,12 @@ enum class Quantity {
     CapacityUsed, ///< mAh
     Current,      ///< A, the highest
     Load,         ///< C: the highest current by the capacity
+    Resistance,   ///< mOhm, by a radio's log
+    Capacity,     ///< mAh, an estimate from a radio's log
 };
+
+/** Whether it is known of measured flights alone. */
+bool isOfLogs(Quantity quantity);
 
 /** A discharge with one figure of it. */
 struct HistoryPoint
@@ -34,9 +40,10 @@ struct History
     std::optional<double> limit; ///< what the battery permits, in the unit of the quantity
 };
 
-History historyOf(const Battery &battery, Quantity quantity);
+/** What radio logs tell of resistance and capacity is empty with fewer flights than make a trend. */
+History historyOf(const Battery &battery, Quantity quantity, const Measured &measured = {});
 
-/** The figure of one discharge; missing where it was not entered, or cannot be worked out. */
+/** The figure of one discharge; missing where it was not entered, cannot be worked out, or stands in logs. */
 std::optional<double> valueOf(const Battery &battery, const Discharge &discharge, Quantity quantity);
 
 /**

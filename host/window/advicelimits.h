@@ -13,7 +13,7 @@ struct LimitField
 {
     const char *name;    ///< in the settings
     const char *caption; ///< to be translated in the context "AdviceLimits"
-    const char *unit;    ///< the same; behind the number
+    const char *unit;    ///< the same, with plurals; behind the number
     int AdviceLimits::*value;
     int least;
     int most;

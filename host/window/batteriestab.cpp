@@ -3,6 +3,7 @@
 
 #include "host/window/batteriesmodel.h"
 #include "host/window/batteryplot.h"
+#include "host/window/healthview.h"
 #include "host/window/openlogbook.h"
 #include "host/window/tablecolumns.h"
 #include "host/window/tableprinting.h"
@@ -37,17 +38,22 @@ BatteriesTab::BatteriesTab(OpenLogbook &logbook, Questions &questions, QWidget *
     : PanelTab(parent)
     , m_logbook(logbook)
     , m_questions(questions)
-    , m_heading(
-          new QLabel(tr("There is no battery yet. Add your first one: press the menu button, then Edit.")))
+    , m_heading(new QLabel)
     , m_splitter(new QSplitter(Qt::Vertical))
     , m_table(new QTableView)
     , m_model(new BatteriesModel(this))
     , m_sorted(new QSortFilterProxyModel(this))
+    , m_health(new HealthView)
     , m_plot(new BatteryPlot(questions))
 {
     buildTable();
+    auto *chosen = new QWidget;
+    auto *ofChosen = new QVBoxLayout(chosen);
+    ofChosen->setContentsMargins(0, 0, 0, 0);
+    ofChosen->addWidget(m_health);
+    ofChosen->addWidget(m_plot, 1);
     m_splitter->addWidget(m_table);
-    m_splitter->addWidget(m_plot);
+    m_splitter->addWidget(chosen);
     m_splitter->setChildrenCollapsible(false);
     m_heading->setWordWrap(true);
     m_heading->setAlignment(Qt::AlignTop | Qt::AlignLeading);
@@ -55,6 +61,13 @@ BatteriesTab::BatteriesTab(OpenLogbook &logbook, Questions &questions, QWidget *
     layout->addWidget(m_heading);
     layout->addWidget(m_splitter, 1);
     connect(m_plot, &BatteryPlot::tablePrintRequested, this, &BatteriesTab::print);
+    retranslate();
+}
+
+void BatteriesTab::retranslate()
+{
+    m_heading->setText(tr("There is no battery yet. Add your first one: press the menu button, then Edit."));
+    m_table->setAccessibleName(tr("Batteries and their figures"));
 }
 
 void BatteriesTab::buildTable()
@@ -63,7 +76,6 @@ void BatteriesTab::buildTable()
     m_sorted->setSortRole(BatteriesModel::SortRole);
     m_sorted->setSortLocaleAware(true);
     m_table->setModel(m_sorted);
-    m_table->setAccessibleName(tr("Batteries and their figures"));
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setTabKeyNavigation(false);
@@ -127,7 +139,11 @@ int BatteriesTab::rowOf(const QString &name, int nth) const
 void BatteriesTab::showChosen()
 {
     const int row = chosenRow();
-    m_plot->setBattery(row < 0 ? std::nullopt : std::optional(m_catalogue->batteries.at(row)));
+    if (row < 0)
+        return m_plot->setBattery(std::nullopt);
+    const Battery &battery = m_catalogue->batteries.at(row);
+    m_health->setBattery(battery, m_logbook.measured());
+    m_plot->setBattery(battery, m_logbook.measured());
 }
 
 void BatteriesTab::print()

@@ -15,11 +15,12 @@ namespace Host {
 
 class BatteriesModel;
 class BatteryPlot;
+class HealthView;
 class OpenLogbook;
 class Questions;
 class TableColumns;
 
-/** The figures of each battery, and plots of the chosen one. */
+/** The figures of each battery; the health and plots of the chosen one. */
 class BatteriesTab final : public PanelTab
 {
     Q_OBJECT
@@ -32,6 +33,9 @@ public:
 
     /** Shows the first battery of this name. */
     void select(const QString &name);
+
+protected:
+    void retranslate() override;
 
 private:
     void buildTable();
@@ -50,6 +54,7 @@ private:
     TableColumns *m_columns = nullptr;
     BatteriesModel *m_model;
     QSortFilterProxyModel *m_sorted;
+    HealthView *m_health;
     BatteryPlot *m_plot;
 };
 

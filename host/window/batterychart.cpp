@@ -33,8 +33,8 @@ struct BatteryChart
 /** A value as it is entered: whole mAh, one decimal else. */
 QString valueText(double value, Quantity quantity)
 {
-    return u"%1 %2"_s.arg(QLocale().toString(value, 'f', quantity == Quantity::CapacityUsed ? 0 : 1),
-                          unitOf(quantity));
+    const bool isCharge = quantity == Quantity::CapacityUsed || quantity == Quantity::Capacity;
+    return u"%1 %2"_s.arg(QLocale().toString(value, 'f', isCharge ? 0 : 1), unitOf(quantity));
 }
 
 void setShape(QScatterSeries &series, Source source)
@@ -99,8 +99,9 @@ std::unique_ptr<QValueAxis> valueAxis(const History &history, Quantity quantity)
 
 QString limitName(Quantity quantity, double limit)
 {
-    const QString text = quantity == Quantity::CapacityUsed ? BatteryChart::tr("Capacity, %1")
-                                                            : BatteryChart::tr("Permitted by the rating, %1");
+    const bool isCharge = quantity == Quantity::CapacityUsed || quantity == Quantity::Capacity;
+    const QString text =
+        isCharge ? BatteryChart::tr("Capacity, %1") : BatteryChart::tr("Permitted by the rating, %1");
     return text.arg(valueText(limit, quantity));
 }
 
@@ -135,6 +136,10 @@ QString nameOf(Quantity quantity)
         return BatteryChart::tr("Maximum current");
     case Quantity::Load:
         return BatteryChart::tr("Highest load");
+    case Quantity::Resistance:
+        return BatteryChart::tr("Internal resistance");
+    case Quantity::Capacity:
+        return BatteryChart::tr("Measured capacity");
     }
     return QString();
 }
@@ -148,6 +153,10 @@ QString unitOf(Quantity quantity)
         return BatteryChart::tr("A");
     case Quantity::Load:
         return BatteryChart::tr("C");
+    case Quantity::Resistance:
+        return BatteryChart::tr("mΩ");
+    case Quantity::Capacity:
+        return BatteryChart::tr("mAh");
     }
     return QString();
 }

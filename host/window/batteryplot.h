@@ -2,6 +2,8 @@
 #pragma once
 
 #include "host/data/catalogue.h"
+#include "host/data/measured.h"
+#include "host/statistics/history.h"
 
 #include <QWidget>
 
@@ -31,18 +33,25 @@ public:
     explicit BatteryPlot(Questions &questions, QWidget *parent = nullptr);
 
     /** Shows a battery, or that none is chosen. */
-    void setBattery(const std::optional<Battery> &battery);
+    void setBattery(const std::optional<Battery> &battery, const Measured &measured = {});
 
 Q_SIGNALS:
     /** The user wants the table of the batteries on paper. */
     void tablePrintRequested();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void retranslate();
     void buildTable();
     void showChosen();
     QString obstacle() const;
+    QString nothingToPlot(Quantity quantity) const;
 
     std::optional<Battery> m_battery;
+    Measured m_measured;
+    QLabel *m_quantityLabel;
     QComboBox *m_quantity;
     QCheckBox *m_asTable;
     QStackedWidget *m_pages;

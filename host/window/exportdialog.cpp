@@ -106,7 +106,8 @@ void ExportDialog::buildFields()
     form->setRowWrapPolicy(QFormLayout::WrapLongRows);
     form->addRow(tr("&Format"), m_format);
     m_format->setAccessibleName(tr("Format"));
-    m_format->setMinimumContentsLength(26);
+    m_format->setSizeAdjustPolicy(QComboBox::AdjustToContents); // these names are read to their ends
+    m_format->setMinimumContentsLength(0);
     m_explanation->setWordWrap(true);
     m_explanation->setTextFormat(Qt::PlainText);
     form->addRow(m_explanation);
@@ -116,7 +117,8 @@ void ExportDialog::buildFields()
     choices->addWidget(m_models, 1);
     auto *preview = new QVBoxLayout;
     columns->addLayout(preview, 2);
-    auto *caption = new QLabel(tr("&Preview: the first %1 rows of each table").arg(ExportPreview::MostRows));
+    auto *caption =
+        new QLabel(tr("&Preview: the first %n rows of each table", nullptr, ExportPreview::MostRows));
     caption->setBuddy(m_preview);
     preview->addWidget(caption);
     preview->addWidget(m_preview, 1);

@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QCollator>
 #include <QDateEdit>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QScopedValueRollback>
@@ -22,26 +23,49 @@ FilterBar::FilterBar(QWidget *parent)
 {
     auto *flow = new FlowLayout(this);
     flow->setContentsMargins(0, 0, 0, 0);
-    m_text->setPlaceholderText(tr("Search flights"));
-    m_text->setAccessibleName(tr("Search flights"));
     m_text->setClearButtonEnabled(true);
     m_text->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
     flow->addWidget(m_text);
     connect(m_text, &QLineEdit::textChanged, this, &FilterBar::changed);
-    m_model = addChooser(tr("Only flights of the model"), tr("All models"));
-    m_battery = addChooser(tr("Only flights with the battery"), tr("All batteries"));
-    m_location = addChooser(tr("Only flights at the location"), tr("All locations"));
-    addDate(tr("From"), m_isFrom, m_from);
-    addDate(tr("To"), m_isTo, m_to);
+    m_model = addChooser();
+    m_battery = addChooser();
+    m_location = addChooser();
+    addDate(m_isFrom, m_from);
+    addDate(m_isTo, m_to);
+    retranslate();
     m_from->setDate(QDate::currentDate().addMonths(-1));
     m_to->setDate(QDate::currentDate());
 }
 
-QComboBox *FilterBar::addChooser(const QString &name, const QString &all)
+void FilterBar::retranslate()
 {
-    QComboBox *chooser = FlightFields::chooser({all});
-    chooser->setAccessibleName(name);
-    chooser->setToolTip(name);
+    m_text->setPlaceholderText(tr("Search flights"));
+    m_text->setAccessibleName(tr("Search flights"));
+    const auto nameChooser = [](QComboBox *chooser, const QString &name, const QString &all) {
+        chooser->setAccessibleName(name);
+        chooser->setToolTip(name);
+        chooser->setItemText(0, all);
+    };
+    nameChooser(m_model, tr("Only flights of the model"), tr("All models"));
+    nameChooser(m_battery, tr("Only flights with the battery"), tr("All batteries"));
+    nameChooser(m_location, tr("Only flights at the location"), tr("All locations"));
+    m_isFrom->setText(tr("From"));
+    m_from->setAccessibleName(tr("From"));
+    m_isTo->setText(tr("To"));
+    m_to->setAccessibleName(tr("To"));
+}
+
+void FilterBar::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
+}
+
+/** The first entry stands for all of them. */
+QComboBox *FilterBar::addChooser()
+{
+    QComboBox *chooser = FlightFields::chooser({QString()});
     layout()->addWidget(chooser);
     connect(chooser, &QComboBox::currentIndexChanged, this, [this] {
         if (!m_offering)
@@ -51,14 +75,13 @@ QComboBox *FilterBar::addChooser(const QString &name, const QString &all)
 }
 
 /** A date that counts when its box is ticked. */
-void FilterBar::addDate(const QString &name, QCheckBox *&box, QDateEdit *&edit)
+void FilterBar::addDate(QCheckBox *&box, QDateEdit *&edit)
 {
     auto *pair = new QWidget;
     auto *row = new QHBoxLayout(pair);
     row->setContentsMargins(0, 0, 0, 0);
-    box = new QCheckBox(name);
+    box = new QCheckBox;
     edit = FlightFields::date();
-    edit->setAccessibleName(name);
     edit->setEnabled(false);
     row->addWidget(box);
     row->addWidget(edit);

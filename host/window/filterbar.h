@@ -30,9 +30,13 @@ public:
 Q_SIGNALS:
     void changed();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
-    QComboBox *addChooser(const QString &name, const QString &all);
-    void addDate(const QString &name, QCheckBox *&box, QDateEdit *&edit);
+    QComboBox *addChooser();
+    void addDate(QCheckBox *&box, QDateEdit *&edit);
+    void retranslate();
     void setOffer(QComboBox *chooser, QStringList names);
 
     QLineEdit *m_text;

@@ -47,8 +47,8 @@ QString applyFigures(Catalogue &catalogue, const FlightPlace &place, int column,
     const QList<DischargePlace> discharges = dischargesOf(catalogue, place);
     const QList<double> figures = figuresIn(value);
     if (figures.size() != discharges.size())
-        return Texts::tr("Enter a figure for each of the %1 batteries, with a semicolon between them.")
-            .arg(discharges.size());
+        return Texts::tr("Enter a figure for each of the %n batteries, with a semicolon between them.",
+                         nullptr, static_cast<int>(discharges.size()));
     Catalogue changed = catalogue;
     for (qsizetype i = 0; i < figures.size(); ++i) {
         const DischargePlace &there = discharges.at(i);

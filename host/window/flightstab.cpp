@@ -34,13 +34,14 @@ FlightsTab::FlightsTab(OpenLogbook &logbook, Questions &questions, QWidget *pare
     , m_table(new FlightsTable(m_flights, m_filter))
     , m_count(new QLabel)
     , m_buttons(new FlowLayout)
-    , m_add(addCommand(tr("&Add…"), &FlightsTab::addFlight))
-    , m_delete(addCommand(tr("&Delete"), &FlightsTab::deleteFlights))
-    , m_move(addCommand(tr("&Move…"), &FlightsTab::moveFlights))
-    , m_tidy(addCommand(tr("&Tidy Up…"), &FlightsTab::tidyUp))
-    , m_rename(addCommand(tr("&Rename…"), &FlightsTab::renameRequested))
+    , m_add(addCommand(&FlightsTab::addFlight))
+    , m_delete(addCommand(&FlightsTab::deleteFlights))
+    , m_move(addCommand(&FlightsTab::moveFlights))
+    , m_tidy(addCommand(&FlightsTab::tidyUp))
+    , m_rename(addCommand(&FlightsTab::renameRequested))
 {
     buildLayout();
+    retranslate();
     m_delete->setShortcut(QKeySequence::Delete);
     m_delete->setShortcutContext(Qt::WidgetShortcut); // in a field it deletes a character
     connect(&m_logbook, &OpenLogbook::possibilitiesChanged, this, &FlightsTab::updateCommands);
@@ -61,16 +62,28 @@ FlightsTab::~FlightsTab()
 }
 
 /** A command stands on a button and in the table's menu. */
-QAction *FlightsTab::addCommand(const QString &caption, void (FlightsTab::*run)())
+QAction *FlightsTab::addCommand(void (FlightsTab::*run)())
 {
-    auto *action = new QAction(caption, this);
+    auto *action = new QAction(this);
     connect(action, &QAction::triggered, this, run);
     m_table->addAction(action);
-    auto *button = new QPushButton(caption);
+    auto *button = new QPushButton;
     connect(button, &QPushButton::clicked, action, &QAction::trigger);
-    connect(action, &QAction::enabledChanged, button, &QWidget::setEnabled);
+    connect(action, &QAction::changed, button, [action, button] {
+        button->setText(action->text());
+        button->setEnabled(action->isEnabled());
+    });
     m_buttons->addWidget(button);
     return action;
+}
+
+void FlightsTab::retranslate()
+{
+    m_add->setText(tr("&Add…"));
+    m_delete->setText(tr("&Delete"));
+    m_move->setText(tr("&Move…"));
+    m_tidy->setText(tr("&Tidy Up…"));
+    m_rename->setText(tr("&Rename…"));
 }
 
 void FlightsTab::buildLayout()

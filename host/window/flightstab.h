@@ -33,8 +33,11 @@ Q_SIGNALS:
     /** The user wants to give something another name. */
     void renameRequested();
 
+protected:
+    void retranslate() override;
+
 private:
-    QAction *addCommand(const QString &caption, void (FlightsTab::*run)());
+    QAction *addCommand(void (FlightsTab::*run)());
     void buildLayout();
     void refreshWith(const QList<FlightPlace> &chosen);
     void updateCommands();

@@ -4,6 +4,7 @@
 #include "host/window/flightdelegate.h"
 #include "host/window/flightsfilter.h"
 
+#include <QEvent>
 #include <QHash>
 #include <QHeaderView>
 #include <QScrollBar>
@@ -37,6 +38,13 @@ FlightsTable::FlightsTable(FlightsModel &flights, FlightsFilter &filter, QWidget
     setSortingEnabled(true);
     sortByColumn(FlightsModel::Time, Qt::DescendingOrder);
     setColumnWidths();
+}
+
+void FlightsTable::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        setAccessibleName(tr("Flights"));
+    QTableView::changeEvent(event);
 }
 
 /** By what such a column usually holds: the contents of all rows would take too long to look at. */

@@ -33,6 +33,7 @@ public:
     void showVersion(std::shared_ptr<const Catalogue> catalogue);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
 
 private:

@@ -11,7 +11,6 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -143,68 +142,6 @@ void ImportDialog::buildLayout()
     layout->addWidget(buttons);
 }
 
-void ImportDialog::add(const QStringList &paths)
-{
-    QStringList all = m_paths;
-    for (const QString &path : paths) {
-        if (!path.isEmpty() && !all.contains(path))
-            all.append(path);
-    }
-    if (all != m_paths)
-        start(all);
-}
-
-/** The thread gets values that nobody changes: the catalogue of one version of the file. */
-void ImportDialog::start(const QStringList &paths)
-{
-    Reading reading{paths, m_logbook.catalogue(), m_logbook.measured(), {}, {}};
-    if (!reading.catalogue)
-        return say(tr("The logbook cannot be read now. Free some space, and try again."));
-    say(QString());
-    m_isStopped = false;
-    m_progress->show();
-    m_thread.reset(QThread::create([this, reading]() mutable {
-        LogReading::Options options;
-        options.goOn = [this] { return !m_isStopped; };
-        reading.logs = LogReading::read(LogReading::paths(reading.paths), reading.measured, options);
-        if (!m_isStopped)
-            reading.clockOffset = clockOffset(reading.logs, *reading.catalogue, reading.measured);
-        QMetaObject::invokeMethod(this, [this, reading] { finish(reading); });
-    }));
-    refresh();
-    m_thread->start();
-}
-
-void ImportDialog::finish(const Reading &reading)
-{
-    m_thread->wait();
-    m_thread.reset();
-    m_progress->hide();
-    if (m_isStopped) {
-        refresh();
-        return say(tr("The reading was stopped. What was read before is still listed."));
-    }
-    const bool isFirst = m_paths.isEmpty();
-    m_paths = reading.paths;
-    offerClock(reading.clockOffset);
-    listRefused(reading.logs);
-    m_model->setLogs(reading.logs, reading.catalogue, reading.measured);
-    if (isFirst)
-        m_table->resizeColumnsToContents();
-    if (!m_table->currentIndex().isValid())
-        m_table->setCurrentIndex(m_model->index(0, 0));
-    m_table->setFocus();
-    refresh();
-    if (m_model->rowCount() == 0)
-        say(tr("There is no discharge in these logs."));
-    else if (m_message->text().isEmpty() && m_model->isAnyNew())
-        say(tr(
-            "What is new is added when you tick it. To choose its model or battery, double-click there, or "
-            "press F2."));
-    if (reading.catalogue != m_logbook.catalogue())
-        readAgain();
-}
-
 /** A clock that is off by the same on all days is corrected when the user wants it. */
 void ImportDialog::offerClock(const std::optional<qint64> &offset)
 {
@@ -221,29 +158,6 @@ void ImportDialog::offerClock(const std::optional<qint64> &offset)
                             ? tr("&Correct the radio's clock: it seems to be %1 h slow").arg(hours)
                             : tr("&Correct the radio's clock: it seems to be %1 h fast").arg(hours));
     m_corrects->setVisible(m_clockOffset != 0);
-}
-
-void ImportDialog::listRefused(const QList<ImportedLog> &logs)
-{
-    m_refused->clear();
-    for (const ImportedLog &log : logs) {
-        const QString name = QFileInfo(log.path).fileName();
-        if (log.log.status == LogStatus::NotARadioLog)
-            m_refused->addItem(tr("“%1” is no log of a radio: %2").arg(name, log.log.reason));
-        else if (log.log.status == LogStatus::Refused)
-            m_refused->addItem(tr("“%1”: %2").arg(name, log.log.reason));
-        else if (log.log.status == LogStatus::Empty)
-            m_refused->addItem(tr("“%1” holds no values.").arg(name));
-    }
-    m_refused->setVisible(m_refused->count() > 0);
-    m_refusedCaption->setVisible(m_refused->count() > 0);
-}
-
-/** Another version of the logbook may have other flights to fill. */
-void ImportDialog::readAgain()
-{
-    if (!m_isImporting && !m_thread && !m_paths.isEmpty())
-        start(m_paths);
 }
 
 void ImportDialog::refresh()
@@ -272,6 +186,7 @@ void ImportDialog::accept()
         m_logbook.changeWhole(name, [&](Catalogue &catalogue, Measured &measured) -> QString {
             if (catalogue != *m_model->catalogue())
                 return FlightEdits::changedMeanwhile();
+            LogReading::remember(measured, m_mappings);
             return applyImport(catalogue, measured, m_model->logs(), m_model->plan(), chosen);
         });
     m_isImporting = false;

@@ -4,6 +4,8 @@
 #include "host/exchange/logreading.h"
 
 #include <QDialog>
+#include <QMap>
+#include <QSet>
 
 #include <atomic>
 #include <memory>
@@ -19,6 +21,7 @@ class QThread;
 
 namespace Host {
 
+class ColumnsDialog;
 class ImportModel;
 class OpenLogbook;
 class Questions;
@@ -67,6 +70,9 @@ private:
     void buildTable();
     void start(const QStringList &paths);
     void finish(const Reading &reading);
+    void settleColumns(const Reading &reading);
+    void askForColumns(const Reading &reading, const ImportedLog &log);
+    void showResult(const Reading &reading);
     void offerClock(const std::optional<qint64> &offset);
     void listRefused(const QList<ImportedLog> &logs);
     void readAgain();
@@ -87,9 +93,12 @@ private:
     QLabel *m_message;
     QProgressBar *m_progress;
     QPushButton *m_import;
-    QStringList m_paths;               ///< that were read
-    qint64 m_clockOffset = 0;          ///< that is offered, in ms
-    std::unique_ptr<QThread> m_thread; ///< while it is at work
+    ColumnsDialog *m_columns = nullptr;      ///< while it asks
+    QStringList m_paths;                     ///< that were read
+    QMap<QString, ColumnMapping> m_mappings; ///< that the user chose, by the key of a header
+    QSet<QString> m_declined;                ///< keys of headers for which he did not
+    qint64 m_clockOffset = 0;                ///< that is offered, in ms
+    std::unique_ptr<QThread> m_thread;       ///< while it is at work
     std::atomic<bool> m_isStopped = false;
     bool m_isImporting = false;
     QString m_report;

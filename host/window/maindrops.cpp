@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What can be dropped on the main window.
+// Logs that come to the main window: on a card, or dropped on it.
+#include "host/window/cardwatch.h"
 #include "host/window/mainwindow.h"
 
 #include <QAction>
@@ -30,6 +31,13 @@ QStringList logsOf(const QMimeData &data)
 }
 
 } // namespace
+
+void MainWindow::watchCards()
+{
+    m_cards = std::make_unique<CardWatch>(*this, *m_messages, *m_logbook);
+    connect(m_cards.get(), &CardWatch::importRequested, this,
+            [this](const QString &folder) { importLogs({folder}); });
+}
 
 /** Logs of radios, where they can be imported now. */
 void MainWindow::dragEnterEvent(QDragEnterEvent *event)

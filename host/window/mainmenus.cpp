@@ -2,6 +2,7 @@
 // The menus of the main window, and what their actions do.
 #include "host/window/mainwindow.h"
 
+#include "host/window/backupsdialog.h"
 #include "host/window/exportdialog.h"
 #include "host/window/flightbookdialog.h"
 #include "host/window/importdialog.h"
@@ -31,6 +32,10 @@ void MainWindow::buildMenus()
     buildEditMenu();
     buildViewMenu();
     buildHelpMenu();
+}
+
+void MainWindow::buildKeys()
+{
     for (const QKeySequence &key : {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::ALT | Qt::Key_Left)}) {
         auto *shortcut = new QShortcut(key, this);
         connect(shortcut, &QShortcut::activated, this, &MainWindow::back);
@@ -49,6 +54,7 @@ void MainWindow::buildLogbookMenu()
     menu->addAction(tr("&Export…"), this, &MainWindow::exportLogbook);
     menu->addAction(tr("&Flight Book (print, PDF)…"), this,
                     [this] { showFlightBook(*m_logbook, m_questions, this); });
+    m_backups = menu->addAction(tr("&Backups…"), this, &MainWindow::restoreCopy);
     menu->addSeparator();
     QAction *quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q)); // QKeySequence::Quit is empty on some desktops
@@ -79,6 +85,7 @@ void MainWindow::buildViewMenu()
     m_panelShown->setCheckable(true);
     connect(m_panelShown, &QAction::triggered, this, &MainWindow::showPanel);
     connect(m_panelShown, &QAction::triggered, this, [this](bool shown) { m_settings.setPanelOpen(shown); });
+    buildLanguageMenu(menu);
 }
 
 void MainWindow::buildHelpMenu()
@@ -96,6 +103,7 @@ void MainWindow::updateActions()
     m_redo->setEnabled(m_logbook && m_logbook->canRedo());
     m_rename->setEnabled(m_logbook && m_logbook->mayChange());
     m_import->setEnabled(m_logbook && m_logbook->mayChange());
+    m_backups->setEnabled(m_logbook && m_logbook->mayChange());
 }
 
 /** What would be undone and done again; both versions are read for that, so only where somebody looks. */
@@ -168,6 +176,15 @@ void MainWindow::exportLogbook()
     tell(u"export"_s, report);
 }
 
+void MainWindow::restoreCopy()
+{
+    const QString report = restoreByDialog(*m_logbook, m_folder, this);
+    if (report.isEmpty())
+        return;
+    m_messages->retract(u"backups"_s);
+    tell(u"backups"_s, report);
+}
+
 void MainWindow::importLogs(const QStringList &paths)
 {
     const QString report = importByDialog(*m_logbook, m_questions, paths, this);
@@ -193,7 +210,7 @@ void MainWindow::showPreferences()
 
 void MainWindow::showManual()
 {
-    ManualWindow::showBeside(this);
+    ManualWindow::showBeside(this, language());
 }
 
 void MainWindow::showAbout()

@@ -3,6 +3,8 @@
 
 #include "gui/voltbokgui.h"
 #include "host/safety/folderlock.h"
+#include "host/window/cardwatch.h"
+#include "host/window/conflictoffer.h"
 #include "host/window/logbookpages.h"
 #include "host/window/messagebar.h"
 #include "host/window/openlogbook.h"
@@ -16,7 +18,6 @@
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QComboBox>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QIcon>
 #include <QPainter>
@@ -37,13 +38,6 @@ namespace {
 
 constexpr int RoomForThePanel = 1000; // pixels of the screen, from which on the side panel is shown at first
 
-QString titleOf(const StorageFolder &folder)
-{
-    if (folder.path() == StorageFolder::ofDemo().path())
-        return MainWindow::tr("Voltbok - sample logbook");
-    return u"Voltbok - %1"_s.arg(QFileInfo(folder.path()).fileName());
-}
-
 /** Drawn here: an icon that Qt makes of the file needs a plugin, which not every system installs with Qt. */
 QIcon ownIcon()
 {
@@ -62,9 +56,10 @@ QIcon ownIcon()
 
 } // namespace
 
-MainWindow::MainWindow(Questions &questions, QWidget *parent)
+MainWindow::MainWindow(Questions &questions, Languages *languages, QWidget *parent)
     : QMainWindow(parent)
     , m_questions(questions)
+    , m_languages(languages)
     , m_gui(new VoltbokGui)
     , m_pages(m_gui->findChild<QStackedWidget *>(u"stackedWidget"_s))
     , m_models(m_gui->findChild<QComboBox *>(u"cb_select_model"_s))
@@ -90,6 +85,7 @@ MainWindow::MainWindow(Questions &questions, QWidget *parent)
     QGuiApplication::setWindowIcon(QIcon::fromTheme(u"org.voltbok.Voltbok"_s, ownIcon()));
     setAcceptDrops(true);
     buildMenus();
+    buildKeys();
     connectLogbook();
     connect(m_messages, &MessageBar::told, this, &MainWindow::told);
 }
@@ -140,7 +136,7 @@ void MainWindow::showPage(const QString &name)
 void MainWindow::lookInto(const StorageFolder &folder)
 {
     m_folder = folder;
-    setWindowTitle(titleOf(folder));
+    showTitle();
     m_gui->changeStoragePath(folder.path());
 }
 
@@ -151,6 +147,8 @@ void MainWindow::buildPanel()
     connect(m_logbook.get(), &OpenLogbook::changed, this, &MainWindow::greet);
     if (!m_logbook->measuredProblem().isEmpty())
         tell(u"measured"_s, m_logbook->measuredProblem());
+    connect(m_logbook.get(), &OpenLogbook::measuredByOthers, this,
+            [this](const QString &text) { tell(u"measured"_s, text); });
     m_panel = new SidePanel(*m_logbook, m_questions);
     connect(m_panel, &SidePanel::renameRequested, this, &MainWindow::rename);
     m_splitter->addWidget(m_panel);
@@ -169,14 +167,18 @@ void MainWindow::open(const StorageFolder &folder, std::shared_ptr<FolderLock> l
     lookInto(folder);
     progress->step();
     m_care = std::make_unique<SaveCare>(
-        folder, LogbookAccess{m_gui, [this] { m_gui->writeDataWithDataprocessor(); }, [this] { reload(); }},
+        folder,
+        LogbookAccess{m_gui, [this] { m_gui->writeDataWithDataprocessor(); }, [this] { reload(); },
+                      [this] { return m_pending->isInUse(); }, [this] { leadHome(); }},
         *m_messages, m_questions);
     // Queued: the care ends with the folder that it speaks of.
     connect(m_care.get(), &SaveCare::keptElsewhere, this, &MainWindow::goOnIn, Qt::QueuedConnection);
     progress->step();
     buildPanel();
+    m_conflicts = std::make_unique<ConflictOffer>(folder, *m_logbook, *m_messages, m_questions, this);
     restoreLayout();
     updateActions();
+    watchCards();
     m_settings.addRecentFolder(folder.path());
     tellAboutSettings();
     greet();
@@ -194,7 +196,9 @@ void MainWindow::reload()
 
 void MainWindow::closeLogbook()
 {
-    delete std::exchange(m_panel, nullptr); // each of them uses the next
+    m_cards.reset(); // each of them uses the next
+    delete std::exchange(m_panel, nullptr);
+    m_conflicts.reset();
     m_logbook.reset();
     m_care.reset();
 }
@@ -213,18 +217,6 @@ void MainWindow::tellAboutSettings()
          tr("The settings cannot be saved: there is no permission to write “%1”. What you choose "
             "will be forgotten. Change the permissions of this file and its folder.")
              .arg(isSharedWritable ? m_settings.fileName() : RotavexPlugin::rotavexSettings->fileName()));
-}
-
-void MainWindow::goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock)
-{
-    open(folder, std::move(lock));
-    tell(u"moved"_s,
-         tr("The logbook is now kept in “%1”. Open this folder the next time, too.").arg(folder.path()));
-}
-
-void MainWindow::tell(const QString &matter, const QString &text)
-{
-    m_messages->tell(matter, text);
 }
 
 void MainWindow::raiseAndActivate()

@@ -17,7 +17,10 @@ class VoltbokGui;
 
 namespace Host {
 
+class CardWatch;
+class ConflictOffer;
 class FolderLock;
+class Languages;
 class MessageBar;
 class OpenLogbook;
 class PendingInput;
@@ -33,8 +36,8 @@ class MainWindow final : public QMainWindow
     Q_DISABLE_COPY_MOVE(MainWindow)
 
 public:
-    /** @param questions outlives the window. */
-    explicit MainWindow(Questions &questions, QWidget *parent = nullptr);
+    /** @param questions @param languages outlive the window; without the second none can be chosen. */
+    explicit MainWindow(Questions &questions, Languages *languages = nullptr, QWidget *parent = nullptr);
     ~MainWindow() override;
 
     /**
@@ -67,6 +70,7 @@ Q_SIGNALS:
     void folderTaken(const Host::StorageFolder &folder);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -80,6 +84,12 @@ private:
     void buildEditMenu();
     void buildViewMenu();
     void buildHelpMenu();
+    void buildKeys();
+    void buildLanguageMenu(QMenu *view);
+    void chooseLanguage(const QString &code);
+    QString language() const;
+    void retranslate();
+    void showTitle();
     void updateActions();
     void nameSteps();
     void listRecentFolders();
@@ -89,7 +99,9 @@ private:
     void redo();
     void rename();
     void importLogs(const QStringList &paths);
+    void watchCards();
     void exportLogbook();
+    void restoreCopy();
     void showPanel(bool visible);
     void showPreferences();
     void showManual();
@@ -110,6 +122,7 @@ private:
     void goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock);
 
     Questions &m_questions;
+    Languages *m_languages;
     Settings m_settings;
     VoltbokGui *m_gui;
     QStackedWidget *m_pages; ///< of the logbook
@@ -119,6 +132,7 @@ private:
     QSplitter *m_splitter;
     QMenu *m_recent = nullptr;
     QAction *m_import = nullptr;
+    QAction *m_backups = nullptr;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     QAction *m_rename = nullptr;
@@ -127,6 +141,8 @@ private:
     std::shared_ptr<FolderLock> m_lock;
     std::unique_ptr<SaveCare> m_care; // before the lock goes, it saves and copies
     std::unique_ptr<OpenLogbook> m_logbook;
+    std::unique_ptr<CardWatch> m_cards;
+    std::unique_ptr<ConflictOffer> m_conflicts;
     SidePanel *m_panel = nullptr; // in the splitter
 };
 

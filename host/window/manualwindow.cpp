@@ -19,21 +19,36 @@ ManualWindow::ManualWindow(QWidget *parent)
 {
     setWindowFlag(Qt::Window);
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(tr("Voltbok Manual"));
-    setAccessibleName(windowTitle());
     setOpenExternalLinks(true);
     setSearchPaths({u":/manual"_s});
-    QFile file(u":/manual/manual.md"_s);
-    if (file.open(QFile::ReadOnly))
-        setMarkdown(QString::fromUtf8(file.readAll()));
     resize(fontMetrics().averageCharWidth() * CharactersOfALine, fontMetrics().lineSpacing() * LinesOnShow);
 }
 
-void ManualWindow::showBeside(QWidget *parent)
+/** In English where nobody has translated it. */
+void ManualWindow::read(const QString &language)
+{
+    setWindowTitle(tr("Voltbok Manual"));
+    setAccessibleName(windowTitle());
+    QFile file(u":/manual/manual_%1.md"_s.arg(language));
+    if (!file.exists())
+        file.setFileName(u":/manual/manual.md"_s);
+    if (file.open(QFile::ReadOnly))
+        setMarkdown(QString::fromUtf8(file.readAll()));
+}
+
+void ManualWindow::switchBeside(QWidget *parent, const QString &language)
+{
+    if (auto *window = parent->findChild<ManualWindow *>())
+        window->read(language);
+}
+
+void ManualWindow::showBeside(QWidget *parent, const QString &language)
 {
     auto *window = parent->findChild<ManualWindow *>();
-    if (!window)
+    if (!window) {
         window = new ManualWindow(parent);
+        window->read(language);
+    }
     window->show();
     window->raise();
     window->activateWindow();

@@ -42,6 +42,9 @@ void OpenLogbook::followOthers(const Catalogue &present)
 /** Writes what stands beside the logbook. @return why it was not done, a clause. */
 QString OpenLogbook::putBeside(const QByteArray &beside)
 {
+    m_measuredWatch.look();
+    if (m_measuredWatch.state() != FileWatch::Known)
+        return tr("another program has changed it");
     const QString problem = MeasuredStore::put(m_folder, beside);
     readMeasured();
     return problem;
@@ -49,7 +52,20 @@ QString OpenLogbook::putBeside(const QByteArray &beside)
 
 void OpenLogbook::readMeasured()
 {
+    m_measuredWatch.accept(); // first: what is written between the two is noticed
     m_stored = MeasuredStore::load(m_folder);
+}
+
+/** Theirs count from now on, whatever the logbook itself holds; the steps before would bring back ours. */
+void OpenLogbook::takeMeasuredOfOthers()
+{
+    readMeasured();
+    m_history.restart(m_history.present(), m_stored.bytes);
+    announce();
+    Q_EMIT measuredByOthers(m_stored.problem.isEmpty()
+                                ? tr("Another program has changed what radio logs tell of the discharges. It "
+                                     "is on show now.")
+                                : m_stored.problem);
 }
 
 /** Changes nothing but what stands beside the logbook. */

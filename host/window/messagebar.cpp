@@ -20,6 +20,12 @@ using namespace Qt::Literals::StringLiterals;
 namespace Host {
 namespace {
 
+void nameClosing(QToolButton *closing)
+{
+    closing->setAccessibleName(MessageBar::tr("Close this message"));
+    closing->setToolTip(MessageBar::tr("Close this message"));
+}
+
 QToolButton *makeClosing(QWidget *message)
 {
     auto *closing = new QToolButton(message);
@@ -27,8 +33,7 @@ QToolButton *makeClosing(QWidget *message)
     // On a face of its own: the colour of a button's text is not made for the background of a message.
     closing->setAutoRaise(false);
     closing->setFocusPolicy(Qt::StrongFocus); // a tool button could not be reached by keyboard
-    closing->setAccessibleName(MessageBar::tr("Close this message"));
-    closing->setToolTip(MessageBar::tr("Close this message"));
+    nameClosing(closing);
     QObject::connect(closing, &QToolButton::clicked, message, &QWidget::hide);
     return closing;
 }
@@ -56,6 +61,17 @@ bool MessageBar::eventFilter(QObject *watched, QEvent *event)
     if (watched == widget() && event->type() == QEvent::LayoutRequest)
         fit();
     return handled;
+}
+
+/** A message stays as it was said. */
+void MessageBar::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        const QList<QToolButton *> closings = findChildren<QToolButton *>();
+        for (QToolButton *closing : closings)
+            nameClosing(closing);
+    }
+    QScrollArea::changeEvent(event);
 }
 
 void MessageBar::resizeEvent(QResizeEvent *event)

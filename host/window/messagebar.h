@@ -49,6 +49,7 @@ Q_SIGNALS:
     void told(const QString &text);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:

@@ -25,6 +25,12 @@ QString cancelled()
     return OpenLogbook::tr("Nothing was changed: you have cancelled it.");
 }
 
+/** Why the measured values are not whole. */
+QString measuredProblemOf(const QByteArray &bytes)
+{
+    return MeasuredFile::load(bytes).problem;
+}
+
 QString changedMeanwhile()
 {
     return OpenLogbook::tr("Nothing was changed: the logbook has changed meanwhile. Look at it again, and "
@@ -37,6 +43,7 @@ OpenLogbook::OpenLogbook(const StorageFolder &folder, SaveCare *care, Questions 
     : m_folder(folder)
     , m_care(care)
     , m_questions(questions)
+    , m_measuredWatch(m_folder.measuredFile(), &measuredProblemOf)
     , m_mayChange(care && care->isInOrder())
 {
     const QByteArray document = WholeFile::read(m_folder.dataFile()).bytes;
@@ -47,6 +54,8 @@ OpenLogbook::OpenLogbook(const StorageFolder &folder, SaveCare *care, Questions 
     connect(m_care, &SaveCare::written, this, &OpenLogbook::versionWritten);
     connect(m_care, &SaveCare::writtenByOthers, this, &OpenLogbook::versionOfOthers);
     connect(m_care, &SaveCare::orderChanged, this, &OpenLogbook::updatePossibilities);
+    connect(&m_measuredWatch, &FileWatch::changed, this, &OpenLogbook::takeMeasuredOfOthers);
+    connect(&m_measuredWatch, &FileWatch::broken, this, &OpenLogbook::takeMeasuredOfOthers);
 }
 
 OpenLogbook::~OpenLogbook()
@@ -166,14 +175,11 @@ QString OpenLogbook::obstacle()
         return tr(
             "Nothing was changed: the logbook file does not hold what this window shows. See the message "
             "above the logbook.");
-    // What was flushed just now is a version of its own, and so is what nobody has told of.
-    const QByteArray document = WholeFile::read(m_folder.dataFile()).bytes;
-    if (!document.isEmpty() && document != m_history.present())
-        versionOfOthers(document);
-    return QString();
+    // Who is about to change something has looked at another version.
+    return isFileStillThis() ? QString() : changedMeanwhile();
 }
 
-/** Whether nobody has written since obstacle() has looked. */
+/** Whether nobody else has written since. */
 bool OpenLogbook::isFileStillThis() const
 {
     const QByteArray document = WholeFile::read(m_folder.dataFile()).bytes;
@@ -197,7 +203,7 @@ QString OpenLogbook::put(const QByteArray &document, const QByteArray &beside, P
         }
     }
     if (problem.isEmpty()) {
-        m_care->readWritten();
+        m_care->readWritten(document);
         progress.step();
         if (m_care->takeWritten(document))
             return QString();
@@ -207,7 +213,7 @@ QString OpenLogbook::put(const QByteArray &document, const QByteArray &beside, P
         problem = tr("it cannot be read back");
         WholeFile::write(m_folder.dataFileTarget(), before);
         putBeside(besideBefore);
-        m_care->readWritten();
+        m_care->readWritten(before);
         m_care->takeWritten(before);
         m_history.restart(before, m_stored.bytes);
         announce();

@@ -3,6 +3,8 @@
 
 #include "host/data/catalogue.h"
 #include "host/data/undo.h"
+#include "host/safety/backups.h"
+#include "host/safety/filewatch.h"
 #include "host/safety/measuredstore.h"
 #include "host/safety/storagefolder.h"
 
@@ -59,6 +61,15 @@ public:
     QString change(const QString &name, const Change &change);
     QString changeWhole(const QString &name, const WholeChange &change);
 
+    /** What restore() came to. */
+    struct Restored
+    {
+        QString problem;      ///< why it was not done, in whole sentences; all is then as it was before
+        bool isThere = false; ///< there was nothing to do
+    };
+    /** Puts a copy in the place of the logbook, which is copied before; one step that can be undone. */
+    Restored restore(const Backups::Held &copy);
+
     /** What radio logs tell of the discharges; their measured ones are marked in the catalogue. */
     const Measured &measured() const { return m_stored.measured; }
     /** Why that is not known, in whole sentences; empty when it is. */
@@ -78,6 +89,8 @@ public:
 Q_SIGNALS:
     /** The file holds another version: what catalogue() gives has changed. */
     void changed();
+    /** Another program has changed what stands beside the logbook; says so in whole sentences. */
+    void measuredByOthers(const QString &text);
     /** What can be changed, undone and done again has changed. */
     void possibilitiesChanged();
 
@@ -86,11 +99,13 @@ private:
     void versionWritten(const QByteArray &document);
     void versionOfOthers(const QByteArray &document);
     bool isFileStillThis() const;
+    QString prepareRestoring(const Backups::Held &copy, Progress &progress, QByteArray *beside);
     QString move(bool (UndoHistory::*isPossible)() const, QByteArray (UndoHistory::*document)() const,
                  QByteArray (UndoHistory::*beside)() const, void (UndoHistory::*moved)());
     QString put(const QByteArray &document, const QByteArray &beside, Progress &progress);
     QString putBeside(const QByteArray &beside);
     void readMeasured();
+    void takeMeasuredOfOthers();
     QString onlyBeside(const QByteArray &beside);
     QString measuredNotWritten(const QString &problem) const;
     void expectFollowing();
@@ -104,6 +119,7 @@ private:
     SaveCare *m_care;
     Questions &m_questions;
     UndoHistory m_history;
+    FileWatch m_measuredWatch;
     MeasuredStore::Stored m_stored;
     QByteArray m_followedDocument; ///< that the measured values fit to, where that is an earlier one
     std::shared_ptr<const Catalogue> m_followed;  ///< the same as values; null where it was not read

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QEvent>
 #include <QWidget>
 
 namespace Host {
@@ -16,6 +17,16 @@ public:
 
     /** Shows what the logbook holds now. */
     virtual void refresh() = 0;
+
+protected:
+    /** Sets the texts that do not depend on the logbook. */
+    virtual void retranslate() = 0;
+    void changeEvent(QEvent *event) override
+    {
+        if (event->type() == QEvent::LanguageChange)
+            retranslate();
+        QWidget::changeEvent(event);
+    }
 };
 
 } // namespace Host

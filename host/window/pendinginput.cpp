@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/pendinginput.h"
 
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QStackedWidget>
 #include <QStringList>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,6 +23,15 @@ bool isFormPage(const QString &name)
     const QStringList forms{u"addView"_s, u"addModelView"_s, u"addLocationView"_s, u"modBatteryView"_s,
                             u"modModelView"_s};
     return forms.contains(name);
+}
+
+/** Whether a cell of a table is being edited: its editor lies on the table's viewport. */
+bool isCellEdited()
+{
+    const QWidget *editor = QApplication::focusWidget();
+    const QWidget *viewport = editor ? editor->parentWidget() : nullptr;
+    const auto *table = viewport ? qobject_cast<QAbstractItemView *>(viewport->parentWidget()) : nullptr;
+    return table && table->viewport() == viewport;
 }
 
 } // namespace
@@ -38,6 +52,20 @@ bool PendingInput::isFlight() const
 bool PendingInput::isForm() const
 {
     return isFormPage(m_pages.currentWidget()->objectName()) && inputs() != m_shown;
+}
+
+bool PendingInput::isInUse() const
+{
+    return isAny() || isAsking() || QApplication::activeModalWidget() || QApplication::activePopupWidget() ||
+           QApplication::mouseButtons() != Qt::NoButton || isCellEdited();
+}
+
+/** Whether a page waits for the second click of a deletion, whose chooser must not change. */
+bool PendingInput::isAsking() const
+{
+    const auto buttons = m_pages.currentWidget()->findChildren<QAbstractButton *>();
+    return std::any_of(buttons.cbegin(), buttons.cend(),
+                       [](const QAbstractButton *button) { return button->property("asking").toBool(); });
 }
 
 void PendingInput::pageShown()

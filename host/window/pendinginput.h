@@ -24,9 +24,15 @@ public:
     /** A form was filled in, and not sent off. */
     bool isForm() const;
     bool isAny() const { return isFlight() || isForm(); }
+    /**
+     * Something is being entered, asked or pointed at, here or elsewhere in the program, that a reload of the
+     * logbook would spoil.
+     */
+    bool isInUse() const;
 
 private:
     void pageShown();
+    bool isAsking() const;
     QHash<const QWidget *, QString> inputs() const;
 
     QStackedWidget &m_pages;

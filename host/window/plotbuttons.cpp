@@ -9,6 +9,7 @@
 
 #include <QClipboard>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QPushButton>
@@ -35,23 +36,42 @@ PlotButtons::PlotButtons(PlotView &plot, Questions &questions, QWidget *parent)
 {
     auto *layout = new FlowLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_ofPlot = {add(tr("&Save Plot…"), tr("Save the plot as a picture (PNG or SVG)"), &PlotButtons::save),
-                add(tr("&Copy Plot"), tr("Copy the plot to the clipboard"), &PlotButtons::copy),
-                add(tr("&Print Plot…"), tr("Print the plot"), &PlotButtons::print)};
-    add(tr("Print T&able…"), tr("Print the table above"), &PlotButtons::tablePrintRequested);
+    m_save = add(&PlotButtons::save);
+    m_copy = add(&PlotButtons::copy);
+    m_print = add(&PlotButtons::print);
+    m_printTable = add(&PlotButtons::tablePrintRequested);
+    retranslate();
+}
+
+void PlotButtons::retranslate()
+{
+    const auto name = [](QPushButton *button, const QString &caption, const QString &description) {
+        button->setText(caption);
+        button->setToolTip(description);
+        button->setAccessibleDescription(description);
+    };
+    name(m_save, tr("&Save Plot…"), tr("Save the plot as a picture (PNG or SVG)"));
+    name(m_copy, tr("&Copy Plot"), tr("Copy the plot to the clipboard"));
+    name(m_print, tr("&Print Plot…"), tr("Print the plot"));
+    name(m_printTable, tr("Print T&able…"), tr("Print the table above"));
+}
+
+void PlotButtons::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
 }
 
 void PlotButtons::setPlotShown(bool shown)
 {
-    for (QWidget *button : std::as_const(m_ofPlot))
+    for (QWidget *button : {m_save, m_copy, m_print})
         button->setVisible(shown);
 }
 
-QWidget *PlotButtons::add(const QString &caption, const QString &description, void (PlotButtons::*slot)())
+QPushButton *PlotButtons::add(void (PlotButtons::*slot)())
 {
-    auto *button = new QPushButton(caption);
-    button->setToolTip(description);
-    button->setAccessibleDescription(description);
+    auto *button = new QPushButton;
     layout()->addWidget(button);
     connect(button, &QPushButton::clicked, this, slot);
     return button;

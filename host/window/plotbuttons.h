@@ -3,6 +3,8 @@
 
 #include <QWidget>
 
+class QPushButton;
+
 namespace Host {
 
 class PlotView;
@@ -24,15 +26,22 @@ public:
 Q_SIGNALS:
     void tablePrintRequested();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
-    QWidget *add(const QString &caption, const QString &description, void (PlotButtons::*slot)());
+    QPushButton *add(void (PlotButtons::*slot)());
+    void retranslate();
     void save();
     void copy();
     void print();
 
     PlotView &m_plot;
     Questions &m_questions;
-    QList<QWidget *> m_ofPlot;
+    QPushButton *m_save = nullptr;
+    QPushButton *m_copy = nullptr;
+    QPushButton *m_print = nullptr;
+    QPushButton *m_printTable = nullptr;
 };
 
 } // namespace Host

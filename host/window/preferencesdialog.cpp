@@ -16,9 +16,17 @@
 namespace Host {
 namespace {
 
-QString translated(const char *text)
+QString translated(const char *text, int number = -1)
 {
-    return QCoreApplication::translate("AdviceLimits", text);
+    return QCoreApplication::translate("AdviceLimits", text, nullptr, number);
+}
+
+/** The unit as it stands behind the number: “1 day”, “2 days”. */
+void showUnit(QSpinBox *edit, const char *unit)
+{
+    const QString text = translated(unit, edit->value());
+    edit->setSuffix(text);
+    edit->setAccessibleDescription(text.trimmed());
 }
 
 } // namespace
@@ -33,10 +41,10 @@ PreferencesDialog::PreferencesDialog(QWidget *parent)
     for (const LimitField &field : limitFields()) {
         auto *edit = new QSpinBox;
         edit->setRange(field.least, field.most);
-        edit->setSuffix(translated(field.unit));
         edit->setValue(limits.*field.value);
+        showUnit(edit, field.unit);
+        connect(edit, &QSpinBox::valueChanged, this, [edit, unit = field.unit] { showUnit(edit, unit); });
         edit->setAccessibleName(translated(field.caption));
-        edit->setAccessibleDescription(translated(field.unit).trimmed());
         form->addRow(translated(field.caption), edit);
         m_limits.append(edit);
     }

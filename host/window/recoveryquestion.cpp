@@ -10,52 +10,42 @@
 namespace Host {
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("RecoveryQuestion", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(RecoveryQuestion)
+};
 
 QString whatIsTheMatter(const StorageFolder &folder, const FileState &state)
 {
     if (state.kind == FileState::Missing)
-        return tr(QT_TRANSLATE_NOOP(
-                      "RecoveryQuestion",
-                      "The logbook file “%1” is missing, but earlier versions of it are there."))
+        return Text::tr("The logbook file “%1” is missing, but earlier versions of it are there.")
             .arg(folder.dataFile());
-    return tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "The logbook file “%1” is damaged: %2."))
-        .arg(folder.dataFile(), state.problem);
+    return Text::tr("The logbook file “%1” is damaged: %2.").arg(folder.dataFile(), state.problem);
 }
 
 QString whatFollows(const FileState &state)
 {
     if (state.kind == FileState::Missing)
-        return tr(QT_TRANSLATE_NOOP(
-            "RecoveryQuestion",
+        return Text::tr(
             "If you keep it on a disk or in a synchronised folder that is not there now, quit and bring it "
-            "back first."));
-    return tr(QT_TRANSLATE_NOOP("RecoveryQuestion",
-                                "Quitting leaves the damaged file as it is. Otherwise it is kept in the same "
-                                "folder, under a name that begins with “voltbok-broken-”."));
+            "back first.");
+    return Text::tr("Quitting leaves the damaged file as it is. Otherwise it is kept in the same "
+                    "folder, under a name that begins with “voltbok-broken-”.");
 }
 
 QString whatToChoose(const StorageFolder &folder, const VersionsModel &versions, int first)
 {
     if (!versions.isComplete())
-        return tr(QT_TRANSLATE_NOOP(
-                      "RecoveryQuestion",
-                      "The copies in “%1” cannot be listed just now. Quit and start the program "
-                      "again before you choose anything else."))
+        return Text::tr("The copies in “%1” cannot be listed just now. Quit and start the program "
+                        "again before you choose anything else.")
             .arg(folder.backups().path());
     if (first < 0)
-        return tr(QT_TRANSLATE_NOOP(
-            "RecoveryQuestion", "No whole copy of it was found. Quit and look for one elsewhere before you "
-                                "start with an empty logbook."));
+        return Text::tr("No whole copy of it was found. Quit and look for one elsewhere before you "
+                        "start with an empty logbook.");
     if (!versions.isCopy(first))
-        return tr(QT_TRANSLATE_NOOP("RecoveryQuestion",
-                                    "No whole copy of it was found. Choose what to go on with only after a "
-                                    "look at what it holds."));
-    return tr(
-        QT_TRANSLATE_NOOP("RecoveryQuestion", "Choose the version to go on with; the newest is on top."));
+        return Text::tr("No whole copy of it was found. Choose what to go on with only after a "
+                        "look at what it holds.");
+    return Text::tr("Choose the version to go on with; the newest is on top.");
 }
 
 /** What the loaders find before the damage; nothing where loading is dangerous or finds no more than an empty
@@ -74,20 +64,18 @@ std::optional<QByteArray> askForReplacement(Questions &questions, const StorageF
                                             const FileState &state)
 {
     VersionsModel versions(folder);
-    versions.add(tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "What can still be read of the damaged file")),
-                 salvage(state));
+    versions.add(Text::tr("What can still be read of the damaged file"), salvage(state));
     const int first = versions.firstWhole();
 
     enum { Quit, StartEmpty, Restore };
     Question question;
     question.text = whatIsTheMatter(folder, state);
     question.details = whatFollows(state) + u' ' + whatToChoose(folder, versions, first);
-    question.answers = QStringList{tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "Quit")),
-                                   tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "Start with an Empty Logbook"))};
+    question.answers = QStringList{Text::tr("Quit"), Text::tr("Start with an Empty Logbook")};
     question.preferred = Quit;
     question.refusal = Quit;
     if (first >= 0) {
-        question.answers.append(tr(QT_TRANSLATE_NOOP("RecoveryQuestion", "Restore")));
+        question.answers.append(Text::tr("Restore"));
         question.preferred = versions.isComplete() && versions.isCopy(first) ? Restore : Quit;
         question.choices = &versions;
         question.chosen = first;

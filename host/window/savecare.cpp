@@ -6,7 +6,6 @@
 #include "host/safety/folderlock.h"
 #include "host/safety/recovery.h"
 #include "host/safety/wholefile.h"
-#include "host/window/messagebar.h"
 #include "host/window/questions.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -17,7 +16,6 @@ namespace {
 // What the messages are about.
 const QString Saving = u"saving"_s;
 const QString Copies = u"copies"_s;
-const QString Others = u"others"_s;
 
 /** Whether the library has written this document to its end. One that was cut never ends like this. */
 bool hasItsEnd(const QByteArray &document)
@@ -39,7 +37,11 @@ SaveCare::SaveCare(const StorageFolder &folder, const LogbookAccess &logbook, Me
 {
     connect(&m_watch, &SaveWatch::saved, this, &SaveCare::saved);
     connect(&m_watch, &SaveWatch::unchanged, this, &SaveCare::unchanged);
-    connect(&m_watch, &SaveWatch::changedByOthers, this, &SaveCare::changedByOthers);
+    connect(&m_watch, &SaveWatch::aboutToOverwrite, this, &SaveCare::aboutToOverwrite);
+    connect(&m_watch.file(), &FileWatch::changed, this, &SaveCare::changedByOthers);
+    connect(&m_watch.file(), &FileWatch::broken, this, &SaveCare::brokenByOthers);
+    connect(&m_watch.file(), &FileWatch::returned, this, &SaveCare::returned);
+    connect(&m_waiting, &QTimer::timeout, this, &SaveCare::followOthers);
     connect(&m_keeper, &BackupKeeper::fileWhole, this, &SaveCare::fileWhole);
     connect(&m_keeper, &BackupKeeper::fileBroken, this, &SaveCare::fileBroken);
     connect(&m_keeper, &BackupKeeper::failed, this,
@@ -55,18 +57,28 @@ SaveCare::SaveCare(const StorageFolder &folder, const LogbookAccess &logbook, Me
 SaveCare::~SaveCare()
 {
     flush();
+    if (m_watch.file().state() != FileWatch::Known && holdsUnsaved())
+        m_keeper.keep(heldByWindow(), true); // there is no other place for it
     settle();
+}
+
+bool SaveCare::isInOrder() const
+{
+    return m_loss == Loss::None && m_others == Others::Nothing && m_watch.file().state() == FileWatch::Known;
 }
 
 bool SaveCare::mayClose()
 {
     flush();
-    if (m_loss != Loss::File && m_loss != Loss::Everything)
+    const bool isDamaged = m_others == Others::Damage;
+    if (m_loss != Loss::File && m_loss != Loss::Everything && !isDamaged)
         return true;
     enum { QuitAnyway, GoBack };
     Question question;
-    question.text = tr("The logbook is not saved.");
-    question.details = m_loss == Loss::File
+    question.text = isDamaged ? tr("The logbook file is gone or damaged.") : tr("The logbook is not saved.");
+    question.details = isDamaged ? tr("Everything that this window shows is kept in a copy, which the next "
+                                      "start offers. Go back, and put the file back now.")
+                       : m_loss == Loss::File
                            ? tr("What you recorded last would be lost. Go back, and try again or "
                                 "keep the logbook elsewhere.")
                            : tr("What you recorded last would be lost. Go back, and restore the last state "
@@ -100,13 +112,19 @@ bool SaveCare::isOpenedWhole()
 
 void SaveCare::saved(bool reloaded)
 {
-    takeForOurs();
-    // Looked at before the next click: on top of what a window has read back from a cut file, the next save
-    // would write a smaller logbook that is whole.
-    const QByteArray document = heldByFile();
+    // The watch has looked at it before the next click: on top of what a window has read back from a cut
+    // file, the next save would write a smaller logbook that is whole.
+    const QByteArray document = m_watch.file().known();
+    const QByteArray theirs = m_others == Others::Waiting ? m_theirs : QByteArray();
+    setOthers(Others::Nothing);
+    if (m_watch.wasReplaced())
+        m_keeper.keep(document); // it is nowhere else
+    m_keeper.look();
+    if (!theirs.isEmpty())
+        tellOverwritten(theirs);
     if (!hasItsEnd(document))
         return tellLoss(reloaded ? Loss::Everything : Loss::File, reason(tr("it is missing")));
-    if (reloaded && !hasReadBack(document))
+    if (reloaded && !m_watch.wasReplaced() && !hasReadBack(document))
         return tellLoss(Loss::Everything, tr("it cannot be read back"));
     m_unsaved.clear();
     m_endsWhenWhole = true;
@@ -129,8 +147,9 @@ void SaveCare::unchanged(bool reloaded)
 
 void SaveCare::fileBroken(const QString &problem)
 {
-    if (m_loss == Loss::Everything)
-        return; // told already
+    m_watch.file().look();
+    if (m_loss == Loss::Everything || m_watch.file().state() != FileWatch::Known)
+        return; // told already, or waited for
     const bool isAhead = m_loss == Loss::File && !m_endsWhenWhole;
     tellLoss(Loss::File, reason(problem));
     m_endsWhenWhole = !isAhead;
@@ -142,39 +161,12 @@ void SaveCare::fileWhole()
         settle();
 }
 
-void SaveCare::changedByOthers()
-{
-    if (isOnlyTouched())
-        return;
-    m_byOthers = true;
-    m_keeper.lookAndWait(); // before the window overwrites it
-    Q_EMIT orderChanged();
-    if (m_loss == Loss::Everything || !WholeFile::isWhole(heldByFile()))
-        return; // there is another message
-    Q_EMIT writtenByOthers(heldByFile());
-    m_messages.tell(Others,
-                    tr("Another program has changed the logbook file. This window still shows what it "
-                       "held before, and your next change overwrites the file. A copy of the other "
-                       "version is kept in “%1”; start Voltbok again to see it.")
-                        .arg(m_folder.backups().path()));
-}
-
 /** The program has written the file: whatever somebody else had done to it is over. */
 void SaveCare::takeForOurs()
 {
     m_watch.accept();
-    m_byOthers = false;
-    m_messages.retract(Others);
+    setOthers(Others::Nothing);
     m_keeper.look();
-}
-
-/** Whether a file that was written has the content it had before. */
-bool SaveCare::isOnlyTouched() const
-{
-    const QByteArray document = heldByFile();
-    QByteArray copied;
-    Backups::newestWhole(m_folder, &copied);
-    return !document.isEmpty() && (document == copied || document == heldByWindow());
 }
 
 /** Whether the window shows what it has just saved; a disk that did not give it back is asked once more. */
@@ -193,8 +185,7 @@ void SaveCare::tellLoss(Loss loss, const QString &reason)
     const QByteArray held = loss == Loss::File ? heldByWindow() : QByteArray();
     if (!held.isEmpty())
         m_unsaved = held;
-    // What the window has read back is not what was recorded: nothing may be written on top of it.
-    m_logbook.widget->setEnabled(loss != Loss::Everything);
+    enable();
 
     QList<MessageBar::Action> actions;
     if (loss != Loss::Everything)
@@ -247,11 +238,18 @@ QString SaveCare::reason(const QString &otherwise) const
     return content.isEmpty() ? otherwise : content;
 }
 
+/** Nothing may be entered on top of a window that shows less than was recorded, nor of a file that somebody
+ * else has damaged. */
+void SaveCare::enable()
+{
+    m_logbook.widget->setEnabled(m_loss != Loss::Everything && m_others != Others::Damage);
+}
+
 void SaveCare::settle()
 {
     m_loss = Loss::None;
     m_unsaved.clear();
-    m_logbook.widget->setEnabled(true);
+    enable();
     m_messages.retract(Saving);
     Q_EMIT orderChanged();
 }
@@ -260,7 +258,8 @@ void SaveCare::flush()
 {
     m_watch.catchUp();
     // What was damaged or changed by somebody else is not overwritten with what the window happens to hold.
-    if (m_loss == Loss::Everything || m_loss == Loss::Change || m_byOthers)
+    if (m_loss == Loss::Everything || m_loss == Loss::Change || m_others != Others::Nothing ||
+        m_watch.file().state() != FileWatch::Known)
         return;
     const QByteArray held = heldByWindow();
     if (held.isEmpty() || held == m_openedAs || held == heldByFile())
@@ -275,6 +274,8 @@ void SaveCare::flush()
 
 QByteArray SaveCare::heldByWindow() const
 {
+    if (m_showsPart)
+        return m_watch.file().known();
     const QByteArray document = CatalogueFile::heldBy(*m_logbook.widget, m_folder.path()).document;
     return WholeFile::isWhole(document) ? document : QByteArray();
 }

@@ -16,19 +16,26 @@ namespace {
 const QString Restored = u"restored"_s; // what a message is about
 }
 
-void SaveCare::readWritten()
+void SaveCare::readWritten(const QByteArray &document)
 {
     m_logbook.reload();
-    takeForOurs();
+    m_showsPart = false;
+    m_watch.accept();
+    m_watch.file().acceptAs(document); // somebody else may have written meanwhile
+    setOthers(Others::Nothing);
+    m_keeper.look(document);
+    m_keeper.look();
 }
 
 bool SaveCare::takeWritten(const QByteArray &document)
 {
+    m_watch.file().look();
+    // The window has then read what is followed like any other version of somebody else's.
+    m_showsPart = m_watch.file().state() != FileWatch::Known;
     m_openedAs = heldByWindow();
     settle();
     Q_EMIT written(document);
-    return heldByFile() == document &&
-           (m_openedAs == document || m_openedAs == CatalogueFile::loadAndSave(document).document);
+    return m_openedAs == document || m_openedAs == CatalogueFile::loadAndSave(document).document;
 }
 
 void SaveCare::tryAgain()
@@ -61,7 +68,7 @@ void SaveCare::restoreLastState()
                 .arg(problem));
         return;
     }
-    readWritten();
+    readWritten(state);
     takeWritten(state);
     m_messages.tell(
         Restored,
@@ -106,8 +113,10 @@ QString SaveCare::keepIn(const StorageFolder &folder, FolderLock &lock) const
 bool SaveCare::save()
 {
     const QByteArray held = heldByWindow();
+    if (!mayOverwrite())
+        return false;
     m_logbook.save();
-    const bool changed = m_watch.isChanged();
+    const bool changed = m_watch.file().isWritten();
     takeForOurs();
     const QByteArray document = heldByFile();
     return held.isEmpty() ? changed && WholeFile::isWhole(document) : document == held;

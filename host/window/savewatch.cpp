@@ -5,9 +5,14 @@
 #include <QChildEvent>
 #include <QComboBox>
 #include <QFileInfo>
+#include <QLabel>
 
 #include <chrono>
 #include <utility>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -30,55 +35,62 @@ std::chrono::milliseconds tickOf(const QDateTime &modified)
     return modified.time().msec() == 0 ? 2000ms : 20ms;
 }
 
+/** Why a document is not one whole logbook. */
+QString logbookProblem(const QByteArray &document)
+{
+    return WholeFile::inspect(document).problem;
+}
+
+/** Whether a path leads to another file than the one that is open. */
+bool isReplaced(const QString &path, const QFile &file)
+{
+#ifdef Q_OS_UNIX
+    struct stat open = {};
+    struct stat there = {};
+    return fstat(file.handle(), &open) == 0 && (stat(QFile::encodeName(path).constData(), &there) != 0 ||
+                                                open.st_ino != there.st_ino || open.st_dev != there.st_dev);
+#else
+    Q_UNUSED(path)
+    Q_UNUSED(file)
+    return false; // a file that is open cannot be replaced there
+#endif
+}
+
 } // namespace
 
 SaveWatch::SaveWatch(QWidget *logbook, const StorageFolder &folder, QObject *parent)
     : QObject(parent)
-    , m_folder(folder)
+    , m_path(folder.dataFile())
     , m_overview(logbook->findChild<QScrollArea *>(u"scrollArea"_s))
     , m_chartButton(logbook->findChild<QAbstractButton *>(u"pb_chart"_s))
     , m_batteries(logbook->findChild<QComboBox *>(u"cb_batteryData"_s))
     , m_models(logbook->findChild<QComboBox *>(u"cb_select_model"_s))
-    , m_known(present())
+    , m_file(folder.dataFile(), &logbookProblem)
 {
     watchButtons(logbook);
     watchCards(m_overview->widget());
     m_overview->viewport()->installEventFilter(this);
-    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, &SaveWatch::fileNoticed);
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, &SaveWatch::fileNoticed);
-    renewWatcher();
-}
-
-SaveWatch::Stamp SaveWatch::present() const
-{
-    const QFileInfo file(m_folder.dataFile());
-    return file.exists() ? Stamp{file.lastModified(), file.size()} : Stamp{};
 }
 
 void SaveWatch::accept()
 {
     m_savePending = false;
-    m_known = present();
-    renewWatcher();
+    m_before.close();
+    m_file.accept();
 }
 
 void SaveWatch::catchUp()
 {
     if (m_savePending)
         attempted(false);
-    fileNoticed();
-}
-
-bool SaveWatch::isChanged() const
-{
-    return present() != m_known;
+    m_file.look();
 }
 
 bool SaveWatch::isInOneTickWithKnown() const
 {
-    return m_known.modified.isValid() &&
-           std::chrono::milliseconds(m_known.modified.msecsTo(QDateTime::currentDateTimeUtc())) <
-               tickOf(m_known.modified);
+    const QDateTime time = m_file.time();
+    return time.isValid() &&
+           std::chrono::milliseconds(time.msecsTo(QDateTime::currentDateTimeUtc())) < tickOf(time);
 }
 
 bool SaveWatch::shows(const QByteArray &document) const
@@ -114,7 +126,6 @@ void SaveWatch::watchCards(const QObject *content)
     }
 }
 
-/** However a button is pressed, it says "released" before "clicked", which is when the window saves. */
 void SaveWatch::watchButton(const QAbstractButton *button)
 {
     connect(button, &QAbstractButton::released, this, &SaveWatch::beforeClick, Qt::UniqueConnection);
@@ -129,9 +140,54 @@ bool SaveWatch::eventFilter(QObject *watched, QEvent *event)
 
 void SaveWatch::beforeClick()
 {
+    m_clicked = qobject_cast<QAbstractButton *>(sender());
     catchUp();
+    if (m_file.state() != FileWatch::Known)
+        Q_EMIT aboutToOverwrite();
     m_contentBeforeClick = m_overview->widget();
     m_tooFast = isInOneTickWithKnown();
+    m_before.close();
+    m_before.setFileName(m_path);
+    if (QFileInfo(m_path).isFile())
+        m_before.open(QFile::ReadOnly);
+}
+
+void SaveWatch::hold()
+{
+    m_held = cardOf(m_clicked);
+    m_clicked->blockSignals(true);
+    const auto unblock = [button = m_clicked] {
+        if (button)
+            button->blockSignals(false);
+    };
+    QMetaObject::invokeMethod(this, unblock, Qt::QueuedConnection);
+}
+
+SaveWatch::Card SaveWatch::cardOf(const QAbstractButton *button)
+{
+    const QWidget *card = button->parentWidget();
+    while (card && !card->inherits("BatteryWidget"))
+        card = card->parentWidget();
+    if (!card)
+        return {};
+    return {card->findChild<QLabel *>(u"lbl_name"_s)->text(), button->text()};
+}
+
+bool SaveWatch::repeatHeld()
+{
+    const Card held = std::exchange(m_held, Card());
+    if (held == Card())
+        return false;
+    QList<QAbstractButton *> found;
+    const auto buttons = m_overview->widget()->findChildren<QAbstractButton *>();
+    for (QAbstractButton *button : buttons) {
+        if (cardOf(button) == held)
+            found.append(button);
+    }
+    if (found.size() != 1)
+        return false;
+    found.first()->click();
+    return true;
 }
 
 void SaveWatch::cardChanged()
@@ -139,6 +195,7 @@ void SaveWatch::cardChanged()
     // A card that was placed again is saved once more for every placing: looked at when all of that is done.
     if (!std::exchange(m_savePending, true))
         QMetaObject::invokeMethod(this, &SaveWatch::catchUp, Qt::QueuedConnection);
+    m_file.expect();
 }
 
 void SaveWatch::editClicked()
@@ -149,31 +206,25 @@ void SaveWatch::editClicked()
 
 void SaveWatch::attempted(bool reloaded)
 {
-    const bool changed = isChanged();
+    const bool changed = m_file.isWritten();
+    const QByteArray replaced = replacedSave();
+    m_wasReplaced = !replaced.isEmpty();
     accept();
+    if (m_wasReplaced)
+        m_file.acceptAs(replaced); // what is there now is somebody else's
     if (changed)
         Q_EMIT saved(reloaded);
     else
         Q_EMIT unchanged(reloaded);
 }
 
-void SaveWatch::fileNoticed()
+/** What the window has saved in the file that another one has taken the place of since. */
+QByteArray SaveWatch::replacedSave()
 {
-    renewWatcher();
-    if (m_savePending || !isChanged())
-        return;
-    m_known = present();
-    Q_EMIT changedByOthers();
-}
-
-void SaveWatch::renewWatcher()
-{
-    // A file that was replaced is another one; a watcher forgets it.
-    const QString path = m_folder.dataFile();
-    if (!m_watcher.files().contains(path) && QFileInfo::exists(path))
-        m_watcher.addPath(path);
-    if (!m_watcher.directories().contains(m_folder.path()) && QFileInfo::exists(m_folder.path()))
-        m_watcher.addPath(m_folder.path());
+    if (!m_before.isOpen() || !isReplaced(m_path, m_before))
+        return QByteArray();
+    const QByteArray held = m_before.readAll();
+    return held == m_file.known() ? QByteArray() : held;
 }
 
 } // namespace Host

@@ -33,11 +33,11 @@ SidePanel::SidePanel(OpenLogbook &logbook, Questions &questions, QWidget *parent
     , m_statistics(new StatisticsTab(logbook, questions))
     , m_reading(new QPushButton)
 {
-    insertTab(Today, m_today, tr("Today"));
-    insertTab(Batteries, m_batteries, tr("Batteries"));
-    insertTab(Flights, m_flights, tr("Flights"));
-    insertTab(Statistics, m_statistics, tr("Statistics"));
-    setAccessibleName(tr("Side panel"));
+    insertTab(Today, m_today, QString());
+    insertTab(Batteries, m_batteries, QString());
+    insertTab(Flights, m_flights, QString());
+    insertTab(Statistics, m_statistics, QString());
+    retranslate();
     setUsesScrollButtons(false);
     setCornerWidget(m_reading);
     m_reading->hide();
@@ -58,6 +58,15 @@ SidePanel::~SidePanel() = default;
 QStringList SidePanel::tabNames()
 {
     return {u"today"_s, u"batteries"_s, u"flights"_s, u"statistics"_s};
+}
+
+void SidePanel::retranslate()
+{
+    setTabText(Today, tr("Today"));
+    setTabText(Batteries, tr("Batteries"));
+    setTabText(Flights, tr("Flights"));
+    setTabText(Statistics, tr("Statistics"));
+    setAccessibleName(tr("Side panel"));
 }
 
 /** Ages, days since use and advice are those of a day. */
@@ -126,6 +135,15 @@ QSize SidePanel::sizeHint() const
     // Wide enough for a table of flights, whatever the tab on show.
     constexpr int Characters = 90;
     return QSize(fontMetrics().averageCharWidth() * Characters, QTabWidget::sizeHint().height());
+}
+
+void SidePanel::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        retranslate();
+        refreshAll();
+    }
+    QTabWidget::changeEvent(event);
 }
 
 void SidePanel::showEvent(QShowEvent *event)

@@ -49,9 +49,11 @@ Q_SIGNALS:
     void renameRequested();
 
 protected:
+    void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
+    void retranslate();
     void refreshIfSeen();
     void lookAtTheDay();
     void refreshLater();

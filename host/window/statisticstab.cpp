@@ -63,10 +63,12 @@ StatisticsTab::StatisticsTab(OpenLogbook &logbook, Questions &questions, QWidget
     , m_questions(questions)
     , m_heading(new QLabel)
     , m_content(new QWidget)
+    , m_groupingLabel(new QLabel)
     , m_grouping(new QComboBox)
+    , m_measureLabel(new QLabel)
     , m_measure(new QComboBox)
-    , m_isFrom(new QCheckBox(tr("&From:")))
-    , m_isTo(new QCheckBox(tr("&To:")))
+    , m_isFrom(new QCheckBox)
+    , m_isTo(new QCheckBox)
     , m_summary(new QLabel)
     , m_table(new QTableView)
     , m_model(new StatisticsModel(this))
@@ -91,7 +93,7 @@ StatisticsTab::StatisticsTab(OpenLogbook &logbook, Questions &questions, QWidget
     splitter->addWidget(buildPlot(questions));
     content->addWidget(splitter, 1);
     connect(m_buttons, &PlotButtons::tablePrintRequested, this, &StatisticsTab::print);
-    offerMeasures();
+    retranslate();
     connect(m_grouping, &QComboBox::currentIndexChanged, this, &StatisticsTab::showGroups);
     connect(m_measure, &QComboBox::currentIndexChanged, this, &StatisticsTab::showPlot);
 }
@@ -102,33 +104,48 @@ QWidget *StatisticsTab::buildChoices()
     auto *layout = new QGridLayout(choices);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setColumnStretch(4, 1);
-    const auto addChoice = [layout](int row, const QString &caption, QComboBox *box, const QString &name) {
-        auto *label = new QLabel(caption);
+    const auto addChoice = [layout](int row, QLabel *label, QComboBox *box) {
         label->setBuddy(box);
-        box->setAccessibleName(name);
         layout->addWidget(label, row, 0);
         layout->addWidget(box, row, 1);
     };
-    m_grouping->addItem(tr("Month"), static_cast<int>(Grouping::Month));
-    m_grouping->addItem(tr("Model"), static_cast<int>(Grouping::Model));
-    m_grouping->addItem(tr("Location"), static_cast<int>(Grouping::Location));
-    addChoice(0, tr("Add up &by:"), m_grouping, tr("Add up by"));
-    addChoice(1, tr("Pl&ot:"), m_measure, tr("What is plotted"));
-    m_from = addDay(layout, 0, m_isFrom, tr("First day"));
-    m_to = addDay(layout, 1, m_isTo, tr("Last day"));
+    for (const Grouping grouping : {Grouping::Month, Grouping::Model, Grouping::Location})
+        m_grouping->addItem(QString(), static_cast<int>(grouping));
+    addChoice(0, m_groupingLabel, m_grouping);
+    addChoice(1, m_measureLabel, m_measure);
+    m_from = addDay(layout, 0, m_isFrom);
+    m_to = addDay(layout, 1, m_isTo);
     m_from->setDate(QDate(m_from->date().year(), 1, 1));
     return choices;
 }
 
+void StatisticsTab::retranslate()
+{
+    m_groupingLabel->setText(tr("Add up &by:"));
+    m_grouping->setAccessibleName(tr("Add up by"));
+    m_grouping->setItemText(static_cast<int>(Grouping::Month), tr("Month"));
+    m_grouping->setItemText(static_cast<int>(Grouping::Model), tr("Model"));
+    m_grouping->setItemText(static_cast<int>(Grouping::Location), tr("Location"));
+    m_measureLabel->setText(tr("Pl&ot:"));
+    m_measure->setAccessibleName(tr("What is plotted"));
+    const auto nameDay = [](QCheckBox *box, QDateEdit *day, const QString &caption, const QString &name) {
+        box->setText(caption);
+        box->setAccessibleName(tr("%1 is limited").arg(name));
+        day->setAccessibleName(name);
+    };
+    nameDay(m_isFrom, m_from, tr("&From:"), tr("First day"));
+    nameDay(m_isTo, m_to, tr("&To:"), tr("Last day"));
+    m_table->setAccessibleName(tr("Flights, added up"));
+    offerMeasures();
+}
+
 /** A day that limits the range where its box is ticked. */
-QDateEdit *StatisticsTab::addDay(QGridLayout *layout, int row, QCheckBox *box, const QString &name)
+QDateEdit *StatisticsTab::addDay(QGridLayout *layout, int row, QCheckBox *box)
 {
     auto *day = new QDateEdit(QDate::currentDate());
     day->setDisplayFormat(u"yyyy-MM-dd"_s);
     day->setCalendarPopup(true);
-    day->setAccessibleName(name);
     day->setEnabled(false);
-    box->setAccessibleName(tr("%1 is limited").arg(name));
     layout->addWidget(box, row, 2);
     layout->addWidget(day, row, 3);
     connect(box, &QCheckBox::toggled, day, &QWidget::setEnabled);
@@ -150,7 +167,6 @@ void StatisticsTab::buildTable()
     m_table->verticalHeader()->hide();
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(-1, Qt::AscendingOrder); // as they come, until the user wishes otherwise
-    m_table->setAccessibleName(tr("Flights, added up"));
     m_table->horizontalHeader()->setHighlightSections(false);
     m_columns = new TableColumns(*m_table, u"statistics"_s);
 }

@@ -34,9 +34,12 @@ public:
 
     void refresh() override;
 
+protected:
+    void retranslate() override;
+
 private:
     QWidget *buildChoices();
-    QDateEdit *addDay(QGridLayout *layout, int row, QCheckBox *box, const QString &name);
+    QDateEdit *addDay(QGridLayout *layout, int row, QCheckBox *box);
     void buildTable();
     QWidget *buildPlot(Questions &questions);
     void work();
@@ -53,7 +56,9 @@ private:
     Figures m_figures;
     QLabel *m_heading;
     QWidget *m_content;
+    QLabel *m_groupingLabel;
     QComboBox *m_grouping;
+    QLabel *m_measureLabel;
     QComboBox *m_measure;
     QCheckBox *m_isFrom;
     QCheckBox *m_isTo;

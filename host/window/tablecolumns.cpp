@@ -9,6 +9,8 @@
 #include <QTableView>
 #include <QTimer>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
@@ -17,15 +19,32 @@ TableColumns::TableColumns(QTableView &table, const QString &name)
     : QObject(&table)
     , m_table(table)
     , m_name(name)
+    , m_sort(new QAction(tr("&Sort by This Column"), this))
 {
     QHeaderView *header = table.horizontalHeader();
     header->setSectionsMovable(true);
     header->viewport()->installEventFilter(this); // widths change for other reasons than the user, too
     connect(header, &QHeaderView::sortIndicatorChanged, this, &TableColumns::keep);
-    auto *sort = new QAction(tr("&Sort by This Column"), this);
-    connect(sort, &QAction::triggered, this, &TableColumns::sortByCurrent);
-    table.addAction(sort);
+    connect(m_sort, &QAction::triggered, this, &TableColumns::sortByCurrent);
+    table.addAction(m_sort);
     table.setContextMenuPolicy(Qt::ActionsContextMenu);
+    table.installEventFilter(this); // for its language
+}
+
+void TableColumns::retranslate()
+{
+    m_sort->setText(tr("&Sort by This Column"));
+    retitle(m_table);
+}
+
+void TableColumns::retitle(QTableView &table)
+{
+    QHeaderView *header = table.horizontalHeader();
+    if (header->count() == 0)
+        return;
+    Q_EMIT table.model()->headerDataChanged(Qt::Horizontal, 0, header->count() - 1);
+    for (int column = 0; column < header->count(); ++column)
+        header->resizeSection(column, std::max(header->sectionSize(column), header->sectionSizeHint(column)));
 }
 
 /** Another number of columns is another table. */
@@ -46,6 +65,8 @@ void TableColumns::keep()
 
 bool TableColumns::eventFilter(QObject *, QEvent *event)
 {
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
     if (event->type() == QEvent::MouseButtonRelease)
         QTimer::singleShot(0, this, &TableColumns::keep); // when the header has seen it
     return false;

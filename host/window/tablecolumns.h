@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QString>
 
+class QAction;
 class QTableView;
 
 namespace Host {
@@ -22,16 +23,21 @@ public:
     /** Puts the columns as they were left. @return whether the user has ever changed them. */
     bool restore();
 
+    /** Has a table ask for its titles in another language, and makes room for them. */
+    static void retitle(QTableView &table);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void retranslate();
     QString key() const;
     void keep();
     void sortByCurrent();
 
     QTableView &m_table;
     const QString m_name;
+    QAction *m_sort;
 };
 
 } // namespace Host

@@ -41,12 +41,17 @@ TodayTab::TodayTab(OpenLogbook &logbook, QWidget *parent)
     m_heading->setWordWrap(true);
     m_heading->setTextFormat(Qt::PlainText);
     m_heading->setBuddy(m_list);
-    m_list->setAccessibleName(tr("What to do today"));
+    retranslate();
     m_list->setWordWrap(true);
     m_list->setAlternatingRowColors(true);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     connect(m_list, &QListWidget::itemClicked, this, &TodayTab::choose);
     connect(m_list, &QListWidget::itemActivated, this, &TodayTab::choose); // by keyboard
+}
+
+void TodayTab::retranslate()
+{
+    m_list->setAccessibleName(tr("What to do today"));
 }
 
 void TodayTab::refresh()

@@ -27,6 +27,9 @@ Q_SIGNALS:
     /** The user wants to see what an advice is about. */
     void batteryRequested(const QString &name);
 
+protected:
+    void retranslate() override;
+
 private:
     void add(const Advice &advice);
     void choose(const QListWidgetItem *item);

@@ -24,6 +24,8 @@ private Q_SLOTS:
     void equalValuesAreNoTrend();
     void plantedAgeingIsFoundInLogs();
     void anotherFlightOfTheSameTimeIsNoError();
+    void theChangeIsThatFromTheFirstFlightToTheLast();
+    void ofVeryManyFlightsTheNewestCount();
 
 private:
     static const QDateTime Start;
@@ -84,6 +86,11 @@ void AgeingTest::chanceIsNoAgeing_data()
     // Of five flights only a trend without any exception is less likely than one in twenty.
     QTest::newRow("five, all falling") << QList<double>{5, 4, 3, 2, 1} << true;
     QTest::newRow("five, one exchanged") << QList<double>{5, 4, 3, 1, 2} << false;
+    QTest::newRow("six, one exchanged") << QList<double>{6, 5, 4, 2, 3, 1} << true;
+    QTest::newRow("six, two exchanged") << QList<double>{6, 4, 5, 3, 1, 2} << false;
+    // Equal values narrow what chance does: seven different ones with three exchanged are not enough.
+    QTest::newRow("seven, two of them equal") << QList<double>{6, 5, 5, 1, 4, 3, 2} << true;
+    QTest::newRow("seven, all different") << QList<double>{7, 6, 5, 1, 2, 4, 3} << false;
     QTest::newRow("eight, mostly falling") << QList<double>{8, 7, 5, 6, 4, 2, 3, 1} << true;
     QTest::newRow("eight, hardly falling") << QList<double>{8, 3, 5, 6, 4, 2, 7, 1} << false;
     QTest::newRow("up and down") << QList<double>{4, 1, 3, 2, 4, 1, 3, 2, 4, 1, 3, 2} << false;
@@ -151,6 +158,25 @@ void AgeingTest::anotherFlightOfTheSameTimeIsNoError()
     QCOMPARE(healthOf(made).capacity->perYear, 0.0);
     QCOMPARE(healthOf(made).capacity->flights, 6);
     QVERIFY(!healthOf(made).capacity->isAgeing);
+}
+
+void AgeingTest::theChangeIsThatFromTheFirstFlightToTheLast()
+{
+    const QList<Measurement> made = capacities({2000, 1980, 1960, 1940, 1920, 1900});
+    QVERIFY(std::abs(healthOf(made).capacity->change + 100) < 1e-6);
+    QVERIFY(std::abs(healthOf(made).capacity->perYear + 100 * 365.25 / 35) < 1e-6);
+}
+
+void AgeingTest::ofVeryManyFlightsTheNewestCount()
+{
+    QList<double> values(300, 1000); // long ago
+    for (int i = 0; i < 500; ++i)
+        values.append(3000 - i);
+    const Health health = healthOf(capacities(values));
+    QCOMPARE(health.capacities, 800);
+    QCOMPARE(health.capacity->flights, 500);
+    QCOMPARE(health.capacity->median, 2750.5);
+    QVERIFY(std::abs(health.capacity->change + 499) < 1e-6);
 }
 
 QTEST_GUILESS_MAIN(AgeingTest)

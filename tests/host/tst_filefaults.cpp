@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/data/measured.h"
 #include "host/safety/backups.h"
 #include "host/safety/storagefolder.h"
 #include "tests/host/support/faultrun.h"
@@ -8,6 +9,8 @@
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <algorithm>
 
 using namespace Host;
 using namespace Qt::Literals::StringLiterals;
@@ -70,6 +73,35 @@ Scenario restoreOfAMissingFile()
             },
             {{u"press"_s, u"Restore"_s}, {u"click"_s, u"3S A"_s}},
             Logbook::read(laterLogbook())};
+}
+
+QByteArray measured(const QString &battery)
+{
+    Measured measured;
+    MeasuredDischarge entry;
+    entry.battery = battery;
+    measured.discharges.append(entry);
+    return MeasuredFile::save(measured);
+}
+
+/** A copy with other measured values is restored. */
+Scenario restoreFromTheMenu()
+{
+    return {u"copy from the menu"_s,
+            [](const Home &home) {
+                home.makeLogbook(smallLogbook());
+                const QString beside = home.logbook() + u"/voltbok-measured.json"_s;
+                QVERIFY(Test::write(beside, measured(u"3S A"_s)));
+                addCopies(home);
+                QVERIFY(Test::write(beside, measured(u"3S B"_s)));
+            },
+            {{u"menu"_s, u"Backups…"_s},
+             {u"select"_s, u"1"_s},
+             {u"answer"_s, u"Restore"_s},
+             {u"leave"_s},
+             {u"click"_s, u"3S A"_s}},
+            Logbook::read(smallLogbook()),
+            u"voltbok-measured.json"_s};
 }
 
 Scenario emptyStart()
@@ -139,7 +171,8 @@ void FileFaultsTest::cleanupTestCase()
 void FileFaultsTest::whateverOperationFailsNothingIsLostAndNothingIsSilent_data()
 {
     QTest::addColumn<Scenario>("scenario");
-    for (const Scenario &scenario : {session(), recovery(), restoreOfAMissingFile(), emptyStart()})
+    for (const Scenario &scenario :
+         {session(), recovery(), restoreOfAMissingFile(), restoreFromTheMenu(), emptyStart()})
         QTest::newRow(qPrintable(scenario.name)) << scenario;
 }
 
@@ -156,6 +189,11 @@ void FileFaultsTest::whateverOperationFailsNothingIsLostAndNothingIsSilent()
         QVERIFY(over.wait(30'000));
         QVERIFY2(faultless.problems().isEmpty(), qPrintable(faultless.problems().join(u"; "_s)));
         operations = faultless.operations();
+        const bool isWritten =
+            std::any_of(operations.cbegin(), operations.cend(), [&](const Operation &operation) {
+                return operation.flags.contains(u'c') && operation.path == scenario.written;
+            });
+        QCOMPARE(isWritten, !scenario.written.isEmpty());
     }
     const QList<Fault> faults = faultsFor(operations);
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "host/data/moments.h"
 #include "host/statistics/history.h"
 
 #include <QSet>
@@ -22,6 +23,7 @@ private Q_SLOTS:
     void pointsAreInTheOrderOfTime();
     void theLimitIsWhatTheBatteryPermits_data();
     void theLimitIsWhatTheBatteryPermits();
+    void whatLogsTellIsShownFromFiveFlightsOn();
     void aFewPointsAreAllKept();
     void ofManyPointsTheHighestInEachPlaceIsKept();
     void sourcesNeverHideEachOther();
@@ -111,6 +113,40 @@ void HistoryTest::theLimitIsWhatTheBatteryPermits()
     const Host::History history = historyOf(battery, static_cast<Quantity>(quantity));
     QCOMPARE(history.limit.has_value(), limit > 0.0);
     QCOMPARE(history.limit.value_or(0.0), limit);
+}
+
+void HistoryTest::whatLogsTellIsShownFromFiveFlightsOn()
+{
+    Battery battery;
+    battery.name = QStringLiteral("Pack A");
+    battery.capacity = 2000;
+    battery.rating = 25;
+    Host::Measured measured;
+    for (int i = 5; i > 0; --i) { // the newest first
+        battery.discharges.append({day(i), 1500, 3000, true});
+        Host::MeasuredDischarge entry;
+        entry.battery = battery.name;
+        entry.moment = Host::momentOf(day(i));
+        entry.resistance = 30 + i;
+        if (i > 1)
+            entry.capacity = 1900 + i;
+        measured.discharges.append(entry);
+    }
+    const Host::History resistance = historyOf(battery, Quantity::Resistance, measured);
+    QCOMPARE(resistance.points.size(), 5);
+    QCOMPARE(resistance.points.constFirst().value, 31.0);
+    QCOMPARE(resistance.points.constFirst().time, day(1));
+    QCOMPARE(resistance.points.constFirst().source, Source::Measured);
+    QVERIFY(!resistance.limit);
+    QVERIFY(historyOf(battery, Quantity::Capacity, measured).points.isEmpty());
+    measured.discharges.last().capacity = 1950;
+    const Host::History capacity = historyOf(battery, Quantity::Capacity, measured);
+    QCOMPARE(capacity.points.size(), 5);
+    QCOMPARE(capacity.points.constFirst().value, 1950.0);
+    QCOMPARE(capacity.limit, 2000.0);
+    QVERIFY(historyOf(battery, Quantity::Capacity).points.isEmpty());
+    battery.discharges.last().isMeasured = false;
+    QVERIFY(historyOf(battery, Quantity::Resistance, measured).points.isEmpty());
 }
 
 void HistoryTest::aFewPointsAreAllKept()

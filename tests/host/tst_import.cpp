@@ -29,6 +29,7 @@ private Q_SLOTS:
     void whatIsNewNeedsABattery();
     void enteredValuesAreReplacedOnRequest();
     void theModelCanBeNamed();
+    void columnsThatWereChosenInTheWindowAreRead();
     void namesThatAreNotThereAreRefused_data();
     void namesThatAreNotThereAreRefused();
     void goodFilesAreDoneBesideBadOnes_data();
@@ -223,6 +224,23 @@ void ImportTest::theModelCanBeNamed()
     QCOMPARE(ImportHome::actions(m_home->import({u"--dry-run"_s, u"--json"_s, log})), QStringList{u"new"_s});
     QCOMPARE(ImportHome::actions(m_home->import({u"--json"_s, log, u"--model"_s, u"Skylark"_s})),
              QStringList{u"fill"_s});
+}
+
+void ImportTest::columnsThatWereChosenInTheWindowAreRead()
+{
+    QByteArray bytes = ImportHome::header() + ImportHome::rows(at(14, 38), 300, 1500);
+    bytes.replace("Curr(A),Capa(mAh),VFAS(V)", "Motor(A),Drawn,Pack(V)");
+    QVERIFY(m_home->put(u"Skylark-2026-05-03-143800.csv"_s, bytes));
+    const QStringList look{m_home->file(ImportHome::log()), u"--dry-run"_s, u"--json"_s};
+    QCOMPARE(ImportHome::actions(m_home->import(look)), QStringList(u"none"_s));
+    Measured measured;
+    const QList<ImportedLog> logs = LogReading::read({m_home->file(ImportHome::log())}, measured);
+    LogReading::remember(measured, {{logs.first().log.headerKey, {u"Drawn"_s, u"Motor(A)"_s, {}}}});
+    QCOMPARE(MeasuredStore::save(m_home->folder(), measured), QString());
+    QCOMPARE(ImportHome::actions(m_home->import(look)), QStringList(u"fill"_s));
+    QCOMPARE(m_home->import({m_home->file(ImportHome::log())}).status, 0);
+    QCOMPARE(m_home->catalogue().batteries.at(0).discharges.first().discharged, 1500U);
+    QCOMPARE(MeasuredStore::load(m_home->folder()).measured.columns.size(), 1);
 }
 
 void ImportTest::namesThatAreNotThereAreRefused_data()

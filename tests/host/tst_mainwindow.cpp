@@ -98,12 +98,16 @@ void MainWindowTest::whatSomebodyElseHasWrittenIsNotOverwrittenAtTheEnd()
 {
     HostWindow window;
     recordInTheWindowAlone(window);
+    const auto held = window.gui().modelList.constFirst()->getLogData().size();
     const QByteArray theirs = HostWindow::theirs(u"of another"_s);
     window.put(theirs); // and at once:
     QVERIFY(window.window().close());
     window.close();
     QCOMPARE(window.bytes(), theirs);
-    QCOMPARE(window.told.filter(u"Another program"_s).size(), 1);
+    const QByteArrayList copies = window.copies();
+    QVERIFY(copies.contains(theirs));
+    QVERIFY(std::any_of(copies.cbegin(), copies.cend(), // it is in no other place
+                        [held](const QByteArray &copy) { return copy.count("<LogData") == held; }));
 }
 
 void MainWindowTest::aLastSaveThatFailsAsks()
@@ -267,14 +271,14 @@ void MainWindowTest::anotherFolderEndsTheMessagesAndTheCareForTheOneBefore()
 {
     HostWindow window;
     window.put(HostWindow::theirs(u"of another"_s));
-    QTRY_VERIFY(!window.others().isEmpty());
+    QTRY_VERIFY(!window.taken().isEmpty());
     const QByteArray before = window.bytes();
     const Host::StorageFolder other(window.place() + u"/other"_s);
     auto lock = std::make_shared<Host::FolderLock>();
     QVERIFY(QDir().mkdir(other.path()));
     QCOMPARE(lock->take(other).problem, QString());
     window.window().open(other, std::move(lock));
-    QCOMPARE(window.others(), QString());
+    QCOMPARE(window.taken(), QString());
     window.addLocation(u"Hill"_s);
     window.settle();
     QVERIFY(Test::contents(other.dataFile()).contains("Hill"));

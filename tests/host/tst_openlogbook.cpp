@@ -26,6 +26,7 @@ private Q_SLOTS:
     void aFileThatCannotBeWrittenStaysAsItIs();
     void nothingIsChangedWhileAFlightIsEntered();
     void aVersionOfSomebodyElseEndsTheHistory();
+    void whoLookedAtAnotherVersionChangesNothing();
     void aNewLogbookIsEmptyAgainAfterUndo();
     void aRestoreIsUndone();
 
@@ -214,13 +215,25 @@ void OpenLogbookTest::aVersionOfSomebodyElseEndsTheHistory()
     window.settle();
     QVERIFY(window.logbook().canUndo());
     const QByteArray theirs = window.bytes().replace("Long Meadow", "Their Meadow");
-    QTest::qWait(20); // longer than a tick of the file's clock
     window.put(theirs);
-    QTRY_VERIFY(!window.others().isEmpty());
+    QTRY_VERIFY(!window.taken().isEmpty());
     QVERIFY(!window.logbook().canUndo());
     QCOMPARE(window.logbook().catalogue()->locations, QStringList(u"Their Meadow"_s));
-    QVERIFY(!rename(window.logbook(), u"Pack Z"_s).isEmpty()); // the window does not show it
+    QCOMPARE(window.gui().locations(), QStringList(u"Their Meadow"_s));
+    QCOMPARE(rename(window.logbook(), u"Pack Z"_s), QString());
+    QCOMPARE(window.logbook().undo(), QString());
     QCOMPARE(window.bytes(), theirs);
+}
+
+void OpenLogbookTest::whoLookedAtAnotherVersionChangesNothing()
+{
+    HostWindow window;
+    const QByteArray theirs = window.bytes().replace("Pack A", "Pack C");
+    window.put(theirs); // and at once:
+    QVERIFY(rename(window.logbook(), u"Pack Z"_s).startsWith(u"Nothing was changed"_s));
+    QCOMPARE(window.bytes(), theirs);
+    QTRY_VERIFY(!window.taken().isEmpty());
+    QCOMPARE(rename(window.logbook(), u"Pack Z"_s), QString());
 }
 
 void OpenLogbookTest::aNewLogbookIsEmptyAgainAfterUndo()

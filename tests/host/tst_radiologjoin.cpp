@@ -25,6 +25,8 @@ private Q_SLOTS:
     void fiveMilliamperehoursAreTheSameCounter_data();
     void fiveMilliamperehoursAreTheSameCounter();
     void anotherModelIsAnotherBattery();
+    void sessionsThatOverlapAreTwoDischarges();
+    void aCounterThatFellCountsFromPlugIn();
     void aMuteLogBetweenThemDoesNotPartThem();
     void ofDoubtfulPartsTheIntegralIsAdded();
     void aBreakOfLessThanAMinuteIsPartOfTheDuration();
@@ -32,6 +34,8 @@ private Q_SLOTS:
     void joiningTwiceChangesNothing();
     void aDayFileThatHasGrownGoesOnWithoutACounter();
     void aClockThatRanBackDoesNotPartADischarge();
+    void aClockThatRanBackJoinsOnlyWhatRunsOn();
+    void clocksThatRunBackAndForthComeToAnEnd();
     void aCounterThatNeverCountsJoinsNothing();
     void theCapacityIsThatOfTheWholeDischarge();
     void whatASessionMeasuredItselfStays();
@@ -146,6 +150,29 @@ void RadioLogJoinTest::anotherModelIsAnotherBattery()
     QVERIFY(!sessions[1].continues);
     QCOMPARE(sessions[1].discharged, 2000);
     QCOMPARE(sessions[2].continues, sessions[0].start);
+    sessions = {session(steady(101, 36), 0, u"Heron"_s), part(1, 10 * Minute, 1000)};
+    joinDischarges(sessions);
+    QVERIFY(!sessions.last().continues);
+}
+
+void RadioLogJoinTest::sessionsThatOverlapAreTwoDischarges()
+{
+    QList<Session> sessions{part(0, 0, 0), part(1, 50'000, 1000)};
+    joinDischarges(sessions);
+    QVERIFY(!sessions.last().continues);
+    QCOMPARE(sessions.last().discharged, 2000);
+}
+
+/** Another battery, say, plugged in while the radio went on logging. */
+void RadioLogJoinTest::aCounterThatFellCountsFromPlugIn()
+{
+    Rows rows = shifted(steady(101, 36, 12, 1000), 10 * Minute);
+    for (size_t i = 50; i < rows.size(); ++i)
+        rows[i].used -= 1500;
+    QList<Session> sessions{part(0, 0, 0), session(rows, 1)};
+    joinDischarges(sessions);
+    QCOMPARE(sessions.last().continues, sessions.first().start);
+    QCOMPARE(sessions.last().counter, 500);
 }
 
 void RadioLogJoinTest::aMuteLogBetweenThemDoesNotPartThem()
@@ -179,6 +206,12 @@ void RadioLogJoinTest::aBreakOfLessThanAMinuteIsPartOfTheDuration()
     sessions.last() = part(1, 100'000 + Minute, 1000);
     joinDischarges(sessions);
     QCOMPARE(sessions.first().duration, 200);
+    // Also over a log without load between them.
+    sessions = {part(0, 0, 0), session(shifted(steady(10, 0.5, 12, 1000), 110'000), 1),
+                part(2, 130'000, 1001)};
+    joinDischarges(sessions);
+    QCOMPARE(sessions.last().continues, sessions.first().start);
+    QCOMPARE(sessions.first().duration, 230);
 }
 
 void RadioLogJoinTest::anEarlierImportGoesOn()
@@ -204,6 +237,12 @@ void RadioLogJoinTest::joiningTwiceChangesNothing()
     sessions.removeLast();
     joinDischarges(sessions);
     QCOMPARE(sessions.first().discharged, 1000);
+    sessions.append(part(1, 5 * Minute, 1000));
+    joinDischarges(sessions);
+    sessions.removeFirst();
+    joinDischarges(sessions);
+    QVERIFY(!sessions.first().continues);
+    QCOMPARE(sessions.first().discharged, 2000);
 }
 
 void RadioLogJoinTest::aDayFileThatHasGrownGoesOnWithoutACounter()
@@ -217,6 +256,12 @@ void RadioLogJoinTest::aDayFileThatHasGrownGoesOnWithoutACounter()
     QCOMPARE(sessions.last().continues, sessions.first().start);
     QCOMPARE(sessions.first().discharged, 2000);
     QCOMPARE(sessions.first().duration, 230);
+    for (const auto &[pause, isOne] : {std::pair(Minute, true), std::pair(Minute + 1000, false)}) {
+        sessions.last() = session(shifted(steady(101, 36), 100'000 + pause), 1, u"Swift"_s, "Curr(A)");
+        sessions.last().isResumed = true;
+        joinDischarges(sessions);
+        QCOMPARE(sessions.last().continues.has_value(), isOne);
+    }
 }
 
 void RadioLogJoinTest::aClockThatRanBackDoesNotPartADischarge()
@@ -228,6 +273,45 @@ void RadioLogJoinTest::aClockThatRanBackDoesNotPartADischarge()
     QCOMPARE(sessions.last().continues, sessions.first().start);
     QCOMPARE(sessions.first().discharged, 2000);
     QCOMPARE(sessions.first().duration, 200);
+}
+
+void RadioLogJoinTest::aClockThatRanBackJoinsOnlyWhatRunsOn()
+{
+    const auto joined = [](const Rows &rows) {
+        QList<Session> sessions = MadeLogs::readLog(MadeLogs::Text().add(rows).bytes()).sessions;
+        joinDischarges(sessions);
+        return sessions;
+    };
+    // The counter begins again.
+    QList<Session> sessions = joined(steady(101, 36) + shifted(steady(101, 36), -60 * Minute));
+    QVERIFY(!sessions.last().continues);
+    // What stands later in the file is not what went before, whatever the clock shows.
+    sessions = joined(shifted(steady(101, 36, 12, 1000), 10 * Minute) + steady(101, 36));
+    QVERIFY(!sessions.first().continues && !sessions.last().continues);
+    QCOMPARE(sessions.first().discharged, 2000);
+    QCOMPARE(sessions.last().discharged, 1000);
+    sessions = joined(shifted(steady(101, 36), 20 * Minute) + shifted(steady(101, 36, 12, 1000), 5 * Minute) +
+                      steady(101, 36));
+    QCOMPARE(sessions.at(1).continues, sessions.at(0).start);
+    QVERIFY(!sessions.at(2).continues);
+    QCOMPARE(sessions.at(0).discharged, 2000);
+}
+
+void RadioLogJoinTest::clocksThatRunBackAndForthComeToAnEnd()
+{
+    const auto stuck = [](qint64 after) {
+        Rows rows = shifted(steady(101, 36), after);
+        for (MadeLogs::Row &row : rows)
+            row.used = 1000;
+        return rows;
+    };
+    QList<Session> sessions =
+        MadeLogs::readLog(MadeLogs::Text().add(stuck(20 * Minute) + stuck(0)).bytes()).sessions;
+    sessions.append(session(stuck(10 * Minute), 1));
+    joinDischarges(sessions);
+    const auto first = std::count_if(sessions.cbegin(), sessions.cend(),
+                                     [](const Session &each) { return !each.continues; });
+    QCOMPARE(first, 1);
 }
 
 void RadioLogJoinTest::aCounterThatNeverCountsJoinsNothing()
@@ -259,8 +343,11 @@ void RadioLogJoinTest::theCapacityIsThatOfTheWholeDischarge()
     joinDischarges(sessions);
     QCOMPARE(sessions.last().continues, sessions.first().start);
     QVERIFY(!sessions.last().capacity);
-    QVERIFY2(std::abs(sessions.first().capacity.value_or(0) - 2000) < 100,
-             qPrintable(QString::number(sessions.first().capacity.value_or(0))));
+    const double capacity = sessions.first().capacity.value_or(0);
+    QVERIFY2(std::abs(capacity - 2000) < 100, qPrintable(QString::number(capacity)));
+    sessions.last().restBefore = *sessions.last().restBefore - 0.3; // that of the first one counts
+    joinDischarges(sessions);
+    QCOMPARE(sessions.first().capacity, capacity);
 }
 
 void RadioLogJoinTest::whatASessionMeasuredItselfStays()

@@ -21,10 +21,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QStringList Commands{u"list batteries"_s,  u"list models --json"_s,  u"list flights"_s,
-                           u"list discharges"_s, u"list flights --json"_s, u"list locations"_s,
-                           u"statistics"_s,      u"statistics --json"_s,   u"due"_s,
-                           u"due --json"_s,      u"export --format json"_s};
+const QStringList Commands{u"list batteries"_s,  u"list models --json"_s,   u"list flights"_s,
+                           u"list discharges"_s, u"list flights --json"_s,  u"list locations"_s,
+                           u"statistics"_s,      u"statistics --json"_s,    u"due"_s,
+                           u"due --json"_s,      u"export --format json"_s, u"backups"_s,
+                           u"backups --json"_s};
 
 struct Result
 {

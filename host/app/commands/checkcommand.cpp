@@ -25,17 +25,6 @@ struct Text
     Q_DECLARE_TR_FUNCTIONS(Check)
 };
 
-/** The state of a file that may be anywhere. */
-FileState stateOf(const QString &path)
-{
-    const WholeFile::Reading reading = WholeFile::read(path);
-    if (!reading.problem.isEmpty())
-        return {FileState::Unreadable, reading.problem, {}};
-    const Contents contents = WholeFile::inspect(reading.bytes);
-    return {contents.problem.isEmpty() ? FileState::Whole : FileState::Damaged, contents.problem,
-            reading.bytes, !contents.declaresEntities};
-}
-
 FileState stateOf(const Invocation &invocation)
 {
     const FileState state =
@@ -119,8 +108,7 @@ int Run::check(const Invocation &invocation)
         return EXIT_FAILURE;
     }
     const QString path = isNamed ? invocation.arguments.first() : invocation.folder.dataFile();
-    const FileState state =
-        isNamed ? CommandData::settled([&path] { return stateOf(path); }) : stateOf(invocation);
+    const FileState state = isNamed ? CommandData::stateOf(path) : stateOf(invocation);
     if (state.kind == FileState::Unreadable)
         return refuse(path, state.problem);
     const Findings findings = findingsIn(state);

@@ -7,6 +7,7 @@
 #include "host/demo/demo.h"
 #include "host/safety/measuredstore.h"
 #include "host/safety/recovery.h"
+#include "host/safety/wholefile.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -21,20 +22,23 @@ namespace {
 constexpr int LongestSave = 2000; // ms that a file is waited for
 constexpr unsigned long Pause = 100;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("CommandData", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(CommandData)
+};
 
 bool mayBecomeWhole(const FileState &state)
 {
     return state.kind == FileState::Damaged || state.kind == FileState::Missing;
 }
 
-std::optional<Catalogue> complain(const Invocation &invocation, const QString &problem)
+std::optional<Catalogue> complain(const Invocation &invocation, const QString &problem,
+                                  const std::function<QString()> &advice)
 {
-    Console::complain(tr(QT_TRANSLATE_NOOP("CommandData", "The logbook file “%1” cannot be read: %2."))
-                          .arg(invocation.folder.dataFile(), problem));
+    const QString text = Text::tr("The logbook file “%1” cannot be read: %2.")
+                             .arg(invocation.folder.dataFile(), problem);
+    const QString more = advice ? advice() : QString();
+    Console::complain(more.isEmpty() ? text : text + u' ' + more);
     return std::nullopt;
 }
 
@@ -53,9 +57,9 @@ QString CommandData::folderProblem(const Invocation &invocation)
 {
     const QFileInfo folder(invocation.folder.path());
     if (folder.exists() && !folder.isDir())
-        return tr(QT_TRANSLATE_NOOP("CommandData", "“%1” is not a folder.")).arg(folder.filePath());
+        return Text::tr("“%1” is not a folder.").arg(folder.filePath());
     if (!folder.exists() && (invocation.isDataGiven || folder.isSymLink()))
-        return tr(QT_TRANSLATE_NOOP("CommandData", "There is no folder “%1”.")).arg(folder.filePath());
+        return Text::tr("There is no folder “%1”.").arg(folder.filePath());
     return QString();
 }
 
@@ -71,7 +75,20 @@ FileState CommandData::settled(const std::function<FileState()> &look)
     return state;
 }
 
-std::optional<Catalogue> CommandData::read(const Invocation &invocation)
+FileState CommandData::stateOf(const QString &path)
+{
+    return settled([&path]() -> FileState {
+        const WholeFile::Reading reading = WholeFile::read(path);
+        if (!reading.problem.isEmpty())
+            return {FileState::Unreadable, reading.problem, {}};
+        const Contents contents = WholeFile::inspect(reading.bytes);
+        return {contents.problem.isEmpty() ? FileState::Whole : FileState::Damaged, contents.problem,
+                reading.bytes, !contents.declaresEntities};
+    });
+}
+
+std::optional<Catalogue> CommandData::read(const Invocation &invocation,
+                                           const std::function<QString()> &advice)
 {
     const QString problem = folderProblem(invocation);
     if (!problem.isEmpty()) {
@@ -84,10 +101,10 @@ std::optional<Catalogue> CommandData::read(const Invocation &invocation)
     if (state.kind == FileState::New)
         state = {FileState::Whole, {}, sampleLogbook()};
     if (state.kind != FileState::Whole)
-        return complain(invocation, state.problem);
+        return complain(invocation, state.problem, advice);
     const CatalogueFile::Loaded loaded = CatalogueFile::load(state.bytes);
     return loaded.problem.isEmpty() ? std::optional(withMeasured(invocation.folder, loaded.catalogue))
-                                    : complain(invocation, loaded.problem);
+                                    : complain(invocation, loaded.problem, {});
 }
 
 } // namespace Host

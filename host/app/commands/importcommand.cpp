@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/app/commands/commanddata.h"
-#include "host/app/commands/importwriting.h"
 #include "host/app/commands/invocation.h"
+#include "host/app/commands/logbookwriting.h"
 #include "host/app/commands/runs.h"
 #include "host/app/commands/texttable.h"
 #include "host/app/console.h"
@@ -123,8 +123,11 @@ int run(const Invocation &invocation, Opening *opening)
     }
     const Measured measured = MeasuredStore::load(invocation.folder).measured;
     const QList<ImportedLog> logs = LogReading::read(LogReading::paths(invocation.arguments), measured);
-    const MatchOptions options{invocation.value(u"model"_s), invocation.value(u"battery"_s),
-                               invocation.has(u"replace-entered"_s), 0};
+    const MatchOptions options{invocation.value(u"model"_s),
+                               invocation.value(u"battery"_s),
+                               invocation.has(u"replace-entered"_s),
+                               0,
+                               {}};
     const ImportPlan plan = matched(logs, *catalogue, measured, options);
     const QList<qsizetype> chosen = chosenOf(plan, invocation.has(u"battery"_s));
     const bool allGood = complainOfFiles(logs);
@@ -138,7 +141,8 @@ int run(const Invocation &invocation, Opening *opening)
             const Opened opened = opening->opened(); // and its lock
             if (!opened.lossesMessage.isEmpty())
                 Console::complain(opened.lossesMessage);
-            notDone = ImportWriting::write(invocation.folder, *catalogue, meant, known);
+            notDone = LogbookWriting::write(invocation.folder, *catalogue, meant, known,
+                                            Text::tr("Nothing was imported"));
         }
         if (!notDone.isEmpty()) {
             Console::complain(notDone);

@@ -38,7 +38,8 @@ struct Scenario
     QString name;
     std::function<void(const Home &)> prepare;
     QList<QStringList> commands;
-    Logbook start; ///< what the window shows at first, where all goes well
+    Logbook start;        ///< what the window shows at first, where all goes well
+    QString written = {}; ///< a file that nothing else but the commands writes
 };
 
 /** The program under one fault, from its start to its end. */

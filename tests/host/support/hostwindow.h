@@ -112,6 +112,13 @@ public:
         QFile::setPermissions(filePath(), QFile::Permissions(0x6666));
     }
 
+    /** A logbook with one location more, as another program adds it. */
+    static QByteArray withLocation(const QString &name, const QByteArray &document = sample())
+    {
+        return QByteArray(document).replace("<Locations>",
+                                            "<Locations><Location Name=\"" + name.toUtf8() + "\"/>");
+    }
+
     /** The bytes of all copies, the newest first. */
     QByteArrayList copies() const
     {
@@ -153,7 +160,10 @@ public:
     /** The text of the message about a matter; empty when there is none. */
     QString message(const QString &matter) { return messages().m_texts.value(matter); }
     QString loss() { return message(u"saving"_s); }
+    /** What another program has written and is not on show. */
     QString others() { return message(u"others"_s); }
+    /** What another program had written and is over. */
+    QString taken() { return message(u"taken"_s); }
 
     /** The button of a message that is on show; null when there is none. */
     QPushButton *button(const QString &caption)

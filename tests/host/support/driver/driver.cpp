@@ -58,8 +58,17 @@ const QHash<QString, Action> &actions()
              *result = Hands::messages();
              return Hands::press(words.value(0));
          }},
+        {u"answer"_s, of([](const QString &button) { return Hands::seesBox() && Hands::press(button); })},
         {u"type"_s, ofTwo(Hands::type)},
         {u"choose"_s, ofTwo(Hands::choose)},
+        {u"menu"_s, of(Hands::chooseFromMenu)},
+        {u"select"_s,
+         [](const QStringList &words, QStringList *) { return Hands::select(words.value(0).toInt()); }},
+        {u"leave"_s,
+         [](const QStringList &, QStringList *) {
+             Hands::leaveBox();
+             return true;
+         }},
         {u"add-location"_s, of(Hands::addLocation)},
         {u"delete-location"_s, of(Hands::deleteLocation)},
         {u"add-battery"_s, of(Hands::addBattery)},

@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
@@ -172,6 +173,40 @@ bool Hands::choose(const QString &chooser, const QString &text)
         return false;
     box->setCurrentText(text);
     return true;
+}
+
+bool Hands::chooseFromMenu(const QString &text)
+{
+    for (const QWidget *window : windows()) {
+        for (QAction *action : window->findChildren<QAction *>()) {
+            if (!action->isEnabled() || action->text().remove(u'&') != text)
+                continue;
+            QMetaObject::invokeMethod(action, &QAction::trigger, Qt::QueuedConnection);
+            return true;
+        }
+    }
+    return false;
+}
+
+bool Hands::select(int row)
+{
+    const auto *box = QApplication::activeModalWidget();
+    auto *view = qobject_cast<QAbstractItemView *>(box ? box->focusWidget() : nullptr);
+    if (!view || row >= view->model()->rowCount())
+        return false;
+    view->setCurrentIndex(view->model()->index(row, 0));
+    return view->currentIndex().row() == row;
+}
+
+bool Hands::seesBox()
+{
+    return QApplication::activeModalWidget() != nullptr;
+}
+
+void Hands::leaveBox()
+{
+    if (auto *box = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+        box->reject();
 }
 
 bool Hands::clickCard(const QString &battery, QStringList *result)

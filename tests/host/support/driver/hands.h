@@ -13,6 +13,15 @@ bool press(const QString &button);
 bool type(const QString &field, const QString &text);
 bool choose(const QString &chooser, const QString &text);
 
+/** Triggers what stands in a menu; it may open a box, so this does not wait. */
+bool chooseFromMenu(const QString &text);
+/** Chooses a row of the table in a box that has the focus. */
+bool select(int row);
+/** Whether a box keeps the input from the window. */
+bool seesBox();
+/** Closes a box, if there is one. */
+void leaveBox();
+
 bool addLocation(const QString &name);
 bool deleteLocation(const QString &name);
 bool addBattery(const QString &name);

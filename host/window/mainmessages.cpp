@@ -1,16 +1,30 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the main window says about an empty logbook.
+// What the main window says by itself, above the logbook.
 #include "host/window/mainwindow.h"
 
 #include "host/window/messagebar.h"
 
 #include <QComboBox>
 
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
 
-/** Three ways on, until there is a battery or a model. */
+void MainWindow::tell(const QString &matter, const QString &text)
+{
+    m_messages->tell(matter, text);
+}
+
+void MainWindow::goOnIn(const StorageFolder &folder, std::shared_ptr<FolderLock> lock)
+{
+    open(folder, std::move(lock));
+    tell(u"moved"_s,
+         tr("The logbook is now kept in “%1”. Open this folder the next time, too.").arg(folder.path()));
+}
+
+/** An empty logbook greets with three ways on, until there is a battery or a model. */
 void MainWindow::greet()
 {
     const QString matter = u"greeting"_s;

@@ -10,18 +10,18 @@ namespace Host {
 
 class StorageFolder;
 
-namespace ImportWriting {
+namespace LogbookWriting {
 
 /**
- * Writes an import: the logbook, with a copy of it before and after, then what is known of it. Both or none.
- * Where the process ends in between, the logbook holds what the logs say; importing them again finds that,
- * and adds nothing.
+ * Writes what a command makes of a logbook, with a copy of it before and after, then what is known of its
+ * measured discharges. Both or none.
  *
  * @param present what the logbook holds now.
+ * @param notDone what did not happen where it fails, such as "Nothing was imported".
  * @return why it was not done, in whole sentences; empty when it was.
  */
 QString write(const StorageFolder &folder, const Catalogue &present, const Catalogue &meant,
-              const Measured &measured);
+              const Measured &measured, const QString &notDone);
 
-} // namespace ImportWriting
+} // namespace LogbookWriting
 } // namespace Host
