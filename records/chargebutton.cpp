@@ -16,7 +16,6 @@ constexpr qreal FocusMargin = 3;
 constexpr qreal DisabledOpacity = 0.5;
 constexpr int PressedDarkness = 130; // in percent, see QColor::darker()
 constexpr int BorderDarkness = 160;
-constexpr int OutlineDarkness = 450; // of the letters, which differ too little from the background itself
 
 /** The font, as much smaller as the text needs to fit in: the button has a fixed size, the font has none. */
 QFont fitting(QFont font, const QString &text, const QSizeF &room)
@@ -36,19 +35,6 @@ void drawOutline(QPainter &painter, const QRectF &rect, const QColor &color, qre
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(color, width));
     painter.drawRoundedRect(rect.adjusted(half, half, -half, -half), Radius, Radius);
-}
-/** The text on a line of its own around each letter, so that it can be read whatever its colour. */
-void drawText(QPainter &painter, const QRectF &place, const QString &text, const QColor &outline,
-              const QColor &color)
-{
-    constexpr int Flags = Qt::AlignCenter | Qt::TextShowMnemonic;
-    painter.setPen(outline);
-    for (const int x : {-1, 0, 1}) {
-        for (const int y : {-1, 0, 1})
-            painter.drawText(place.translated(x, y), Flags, text);
-    }
-    painter.setPen(color);
-    painter.drawText(place, Flags, text);
 }
 } // namespace
 
@@ -91,8 +77,8 @@ void ChargeButton::paintEvent(QPaintEvent *event)
 
     const QRectF place = area.marginsRemoved({TextMargin, TextMargin, TextMargin, TextMargin});
     painter.setFont(fitting(font(), text(), place.size()));
-    drawText(painter, place, text(), background.darker(OutlineDarkness),
-             option.palette.color(QPalette::ButtonText));
+    painter.setPen(option.palette.color(QPalette::ButtonText));
+    painter.drawText(place, Qt::AlignCenter | Qt::TextShowMnemonic, text());
 }
 
 void ChargeButton::mouseDoubleClickEvent(QMouseEvent *event)
