@@ -46,7 +46,6 @@ private:
         return widget.grab(part.intersected(widget.rect())).toImage();
     }
     static QStringList unreadable(QWidget &area);
-    static double outlined(const QImage &picture, const QColor &text);
     void open(const QByteArray &document = Flown::logbook());
     void forEachPlot(const std::function<void(PlotView &)> &measure);
 
