@@ -185,8 +185,7 @@ void ContrastTest::plotsCanBeRead()
     QVERIFY(measured > 10);
 }
 
-/** Points and bars: all that is neither text nor grid, so the colours that are saturated or as clear as text.
- */
+/** Points, lines and bars, in the colours that the picture has. */
 void ContrastTest::theMarksOfAPlotCanBeSeen()
 {
     open();
