@@ -7,7 +7,8 @@ build_packages=(g++ cmake ninja-build qt6-base-dev libqt6opengl6-dev qt6-charts-
     qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
     libxlsxwriter-dev libgsl-dev) # the last line is for optional parts: workbooks, fits to radio logs
 test_packages=(xvfb openbox xdotool adwaita-qt6 qt6ct python3 python3-jsonschema gnumeric
-    poppler-utils qpdf locales shellcheck rsync ed vim-tiny syncthing)
+    poppler-utils qpdf locales shellcheck rsync ed vim-tiny syncthing
+    at-spi2-core dbus-daemon python3-pyatspi)
 check_packages=(clang clang-tidy clazy libbenchmark-dev libclang-rt-dev doxygen) # what CI adds
 test_preset=${VOLTBOK_PRESET-dev} # CI asks for "check", in which warnings are errors
 

@@ -6,6 +6,7 @@
 #include "host/app/opening.h"
 #include "host/preferences/languages.h"
 #include "host/safety/instanceserver.h"
+#include "host/window/assistance.h"
 #include "host/window/mainwindow.h"
 #include "host/window/questions.h"
 
@@ -127,6 +128,7 @@ bool mustMakeDemo(const CommandLine &commandLine)
 
 int start(const CommandLine &commandLine, Questions &questions)
 {
+    installAssistance(); // before there is any widget
     Languages languages;
     languages.speakChosen();
     const bool drawsOnly = !commandLine.screenshot.isEmpty();

@@ -63,6 +63,7 @@ ExportDialog::ExportDialog(std::shared_ptr<const Catalogue> catalogue, Questions
     auto *area = new QScrollArea; // at 200 % it is higher than some screens
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus); // it follows its fields
     area->setWidget(m_fields);
     m_message->setWordWrap(true);
     m_message->setTextFormat(Qt::PlainText);

@@ -20,6 +20,9 @@ namespace Host {
 FilterBar::FilterBar(QWidget *parent)
     : QWidget(parent)
     , m_text(new QLineEdit)
+    , m_model(makeChooser())
+    , m_battery(makeChooser())
+    , m_location(makeChooser())
 {
     auto *flow = new FlowLayout(this);
     flow->setContentsMargins(0, 0, 0, 0);
@@ -27,9 +30,8 @@ FilterBar::FilterBar(QWidget *parent)
     m_text->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
     flow->addWidget(m_text);
     connect(m_text, &QLineEdit::textChanged, this, &FilterBar::changed);
-    m_model = addChooser();
-    m_battery = addChooser();
-    m_location = addChooser();
+    for (QComboBox *chooser : {m_model, m_battery, m_location})
+        flow->addWidget(chooser);
     addDate(m_isFrom, m_from);
     addDate(m_isTo, m_to);
     retranslate();
@@ -45,6 +47,8 @@ void FilterBar::retranslate()
         chooser->setAccessibleName(name);
         chooser->setToolTip(name);
         chooser->setItemText(0, all);
+        chooser->setMinimumContentsLength(
+            qMax(chooser->minimumContentsLength(), static_cast<int>(all.size())));
     };
     nameChooser(m_model, tr("Only flights of the model"), tr("All models"));
     nameChooser(m_battery, tr("Only flights with the battery"), tr("All batteries"));
@@ -63,10 +67,9 @@ void FilterBar::changeEvent(QEvent *event)
 }
 
 /** The first entry stands for all of them. */
-QComboBox *FilterBar::addChooser()
+QComboBox *FilterBar::makeChooser()
 {
     QComboBox *chooser = FlightFields::chooser({QString()});
-    layout()->addWidget(chooser);
     connect(chooser, &QComboBox::currentIndexChanged, this, [this] {
         if (!m_offering)
             Q_EMIT changed();

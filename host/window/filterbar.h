@@ -34,7 +34,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    QComboBox *addChooser();
+    QComboBox *makeChooser();
     void addDate(QCheckBox *&box, QDateEdit *&edit);
     void retranslate();
     void setOffer(QComboBox *chooser, QStringList names);

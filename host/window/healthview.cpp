@@ -2,6 +2,7 @@
 #include "host/window/healthview.h"
 
 #include "host/window/healthmodel.h"
+#include "host/window/tablecolumns.h"
 
 #include <QEvent>
 #include <QHeaderView>
@@ -29,7 +30,6 @@ HealthView::HealthView(QWidget *parent)
     m_text->setAlignment(Qt::AlignTop | Qt::AlignLeading);
     m_text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_table->setModel(m_model);
-    m_table->setAccessibleName(tr("Measured values of the battery"));
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setTabKeyNavigation(false);
@@ -47,6 +47,13 @@ HealthView::HealthView(QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_text);
     layout->addWidget(m_table);
+    retranslate();
+}
+
+void HealthView::retranslate()
+{
+    m_table->setAccessibleName(tr("Measured values of the battery"));
+    TableColumns::retitle(*m_table);
 }
 
 void HealthView::setBattery(const Battery &battery, const Measured &measured)
@@ -64,6 +71,8 @@ bool HealthView::event(QEvent *event)
     const bool isHandled = QWidget::event(event);
     if (event->type() == QEvent::Show || event->type() == QEvent::Resize)
         makeRoom();
+    else if (event->type() == QEvent::LanguageChange)
+        retranslate();
     return isHandled;
 }
 

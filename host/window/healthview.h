@@ -28,6 +28,7 @@ protected:
 
 private:
     void makeRoom();
+    void retranslate();
 
     QLabel *m_text;
     QTableView *m_table;

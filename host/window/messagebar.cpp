@@ -30,7 +30,8 @@ QToolButton *makeClosing(QWidget *message)
 {
     auto *closing = new QToolButton(message);
     closing->setText(u"×"_s); // a style's own icon may be dark on a dark palette
-    closing->setAutoRaise(true);
+    // On a face of its own: the colour of a button's text is not made for the background of a message.
+    closing->setAutoRaise(false);
     closing->setFocusPolicy(Qt::StrongFocus); // a tool button could not be reached by keyboard
     nameClosing(closing);
     QObject::connect(closing, &QToolButton::clicked, message, &QWidget::hide);

@@ -33,13 +33,15 @@ PlotButtons::PlotButtons(PlotView &plot, Questions &questions, QWidget *parent)
     : QWidget(parent)
     , m_plot(plot)
     , m_questions(questions)
+    , m_save(makeButton(&PlotButtons::save))
+    , m_copy(makeButton(&PlotButtons::copy))
+    , m_print(makeButton(&PlotButtons::print))
+    , m_printTable(makeButton(&PlotButtons::tablePrintRequested))
 {
     auto *layout = new FlowLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    m_save = add(&PlotButtons::save);
-    m_copy = add(&PlotButtons::copy);
-    m_print = add(&PlotButtons::print);
-    m_printTable = add(&PlotButtons::tablePrintRequested);
+    for (QWidget *button : {m_save, m_copy, m_print, m_printTable})
+        layout->addWidget(button);
     retranslate();
 }
 
@@ -69,10 +71,9 @@ void PlotButtons::setPlotShown(bool shown)
         button->setVisible(shown);
 }
 
-QPushButton *PlotButtons::add(void (PlotButtons::*slot)())
+QPushButton *PlotButtons::makeButton(void (PlotButtons::*slot)())
 {
     auto *button = new QPushButton;
-    layout()->addWidget(button);
     connect(button, &QPushButton::clicked, this, slot);
     return button;
 }

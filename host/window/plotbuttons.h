@@ -30,7 +30,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    QPushButton *add(void (PlotButtons::*slot)());
+    QPushButton *makeButton(void (PlotButtons::*slot)());
     void retranslate();
     void save();
     void copy();
@@ -38,10 +38,10 @@ private:
 
     PlotView &m_plot;
     Questions &m_questions;
-    QPushButton *m_save = nullptr;
-    QPushButton *m_copy = nullptr;
-    QPushButton *m_print = nullptr;
-    QPushButton *m_printTable = nullptr;
+    QPushButton *m_save;
+    QPushButton *m_copy;
+    QPushButton *m_print;
+    QPushButton *m_printTable;
 };
 
 } // namespace Host

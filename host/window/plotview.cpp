@@ -11,14 +11,46 @@
 #include <QLineSeries>
 #include <QScatterSeries>
 
+#include <algorithm>
+#include <cmath>
+
 namespace Host {
 namespace {
 
 constexpr char MarkProperty[] = "mark";
 
+/** As the accessibility guidelines for the web define it. */
+double luminance(const QColor &colour)
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double contrast(const QColor &one, const QColor &other)
+{
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
 bool isDark(const QPalette &colours)
 {
     return colours.color(QPalette::Base).lightness() < colours.color(QPalette::Text).lightness();
+}
+
+/** The colour that the desktop stresses things with, as far from the ground of a plot as a text must be. */
+QColor stressed(const QPalette &colours)
+{
+    constexpr double EnoughContrast = 4.6;
+    constexpr int Step = 105; // percent
+    const QColor ground = colours.color(QPalette::Base);
+    const bool dark = isDark(colours);
+    QColor colour = colours.color(QPalette::Highlight);
+    for (int steps = 0; steps < 60 && contrast(colour, ground) < EnoughContrast; ++steps)
+        colour = dark ? colour.lighter(Step) : colour.darker(Step);
+    return contrast(colour, ground) < EnoughContrast ? colours.color(QPalette::Text) : colour;
 }
 
 PlotView::Mark markOf(const QAbstractSeries &series)
@@ -34,8 +66,7 @@ QPalette paper()
 void styleMarks(QScatterSeries &series, const QPalette &colours, qreal size)
 {
     const PlotView::Mark mark = markOf(series);
-    const QColor colour =
-        colours.color(mark == PlotView::Mark::Strong ? QPalette::Highlight : QPalette::Text);
+    const QColor colour = mark == PlotView::Mark::Strong ? stressed(colours) : colours.color(QPalette::Text);
     series.setMarkerSize(size);
     series.setColor(colour);
     series.setBrush(mark == PlotView::Mark::Hollow ? colours.brush(QPalette::Base) : QBrush(colour));
@@ -46,7 +77,7 @@ void styleBars(QAbstractBarSeries &series, const QPalette &colours)
 {
     const QList<QBarSet *> sets = series.barSets();
     for (QBarSet *set : sets) {
-        set->setBrush(colours.brush(QPalette::Highlight));
+        set->setBrush(stressed(colours));
         set->setPen(QPen(Qt::NoPen));
     }
 }

@@ -27,7 +27,7 @@ QDateTime at(const QString &text)
 Copy copyAt(const QString &text, quint64 number, qint64 size = 1)
 {
     const bool kept = text.startsWith(u"kept ");
-    return {text, number, at(kept ? text.mid(5) : text), size, kept};
+    return {text, number, at(kept ? text.mid(5) : text), size, kept, {}};
 }
 
 /** Newest first, from times in the order in which the copies were made. */
@@ -233,7 +233,7 @@ void ThinningTest::tenThousandVersionsOfAnAfternoonBecomeFew()
     const QDateTime noon = at(u"2026-11-21 12:00:00"_s);
     QList<Copy> copies;
     for (int i = 0; i < 10000; ++i) // one each two seconds
-        copies.prepend({QString::number(i), quint64(i + 1), noon.addSecs(2 * i), Megabyte, false});
+        copies.prepend({QString::number(i), quint64(i + 1), noon.addSecs(2 * i), Megabyte, false, {}});
     const QStringList gone = Backups::superfluous(copies, copies.first().time);
     const qsizetype left = copies.size() - gone.size();
     QVERIFY2(left > 300 && left <= 301 + 20000 / 600 + 2, qPrintable(QString::number(left)));
@@ -243,9 +243,9 @@ void ThinningTest::tenThousandVersionsOfAnAfternoonBecomeFew()
 void ThinningTest::tenThousandVersionsOfTenMinutesStayWithinTheLimit()
 {
     const QDateTime noon = at(u"2026-11-21 12:00:00"_s);
-    QList<Copy> copies{{u"yesterday"_s, 1, noon.addDays(-1), Megabyte, false}};
+    QList<Copy> copies{{u"yesterday"_s, 1, noon.addDays(-1), Megabyte, false, {}}};
     for (int i = 1; i < 10000; ++i)
-        copies.prepend({QString::number(i), quint64(i + 1), noon.addMSecs(60 * i), Megabyte, false});
+        copies.prepend({QString::number(i), quint64(i + 1), noon.addMSecs(60 * i), Megabyte, false, {}});
     const QStringList gone = Backups::superfluous(copies, copies.first().time);
     QCOMPARE(copies.size() - gone.size(), Backups::TotalLimit / Megabyte);
     QVERIFY(!gone.contains(u"9999"_s) && !gone.contains(u"9501"_s) && !gone.contains(u"yesterday"_s));
@@ -271,7 +271,7 @@ void ThinningTest::yearsOfUseAreThinnedByTheRule()
     for (quint64 number = 1; now < end; ++number) {
         now = now.addSecs(random.bounded(12) == 0 ? random.bounded(60, 200000) : random.bounded(1, 500));
         const QString name = QString::number(number);
-        copies.prepend({name, number, now, 1, random.bounded(500) == 0});
+        copies.prepend({name, number, now, 1, random.bounded(500) == 0, {}});
         const QString day = now.toTimeZone(QTimeZone(zone)).date().toString(Qt::ISODate);
         lastOfDay[day] = name;
         firstOfDay.insert(day, firstOfDay.value(day, name));
