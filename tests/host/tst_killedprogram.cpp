@@ -35,7 +35,8 @@ struct Tally
 {
     int started = 0;
     int kills = 0;
-    int owing = 0; // kills at which something was owed beyond what the start had found
+    int inDeed = 0; // kills while the whole logbook was being changed
+    int owing = 0;  // kills at which something was owed beyond what the start had found
     int broken = 0;
     int recoveries = 0;
     int saves = 0;
@@ -145,10 +146,14 @@ void Victim::start()
     QProcessEnvironment environment = m_home->environment();
     environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
     Harness::drive(&environment);
-    const bool inTheMiddle = m_random.bounded(4) == 0; // a kill from outside rarely meets a save half done
-    if (inTheMiddle) {
+    const int fate = m_random.bounded(4); // a kill from outside rarely meets a save or a change half done
+    if (fate < 2) {
         Harness::preload(&environment);
         environment.insert(u"VOLTBOK_FAULT_FOLDER"_s, m_home->logbook());
+    }
+    if (fate == 0) {
+        environment.insert(u"VOLTBOK_DIES_IN_DEED"_s, u"1"_s);
+    } else if (fate == 1) {
         environment.insert(u"VOLTBOK_FAULT_KIND"_s, u"kill-middle"_s);
         environment.insert(u"VOLTBOK_FAULT_AT"_s, QString::number(m_random.bounded(500, 1500)));
     }
@@ -165,7 +170,7 @@ void Victim::readReports()
         const int changes = m_record.changes();
         m_record.add(Event::parse(m_process.readLine()));
         if (changes == 0 && m_record.changes() == 1)
-            m_kill.start(m_process.processEnvironment().contains(u"VOLTBOK_FAULT_AT"_s)
+            m_kill.start(m_process.processEnvironment().contains(u"VOLTBOK_FAULT_FOLDER"_s)
                              ? 10'000
                              : m_random.bounded(900, 2300));
     }
@@ -184,6 +189,7 @@ void Victim::died()
     ++m_deaths;
     ++m_tally.kills;
     m_tally.saves += m_record.changes();
+    m_tally.inDeed += m_record.unfinishedDeed().isEmpty() ? 0 : 1;
     for (const Event &event : m_record.events()) {
         if (event.isDone() && Steps::isDeed(event.words.value(0)))
             ++m_tally.deeds[event.words.constFirst()];
@@ -333,7 +339,8 @@ void KilledProgramTest::nothingThatWasAcknowledgedIsLostByAKill()
     QStringList deeds;
     for (auto deed = tally.deeds.cbegin(); deed != tally.deeds.cend(); ++deed)
         deeds.append(deed.key() + u' ' + QString::number(deed.value()));
-    qInfo("among the changes: %s", qPrintable(deeds.join(u", ")));
+    qInfo("%d kills in a change of the whole logbook; these were acknowledged: %s", tally.inDeed,
+          qPrintable(deeds.join(u", ")));
     for (const QString &problem : std::as_const(tally.faults))
         qWarning("%s", qPrintable(problem)); // all of them: a failure's own text is cut
     QVERIFY(tally.faults.isEmpty());
@@ -342,6 +349,7 @@ void KilledProgramTest::nothingThatWasAcknowledgedIsLostByAKill()
     QVERIFY(tally.saves >= 10 * Kills);
     for (const QString &deed : {u"edit"_s, u"import"_s, u"merge"_s, u"redo"_s, u"restore"_s, u"undo"_s})
         QVERIFY2(tally.deeds.value(deed) >= Kills / 25, qPrintable(deed));
+    QVERIFY(tally.inDeed >= Kills / 20);
     QVERIFY(tally.broken >= Kills / 20);
     QCOMPARE(tally.recoveries, tally.broken);
     QTRY_VERIFY_WITH_TIMEOUT(Harness::sharedLeftovers(leftBefore).isEmpty(), 10'000);

@@ -46,6 +46,7 @@ static int kind = NoFault;
 static int at = 0;
 static bool forever = false;
 static bool struck = false;
+static int spared = 0; // operations that fit, and come before the one that is struck
 static int count = 0;
 static int logFile = -1;
 static char *opened[MaximumFiles]; // names of the files below the folder, by descriptor
@@ -113,7 +114,8 @@ int judge(const char *operation, const char *flags, const char *path)
     pthread_mutex_lock(&mutex);
     const int number = ++count;
     const bool fits = kind != NoFault && (!kinds[kind].fits || strchr(flags, kinds[kind].fits));
-    const bool hit = fits && at > 0 && number >= at && (!struck || forever);
+    const bool due = fits && at > 0 && number >= at && (!struck || forever);
+    const bool hit = due && spared-- <= 0;
     struck = struck || hit;
     note(number, operation, flags, path, hit);
     if (hit && kind == KillBefore)
@@ -122,6 +124,15 @@ int judge(const char *operation, const char *flags, const char *path)
     if (hit && kinds[kind].error)
         errno = kinds[kind].error;
     return hit ? kind : NoFault;
+}
+
+void voltbokDieSoon(int operations)
+{
+    pthread_mutex_lock(&mutex);
+    kind = KillAfter;
+    at = count + 1;
+    spared = operations;
+    pthread_mutex_unlock(&mutex);
 }
 
 bool failsBy(int verdict)

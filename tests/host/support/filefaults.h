@@ -18,6 +18,9 @@ const char *pathBelow(int directory, const char *path, char *buffer);
  * @return NoFault to carry it out, else what strikes it; errno is set where it is to fail.
  */
 int judge(const char *operation, const char *flags, const char *path);
+/** For a program that knows what it is about to do: it dies after so many more operations that change what is
+ * on the disk. */
+void voltbokDieSoon(int operations);
 bool failsBy(int verdict);
 bool diesInTheMiddleBy(int verdict);
 /** Dies, where that is the fate of the operation that was just carried out. */

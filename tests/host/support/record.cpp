@@ -143,7 +143,7 @@ QStringList Record::unfinishedDeed() const
     if (m_events.isEmpty() || !Steps::isDeed(m_events.constLast().words.value(0)))
         return {};
     const Event &last = m_events.constLast();
-    static const QStringList known{u"undo"_s, u"redo"_s, u"restore"_s}; // without another word
+    static const QStringList known{u"undo"_s, u"redo"_s}; // without another word
     const bool isKnown = last.state == u"now" || (last.state == u"begin" && known.contains(last.words.at(0)));
     return isKnown ? last.words : QStringList();
 }

@@ -209,12 +209,12 @@ bool Deeds::editFlight(int number, const Ear &ear)
     });
 }
 
-bool Deeds::restoreOldest()
+bool Deeds::restoreOldest(const Ear &ear)
 {
     QAction *backups = action(u"Backups…"_s);
     if (!backups)
         return false;
-    const auto restore = [](QDialog &box) {
+    const auto restore = [&ear](QDialog &box) {
         QAbstractItemView *copies = table(&box, u"Copies, the newest first"_s);
         const int oldest = copies->model()->rowCount() - 1;
         if (copies->currentIndex().row() != oldest) {
@@ -222,9 +222,11 @@ bool Deeds::restoreOldest()
             return false;
         }
         QPushButton *pressed = button(&box, u"Restore"_s);
-        if (pressed)
-            pressed->click();
-        return pressed != nullptr;
+        if (!pressed)
+            return false; // it is being read
+        ear({});
+        pressed->click();
+        return true;
     };
     return inBox(
         u"Backups"_s, [&] { backups->trigger(); }, restore);

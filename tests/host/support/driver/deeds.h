@@ -19,7 +19,7 @@ bool move(const QString &action);
  */
 bool editFlight(int number, const Ear &ear);
 /** Restores the oldest of the copies. */
-bool restoreOldest();
+bool restoreOldest(const Ear &ear);
 /** Drops a log on the window, ticks what is new and imports it. The ear hears model, battery, time and mAh.
  */
 bool import(const QString &path, const Ear &ear);
