@@ -57,5 +57,5 @@ private:
     QStringList m_locations; // that the storm has added
     QStringList m_batteries;
     bool m_hasUndone = false; // by its last command
-    QFileInfoList m_logs; // for the storm to import
+    QFileInfoList m_logs;     // for the storm to import
 };
