@@ -17,12 +17,21 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include <algorithm>
 #include <iostream>
 
 using namespace Host;
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+/** The names of the languages, each in itself. */
+bool isLanguage(const QString &text)
+{
+    const QStringList languages = Languages::all();
+    return std::any_of(languages.cbegin(), languages.cend(),
+                       [&text](const QString &language) { return Languages::nameOf(language) == text; });
+}
 
 QStringList english(const QList<std::pair<QString, QString>> &texts)
 {
@@ -31,7 +40,8 @@ QStringList english(const QList<std::pair<QString, QString>> &texts)
         // The preview of an export shows the names of files and columns, which are the same everywhere.
         if (where.startsWith(u"QTableWidget") || (where.startsWith(u"QTabBar") && text.contains(u" (")))
             continue;
-        if (!PseudoLanguage::leftOver(text).isEmpty() && !found.contains(where + u": "_s + text))
+        if (!isLanguage(text) && !PseudoLanguage::leftOver(text).isEmpty() &&
+            !found.contains(where + u": "_s + text))
             found.append(where + u": "_s + text);
     }
     return found;
