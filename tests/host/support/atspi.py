@@ -7,7 +7,7 @@ import subprocess
 import time
 from pathlib import Path
 
-PATIENCE = 20.0  # seconds; the machine may have much other work
+PATIENCE = 60.0  # seconds; the machine may have much other work
 
 # What needs no name of its own although it can have the focus, and why.
 NAMELESS = {
