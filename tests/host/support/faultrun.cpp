@@ -63,6 +63,7 @@ FaultRun::FaultRun(const Scenario &scenario, const Fault &fault, const QString &
     , m_fault(fault)
     , m_record(scenario.start)
 {
+    m_record.letItHoldMore(); // where it restores a copy
     m_home.makeLogbook(QByteArray());
     scenario.prepare(m_home);
     m_before = filesBelow(m_home.logbook());

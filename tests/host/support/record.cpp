@@ -94,6 +94,8 @@ QStringList missingModels(const Logbook &found, const Logbook &owed, const Later
     return result;
 }
 
+const QString StillThere = u"still there: "_s;
+
 /** What was taken away, and is there all the same. */
 QStringList tooMuch(const Logbook &found, const Logbook &owed, const Later &later)
 {
@@ -109,7 +111,7 @@ QStringList tooMuch(const Logbook &found, const Logbook &owed, const Later &late
     names.removeIf([&](const QString &name) { return later.changed.contains(name); });
     QStringList result;
     for (const QString &name : std::as_const(names))
-        result.append(u"still there: "_s + name);
+        result.append(StillThere + name);
     return result;
 }
 
@@ -169,7 +171,9 @@ QStringList Record::missing(const Logbook &found, qint64 time) const
             later.add(event.words);
         }
     }
-    const QStringList result = difference(found, owed, later);
+    QStringList result = difference(found, owed, later);
+    if (m_mayHoldMore)
+        result.removeIf([](const QString &what) { return what.startsWith(StillThere); });
     const QStringList unfinished = unfinishedDeed();
     if (result.isEmpty() || unfinished.isEmpty())
         return result;

@@ -27,6 +27,9 @@ public:
     {
     }
 
+    /** The file may hold more than was acknowledged: something else than a click has put it there. */
+    void letItHoldMore() { m_mayHoldMore = true; }
+
     void add(const Event &event);
     const QList<Event> &events() const { return m_events; }
 
@@ -53,4 +56,5 @@ public:
 private:
     Steps::Version m_start;
     QList<Event> m_events;
+    bool m_mayHoldMore = false;
 };

@@ -83,6 +83,15 @@ bool isCharged(const QWidget *card)
     return cardButton(card)->text() == u"Charged";
 }
 
+QWidget *cardOf(const QString &battery)
+{
+    const QList<QWidget *> cards = cardWidgets();
+    const auto card = std::find_if(cards.cbegin(), cards.cend(), [&battery](const QWidget *one) {
+        return cardText(one, u"lbl_name"_s) == battery;
+    });
+    return card == cards.cend() ? nullptr : *card;
+}
+
 QString isoTime(const QString &dateField, const QString &timeField)
 {
     const auto *date = part<QDateTimeEdit>(dateField);
@@ -211,21 +220,21 @@ void Hands::leaveBox()
 
 bool Hands::clickCard(const QString &battery, QStringList *result)
 {
-    for (QWidget *card : cardWidgets()) {
-        if (cardText(card, u"lbl_name"_s) != battery)
-            continue;
-        const bool discharges = isCharged(card);
-        const QString model = currentText(u"cb_select_model"_s);
-        const QString location = currentText(u"cb_log_location"_s);
-        cardButton(card)->click();
-        *result << cardText(card, u"lbl_cycles"_s) << QString::number(isCharged(card) ? 1 : 0);
-        if (discharges)
-            *result << isoTime(u"dedt_dischargeDate"_s, u"tedt_dischargeTime"_s)
-                    << QString::number(part<QSpinBox>(u"sb_discharged_capacity"_s)->value()) << model
-                    << location;
-        return true;
-    }
-    return false;
+    QWidget *card = cardOf(battery);
+    if (!card)
+        return false;
+    const bool discharges = isCharged(card);
+    const QString model = currentText(u"cb_select_model"_s);
+    const QString location = currentText(u"cb_log_location"_s);
+    cardButton(card)->click();
+    card = cardOf(battery); // the click may have had the logbook read again
+    if (!card)
+        return false;
+    *result << cardText(card, u"lbl_cycles"_s) << QString::number(isCharged(card) ? 1 : 0);
+    if (discharges)
+        *result << isoTime(u"dedt_dischargeDate"_s, u"tedt_dischargeTime"_s)
+                << QString::number(part<QSpinBox>(u"sb_discharged_capacity"_s)->value()) << model << location;
+    return true;
 }
 
 bool Hands::addLocation(const QString &name)
