@@ -15,7 +15,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
-#include <QTimer>
 
 #include <algorithm>
 #include <iostream>
@@ -46,31 +45,6 @@ QStringList english(const QList<std::pair<QString, QString>> &texts)
     }
     return found;
 }
-
-/** Looks at every dialog that opens, and closes it. */
-class DialogReader
-{
-public:
-    explicit DialogReader(std::function<void(QWidget &)> look)
-        : m_look(std::move(look))
-    {
-        QObject::connect(&m_timer, &QTimer::timeout, [this] {
-            QWidget *dialog = QApplication::activeModalWidget();
-            if (!dialog || !dialog->isVisible())
-                return;
-            ++count;
-            m_look(*dialog);
-            dialog->close();
-        });
-        m_timer.start(100);
-    }
-
-    int count = 0;
-
-private:
-    std::function<void(QWidget &)> m_look;
-    QTimer m_timer;
-};
 
 /** Uses everything that opens a dialog or asks something: the menus, and the buttons of the flights. */
 void useEverything(SpokenWindow &window)

@@ -13,13 +13,16 @@
 #include "tests/support/files.h"
 #include "tests/support/warnings.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 /** A user who reads everything, and never wants anything. */
 class ReadingUser final : public Host::Questions
@@ -138,4 +141,29 @@ private:
 public:
     std::unique_ptr<Host::MainWindow> window;
     Host::SidePanel *panel = nullptr;
+};
+
+/** Looks at every dialog that opens, and closes it. */
+class DialogReader
+{
+public:
+    explicit DialogReader(std::function<void(QWidget &)> look)
+        : m_look(std::move(look))
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            if (!dialog || !dialog->isVisible())
+                return;
+            ++count;
+            m_look(*dialog);
+            dialog->close();
+        });
+        m_timer.start(100);
+    }
+
+    int count = 0;
+
+private:
+    std::function<void(QWidget &)> m_look;
+    QTimer m_timer;
 };
