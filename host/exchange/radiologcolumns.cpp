@@ -105,7 +105,8 @@ LogColumns::LogColumns(const LogHeader &header, const ColumnMapping *chosen)
 {
     for (const Kind kind : {Consumed, Current, Volts})
         addKnown(header, kind);
-    m_needsMapping = !chosen && (isUnknown(header, Consumed) || isUnknown(header, Current));
+    if (!chosen)
+        m_needsMapping = isUnknown(header, Consumed) || isUnknown(header, Current);
     addLastResorts(header);
     if (chosen)
         choose(header, *chosen);

@@ -79,7 +79,7 @@ void ConflictOffer::look()
         m_messages.retract(u"conflict"_s);
         return;
     }
-    const QString first = paths.constFirst();
+    const QString &first = paths.constFirst();
     QString text = tr("“%1” is another version of this logbook: two computers have changed it, and the "
                       "program that synchronises the folder has kept both. What it holds is not in this "
                       "logbook yet.")
