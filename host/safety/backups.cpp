@@ -111,16 +111,30 @@ QString keep(const StorageFolder &folder, Copy copy)
     return isRenamed ? QString() : WholeFile::clause(file.errorString());
 }
 
-/** Copies the measured values, too; those that can be read. */
-void addMeasured(const StorageFolder &folder, const QString &copyName, QFile::Permissions permissions)
+/** The measured values in a file; none where they cannot be understood, or where a link leads to them. */
+QByteArray measuredIn(const QString &path)
 {
-    const WholeFile::Reading reading = WholeFile::read(folder.measuredFile());
+    if (QFileInfo(path).isSymLink())
+        return QByteArray();
+    const WholeFile::Reading reading = WholeFile::read(path);
+    return reading.problem.isEmpty() && MeasuredFile::load(reading.bytes).problem.isEmpty() ? reading.bytes
+                                                                                            : QByteArray();
+}
+
+/** Keeps the present measured values with a copy. @return whether other ones are there, which stay. */
+bool addMeasured(const StorageFolder &folder, const QString &copyName, QFile::Permissions permissions)
+{
+    const QByteArray present = measuredIn(folder.measuredFileTarget());
     const QString path = folder.backups().filePath(Backups::measuredName(copyName));
+    const QByteArray before = measuredIn(path);
+    if (present.isEmpty() || before == present)
+        return false;
+    if (!before.isEmpty())
+        return true;
     const QFileInfo there(path);
-    const bool isFree = !there.isSymLink() && (there.isFile() || !there.exists());
-    if (isFree && reading.problem.isEmpty() && !reading.bytes.isEmpty() &&
-        MeasuredFile::load(reading.bytes).problem.isEmpty() && WholeFile::read(path).bytes != reading.bytes)
-        WholeFile::write(path, reading.bytes, permissions);
+    if (!there.isSymLink() && (there.isFile() || !there.exists()))
+        WholeFile::write(path, present, permissions);
+    return false;
 }
 
 void remove(const StorageFolder &folder, const QString &copyName)
@@ -203,10 +217,8 @@ QString Backups::add(const StorageFolder &folder, const QByteArray &document, co
         return QCoreApplication::translate("Backups", "the copies that are there cannot be listed");
     QByteArray before;
     const std::optional<Copy> newest = newestWhole(folder, &before);
-    if (newest && before == document) {
-        addMeasured(folder, newest->name, permissions); // which may be newer
+    if (newest && before == document && !addMeasured(folder, newest->name, permissions))
         return QString();
-    }
     if (newest && 2 * document.size() < newest->size)
         problem = keep(folder, *newest);
     if (!problem.isEmpty())

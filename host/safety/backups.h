@@ -95,9 +95,9 @@ std::optional<Copy> newestWhole(const StorageFolder &folder, QByteArray *bytes =
 QString keepNewestWhole(const StorageFolder &folder);
 
 /**
- * Makes a copy of a whole logbook, unless it equals the newest whole copy. Where it is smaller than half of
- * that one, that one is kept first. Nothing is thinned out. The measured values are copied with it; where
- * that fails, there is a copy all the same.
+ * Makes a copy of a whole logbook and of the measured values beside it, unless the newest whole copy holds
+ * the same. Where it is smaller than half of that one, that one is kept first. Nothing is thinned out. Where
+ * the measured values cannot be copied, there is a copy of the logbook all the same.
  *
  * @return why there is no copy, a clause; empty when there is one.
  */

@@ -46,9 +46,8 @@ OpenLogbook::OpenLogbook(const StorageFolder &folder, SaveCare *care, Questions 
     , m_measuredWatch(m_folder.measuredFile(), &measuredProblemOf)
     , m_mayChange(care && care->isInOrder())
 {
-    const QByteArray document = WholeFile::read(m_folder.dataFile()).bytes;
     readMeasured();
-    m_history.restart(document.isEmpty() ? CatalogueFile::emptyDocument() : document, m_stored.bytes);
+    beginHistory();
     if (!m_care)
         return;
     connect(m_care, &SaveCare::written, this, &OpenLogbook::versionWritten);
@@ -64,8 +63,29 @@ OpenLogbook::~OpenLogbook()
         catalogue(); // the measured values go along with what the window changed last
 }
 
+/** The history begins with what the file holds. A disk that does not give it is asked again when somebody
+ * looks: nothing may be undone back to a logbook, nor measured values follow from one, that nobody has read.
+ */
+void OpenLogbook::beginHistory()
+{
+    const WholeFile::Reading reading = WholeFile::read(m_folder.dataFile());
+    if (reading.isMissing)
+        m_history.restart(CatalogueFile::emptyDocument(), m_stored.bytes);
+    else if (reading.problem.isEmpty())
+        m_history.restart(reading.bytes, m_stored.bytes);
+}
+
+bool OpenLogbook::hasBegun() const
+{
+    return !m_history.present().isEmpty();
+}
+
 std::shared_ptr<const Catalogue> OpenLogbook::catalogue()
 {
+    if (!hasBegun())
+        beginHistory();
+    if (!hasBegun())
+        return nullptr;
     if (!m_catalogue) {
         CatalogueFile::Loaded loaded = CatalogueFile::load(m_history.present());
         if (!loaded.problem.isEmpty())
@@ -171,6 +191,8 @@ QString OpenLogbook::obstacle()
 {
     if (m_capturing)
         return tr("Record the flight on the discharge page first, or leave that page.");
+    if (!hasBegun())
+        beginHistory();
     if (!m_care->makeFileCurrent())
         return tr(
             "Nothing was changed: the logbook file does not hold what this window shows. See the message "
@@ -182,8 +204,9 @@ QString OpenLogbook::obstacle()
 /** Whether nobody else has written since. */
 bool OpenLogbook::isFileStillThis() const
 {
-    const QByteArray document = WholeFile::read(m_folder.dataFile()).bytes;
-    return !m_capturing && m_care->isInOrder() && (document.isEmpty() || document == m_history.present());
+    const WholeFile::Reading reading = WholeFile::read(m_folder.dataFile());
+    const bool isSame = reading.problem.isEmpty() && reading.bytes == m_history.present();
+    return !m_capturing && m_care->isInOrder() && (reading.isMissing || isSame);
 }
 
 /** Writes a document in the place of the present version, and what belongs beside it. What was there stays if
@@ -229,10 +252,12 @@ void OpenLogbook::versionWritten(const QByteArray &document)
     if (const auto move = std::exchange(m_move, nullptr)) {
         (m_history.*move)();
         forgetFollowing();
-    } else {
+    } else if (hasBegun()) {
         expectFollowing();
         m_history.add(document, std::exchange(m_stepName, QString()));
         m_history.setBeside(m_stored.bytes);
+    } else {
+        m_history.restart(document, m_stored.bytes);
     }
     announce();
 }

@@ -42,8 +42,8 @@ public:
     OpenLogbook(const StorageFolder &folder, SaveCare *care, Questions &questions);
     ~OpenLogbook() override;
 
-    /** What the file holds now, read once for each version of it; null when a full disk does not let it be
-     * read. */
+    /** What the file holds now, read once for each version of it; null when a full or failing disk does not
+     * let it be read. */
     std::shared_ptr<const Catalogue> catalogue();
     /** Whether catalogue() has read it already. */
     bool isRead() const { return m_catalogue != nullptr; }
@@ -95,6 +95,8 @@ Q_SIGNALS:
     void possibilitiesChanged();
 
 private:
+    void beginHistory();
+    bool hasBegun() const;
     QString obstacle();
     void versionWritten(const QByteArray &document);
     void versionOfOthers(const QByteArray &document);

@@ -56,9 +56,11 @@ QString OpenLogbook::prepareRestoring(const Backups::Held &copy, Progress &progr
     *beside = CopyRestoring::besideOf(copy, m_stored, *present, loaded.catalogue);
     if (!progress.step())
         return cancelled();
-    const QByteArray document = WholeFile::read(m_folder.dataFile()).bytes;
+    const WholeFile::Reading file = WholeFile::read(m_folder.dataFile());
     const QDateTime now = QDateTime::currentDateTimeUtc();
-    QString reason = CopyRestoring::keepPresent(m_folder, document, m_stored, *beside, now);
+    QString reason = file.isMissing ? QString() : file.problem;
+    if (reason.isEmpty())
+        reason = CopyRestoring::keepPresent(m_folder, file.bytes, m_stored, *beside, now);
     if (reason.isEmpty()) // the window saves only what it understands
         reason = CopyRestoring::keepWhatIsNotUnderstood(m_folder, copy.document, now);
     if (!reason.isEmpty())

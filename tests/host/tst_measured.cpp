@@ -83,6 +83,8 @@ private Q_SLOTS:
     void aFullDiskLeavesTheFileAsItWas();
     void nothingIsNoFile();
     void aCopyOfTheLogbookHasTheMeasuredValuesBesideIt();
+    void aCopyIsGivenTheMeasuredValuesThatItLacks();
+    void otherMeasuredValuesAreAnotherCopy();
     void theirLossHindersNoCopy();
     void theyGoWithTheirCopy();
 };
@@ -337,14 +339,50 @@ void MeasuredTest::aCopyOfTheLogbookHasTheMeasuredValuesBesideIt()
     QCOMPARE(name, u"voltbok-00000001-20261121-120000-000Z.json"_s);
     QCOMPARE(Test::contents(place.folder.backups().filePath(name)), MeasuredFile::save(known()));
     QCOMPARE(Backups::list(place.folder).size(), 1);
-    // A copy that is there already gets what is newer, but nothing damaged.
-    Measured more = known();
-    more.models.clear();
-    QCOMPARE(MeasuredStore::save(place.folder, more), QString());
+}
+
+void MeasuredTest::aCopyIsGivenTheMeasuredValuesThatItLacks()
+{
+    const Place place;
+    const QByteArray document = "<Voltbok/>\n";
     QCOMPARE(Backups::add(place.folder, document, Noon), QString());
+    QCOMPARE(MeasuredStore::save(place.folder, known()), QString());
+    QCOMPARE(Backups::add(place.folder, document, Noon), QString());
+    QCOMPARE(Backups::list(place.folder).size(), 1);
+    const QString beside =
+        place.folder.backups().filePath(Backups::measuredName(Backups::list(place.folder).first().name));
+    QCOMPARE(Test::contents(beside), MeasuredFile::save(known()));
+    QVERIFY(Test::write(beside, "half"));
+    QCOMPARE(Backups::add(place.folder, document, Noon), QString());
+    QCOMPARE(Test::contents(beside), MeasuredFile::save(known()));
+    // Nothing damaged is copied, and what is gone says nothing.
     QVERIFY(place.put(u"voltbok-measured.json"_s, "half"));
     QCOMPARE(Backups::add(place.folder, document, Noon), QString());
-    QCOMPARE(Test::contents(place.folder.backups().filePath(name)), MeasuredFile::save(more));
+    QVERIFY(QFile::remove(place.folder.measuredFile()));
+    QCOMPARE(Backups::add(place.folder, document, Noon), QString());
+    QCOMPARE(Backups::list(place.folder).size(), 1);
+    QCOMPARE(Test::contents(beside), MeasuredFile::save(known()));
+}
+
+/** A restore may have put others in their place: this copy is then the only place where they are. */
+void MeasuredTest::otherMeasuredValuesAreAnotherCopy()
+{
+    const Place place;
+    const QByteArray document = "<Voltbok/>\n";
+    Measured later = known();
+    later.models.clear();
+    const QList<Measured> versions{known(), later, known()};
+    for (const Measured &version : versions) {
+        QCOMPARE(MeasuredStore::save(place.folder, version), QString());
+        QCOMPARE(Backups::add(place.folder, document, Noon), QString());
+    }
+    const QList<Copy> copies = Backups::list(place.folder);
+    QCOMPARE(copies.size(), versions.size());
+    for (qsizetype i = 0; i < copies.size(); ++i) {
+        const Backups::Held held = Backups::held(place.folder, copies.at(copies.size() - 1 - i));
+        QCOMPARE(held.document, document);
+        QCOMPARE(held.beside, MeasuredFile::save(versions.at(i)));
+    }
 }
 
 void MeasuredTest::theirLossHindersNoCopy()

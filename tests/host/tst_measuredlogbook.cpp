@@ -14,6 +14,26 @@ namespace {
 
 const QString Name = u"Imported"_s;
 
+/** The data file cannot be read for a while: something else has its name. */
+class Unread
+{
+public:
+    explicit Unread(const HostWindow &window)
+        : m_file(window.filePath())
+    {
+        QVERIFY(QFile::rename(m_file, m_file + u".away"_s));
+        QVERIFY(QDir().mkdir(m_file));
+    }
+    void giveBack() const
+    {
+        QVERIFY(QDir().rmdir(m_file));
+        QVERIFY(QFile::rename(m_file + u".away"_s, m_file));
+    }
+
+private:
+    const QString m_file;
+};
+
 } // namespace
 
 class MeasuredLogbookTest : public QObject
@@ -27,6 +47,8 @@ private Q_SLOTS:
     void whatTheWindowRenamesTakesTheEntriesAlong();
     void aFileThatCannotBeWrittenChangesNothing();
     void withoutMeasuredValuesThereIsNoFile();
+    void aDiskThatDoesNotGiveTheFileIsAskedAgain();
+    void nothingFollowsFromALogbookThatNobodyHasRead();
 
 private:
     /** Adds a measured discharge at noon to the first battery. */
@@ -139,6 +161,41 @@ void MeasuredLogbookTest::withoutMeasuredValuesThereIsNoFile()
     QCOMPARE(window.logbook().undo(), QString());
     window.close();
     QVERIFY(!QFileInfo::exists(window.path() + u"/voltbok-measured.json"_s));
+}
+
+void MeasuredLogbookTest::aDiskThatDoesNotGiveTheFileIsAskedAgain()
+{
+    HostWindow window;
+    const Unread file(window);
+    OpenLogbook logbook(StorageFolder(window.path()), &window.care(), window.questions);
+    QVERIFY(!logbook.catalogue());
+    file.giveBack();
+    QCOMPARE(logbook.change(u"Renamed"_s,
+                            [](Catalogue &catalogue) {
+                                return Edits::renameBattery(catalogue, 0, u"Pack Z"_s);
+                            }),
+             QString());
+    QCOMPARE(logbook.undo(), QString());
+    QCOMPARE(window.bytes(), HostWindow::sample());
+    QVERIFY(!logbook.canUndo());
+}
+
+void MeasuredLogbookTest::nothingFollowsFromALogbookThatNobodyHasRead()
+{
+    HostWindow window;
+    QCOMPARE(import(window.logbook()), QString());
+    const QByteArray known = measured(window);
+    window.settle();
+    {
+        const Unread file(window);
+        OpenLogbook logbook(StorageFolder(window.path()), &window.care(), window.questions);
+        file.giveBack();
+        window.clickCard(u"Pack B"_s);
+        window.settle();
+        QVERIFY(!logbook.canUndo()); // to what nobody has read
+        QCOMPARE(logbook.catalogue()->batteries.size(), 2);
+    }
+    QCOMPARE(measured(window), known);
 }
 
 QTEST_MAIN(MeasuredLogbookTest)
