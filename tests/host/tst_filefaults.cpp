@@ -94,6 +94,20 @@ Scenario restoreFromTheMenu()
             u"voltbok-measured.json"_s};
 }
 
+/** Another version of the logbook, which a file synchroniser has left, is merged. */
+Scenario merge()
+{
+    static const QString conflict = u"voltbok.sync-conflict-20261121-101112-ABCDEFG.xml"_s;
+    return {u"merge"_s,
+            [](const Home &home) {
+                home.makeLogbook(smallLogbook());
+                QVERIFY(Test::write(home.logbook() + u'/' + conflict, laterLogbook()));
+            },
+            {{u"press-for-box"_s, u"Merge…"_s}, {u"answer"_s, u"Merge"_s}, AsAPilot, {u"click"_s, u"3S A"_s}},
+            Logbook::read(smallLogbook()),
+            conflict};
+}
+
 Scenario emptyStart()
 {
     return {u"empty start"_s,
@@ -142,7 +156,7 @@ void FileFaultsTest::whateverOperationFailsNothingIsLostAndNothingIsSilent_data(
 {
     QTest::addColumn<Scenario>("scenario");
     for (const Scenario &scenario :
-         {session(), recovery(), restoreOfAMissingFile(), restoreFromTheMenu(), emptyStart()})
+         {session(), recovery(), restoreOfAMissingFile(), restoreFromTheMenu(), merge(), emptyStart()})
         QTest::newRow(qPrintable(scenario.name)) << scenario;
 }
 

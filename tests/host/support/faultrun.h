@@ -57,6 +57,10 @@ public:
     /** @param display of an X server: questions are asked only where somebody may see them. */
     FaultRun(const Scenario &scenario, const Fault &fault, const QString &display);
 
+    /** Before its end, nobody is told. */
+    ~FaultRun() override { m_process.disconnect(this); }
+    Q_DISABLE_COPY_MOVE(FaultRun)
+
     void start();
 
     const Fault &fault() const { return m_fault; }
