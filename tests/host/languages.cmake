@@ -23,6 +23,4 @@ if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
         LRELEASE="$<TARGET_FILE:Qt6::lrelease>"
         RCC="$<TARGET_FILE:Qt6::rcc>"
         TRANSLATION="${PROJECT_SOURCE_DIR}/translations/voltbok_de.ts")
-    set_tests_properties(tst_languages PROPERTIES TIMEOUT 1800) # every page, box and tab, several times
-    set_property(TEST tst_languages APPEND PROPERTY ENVIRONMENT "QTEST_FUNCTION_TIMEOUT=1800000")
 endif()
