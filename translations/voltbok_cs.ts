@@ -2607,7 +2607,7 @@ Tento deník je uložen v „%1“.</translation>
         <translation>Nebyla nalezena dřívější verze, ze které obě vycházejí. Proto se nic neodstraní a všude, kde se liší, volíte vy.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Obě verze změnily tyto &amp;hodnoty. Zaškrtněte ty, které se mají převzít z druhé verze; ostatní zůstanou, jak jsou v tomto deníku.</translation>
     </message>
     <message>

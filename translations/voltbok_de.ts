@@ -2577,7 +2577,7 @@ Dieses Logbuch liegt in „%1“.</translation>
         <translation>Es wurde keine frühere Version gefunden, von der beide abstammen. Deshalb wird nichts entfernt, und Sie wählen überall dort, wo sich die beiden unterscheiden.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Diese &amp;Werte haben sich in beiden Versionen geändert. Kreuzen Sie an, welche aus der anderen Version übernommen werden; die übrigen bleiben, wie sie in diesem Logbuch sind.</translation>
     </message>
     <message>

@@ -2577,7 +2577,7 @@ Este libro se guarda en “%1”.</translation>
         <translation>No se ha encontrado ninguna versión anterior de la que procedan ambas. Por eso no se elimina nada, y usted elige allí donde las dos difieren.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Ambas versiones han cambiado estos &amp;valores. Marque los que deban tomarse de la otra versión; los demás quedan como están en este libro.</translation>
     </message>
     <message>

@@ -2577,7 +2577,7 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
         <translation>Aucune version antérieure dont les deux proviennent n’a été trouvée. Rien n’est donc supprimé, et vous choisissez partout où les deux diffèrent.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Les deux versions ont modifié ces &amp;valeurs. Cochez celles à reprendre de l’autre version&#xa0;; les autres restent telles quelles dans ce carnet.</translation>
     </message>
     <message>

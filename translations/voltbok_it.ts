@@ -2577,7 +2577,7 @@ Questo registro è conservato in “%1”.</translation>
         <translation>Non è stata trovata alcuna versione precedente da cui derivino entrambe. Perciò non viene rimosso nulla, e si può scegliere ovunque le due differiscano.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Entrambe le versioni hanno modificato questi &amp;valori. Spuntare quelli da prendere dall’altra versione; i restanti rimangono come sono in questo registro.</translation>
     </message>
     <message>

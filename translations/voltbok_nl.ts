@@ -2577,7 +2577,7 @@ Dit logboek wordt bewaard in “%1”.</translation>
         <translation>Er is geen eerdere versie gevonden waaruit beide zijn ontstaan. Daarom wordt niets verwijderd, en kiest u overal waar de twee verschillen.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Deze &amp;waarden zijn in beide versies gewijzigd. Vink aan welke uit de andere versie moeten komen; de overige blijven zoals ze in dit logboek zijn.</translation>
     </message>
     <message>

@@ -2607,7 +2607,7 @@ Ten dziennik jest przechowywany w „%1”.</translation>
         <translation>Nie znaleziono wcześniejszej wersji, z której obie pochodzą. Dlatego nic nie jest usuwane, a wyboru dokonuje się wszędzie tam, gdzie się różnią.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Obie wersje zmieniły te &amp;wartości. Należy zaznaczyć te, które mają pochodzić z drugiej wersji; pozostałe będą takie jak w tym dzienniku.</translation>
     </message>
     <message>
