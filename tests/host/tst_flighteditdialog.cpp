@@ -35,6 +35,13 @@ void FlightEditDialogTest::itShowsWhatTheFlightHolds()
     FlightsWindow window(catalogue);
     edit(window, u"09:00:00"_s, [](const FlightEditDialog &dialog) {
         QCOMPARE(dialog.windowTitle(), u"Edit a Flight"_s);
+        QStringList names;
+        for (const QWidget *each : dialog.m_fields)
+            names.append(each->accessibleName());
+        const QStringList columns{u"Time"_s,     u"Model"_s,       u"Battery"_s,
+                                  u"Duration"_s, u"Discharged"_s,  u"Maximum current"_s,
+                                  u"Location"_s, u"Temperature"_s, u"Notes"_s};
+        QCOMPARE(names, columns);
         QCOMPARE(field<QDateTimeEdit>(dialog, FlightsModel::Time).text(), u"2026-05-03 09:00:00"_s);
         QCOMPARE(field<QComboBox>(dialog, FlightsModel::ModelName).currentText(), u"Skylark"_s);
         QCOMPARE(field<QComboBox>(dialog, FlightsModel::Batteries).currentText(), u"A"_s);

@@ -73,7 +73,9 @@ void FlightEditRefusalsTest::whatCannotBeIsToldAndKeptForAnotherTry()
     const QByteArray before = window.bytes();
     edit(window, u"10:00:00"_s, [&](FlightEditDialog &dialog) {
         LogbookWindow::choose(&field<QComboBox>(dialog, FlightsModel::ModelName), u"Firebrand"_s);
-        setNotes(dialog, u"bell\u0007"_s);
+        auto &location = field<QComboBox>(dialog, FlightsModel::Location);
+        location.setCurrentText(u"bell\u0007"_s);
+        setNotes(dialog, u"windy"_s);
         FlightsWindow::confirm(dialog);
         QVERIFY(dialog.isVisible());
         QCOMPARE(window.questions.told().size(), 1);
@@ -81,12 +83,13 @@ void FlightEditRefusalsTest::whatCannotBeIsToldAndKeptForAnotherTry()
         QCOMPARE(window.bytes(), before);
         QVERIFY(!window.logbook().canUndo());
         QCOMPARE(field<QComboBox>(dialog, FlightsModel::ModelName).currentText(), u"Firebrand"_s);
-        setNotes(dialog, u"bell"_s);
+        location.setCurrentText(u"bell"_s);
         FlightsWindow::confirm(dialog);
         QVERIFY(!dialog.isVisible());
     });
     QCOMPARE(window.questions.told().size(), 1);
-    QCOMPARE(window.stored().models.at(1).log.constLast().notes, u"bell"_s);
+    QCOMPARE(window.stored().models.at(1).log.constLast().location, u"bell"_s);
+    QCOMPARE(window.stored().models.at(1).log.constLast().notes, u"windy"_s);
     QCOMPARE(window.stored().models.at(0).log.size(), 2);
 }
 
