@@ -11,8 +11,8 @@
 namespace Host {
 namespace {
 
-constexpr qsizetype ChunkSize = qsizetype(64) * 1024;
-constexpr qsizetype MostBytesOfACharacter = 3; // in UTF-8, of one unit of UTF-16
+constexpr qsizetype ChunkSize = qsizetype(16) * 1024; // what a file buffers itself
+constexpr qsizetype MostBytesOfACharacter = 3;        // in UTF-8, of one unit of UTF-16
 constexpr qsizetype MostBytesOfAValue = 64;
 
 bool looksLikeFormula(const QString &text)
@@ -35,7 +35,7 @@ CsvStyle CsvStyle::forLocale(const QLocale &locale)
 CsvWriter::CsvWriter(CsvStyle style, std::function<ByteSink(const Table &)> sinkFor)
     : m_style(std::move(style))
     , m_sinkFor(std::move(sinkFor))
-    , m_bytes(2 * ChunkSize, '\0')
+    , m_bytes(2 * ChunkSize, Qt::Uninitialized)
     , m_end(m_bytes.data())
 {
     for (const char special : {m_style.separator.front(), '"', '\r', '\n'})
@@ -72,8 +72,10 @@ void CsvWriter::put(const QByteArray &bytes)
 
 void CsvWriter::separate()
 {
-    if (m_column++ > 0)
-        put(m_style.separator);
+    if (m_column++ == 0)
+        return;
+    reserve(1);
+    *m_end++ = m_style.separator.front();
 }
 
 void CsvWriter::addText(const QString &text)
@@ -85,7 +87,7 @@ void CsvWriter::addText(const QString &text)
     if (m_style.protectsFromFormulas && looksLikeFormula(text))
         *m_end++ = '\'';
 
-    const auto *next = text.utf16(); // most texts are nothing but ASCII
+    const auto *next = QStringView(text).utf16(); // most texts are nothing but ASCII
     const auto *const end = next + text.size();
     bool isSpecial = m_columns == 1 && text.isEmpty(); // many readers skip an empty line
     for (; next != end && *next < FirstBeyondAscii; ++next) {
@@ -191,7 +193,8 @@ void CsvWriter::addNothing()
 
 void CsvWriter::endRow()
 {
-    put("\r\n");
+    static const QByteArray lineEnd = QByteArrayLiteral("\r\n");
+    put(lineEnd);
     m_column = 0;
     if (m_end - m_bytes.constData() >= ChunkSize)
         flush();

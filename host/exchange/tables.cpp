@@ -117,22 +117,24 @@ private:
         return ++m_count % RowsAtOnce != 0 || !m_proceed || m_proceed(m_count);
     }
 
-    QString batteriesOf(const Flight &flight) const
+    /** Valid until the next flight's are asked for. */
+    const QString &batteriesOf(const Flight &flight)
     {
-        QString names;
+        m_names.resize(0); // it keeps its room
         bool isFirst = true;
         for (const FlownBatteries::Entry &flown : m_flown.at(momentOf(flight.time))) {
             if (!std::exchange(isFirst, false))
-                names += BetweenNames;
-            names += m_whole.batteries.at(flown.battery).name;
+                m_names += BetweenNames;
+            m_names += m_whole.batteries.at(flown.battery).name;
         }
-        return names;
+        return m_names;
     }
 
     const Catalogue &m_whole;
     const FlownBatteries m_flown;
     TableWriter &m_writer;
     const Proceed &m_proceed;
+    QString m_names;
     qsizetype m_count = 0;
 };
 

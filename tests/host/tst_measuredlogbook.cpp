@@ -170,11 +170,10 @@ void MeasuredLogbookTest::aDiskThatDoesNotGiveTheFileIsAskedAgain()
     OpenLogbook logbook(StorageFolder(window.path()), &window.care(), window.questions);
     QVERIFY(!logbook.catalogue());
     file.giveBack();
-    QCOMPARE(logbook.change(u"Renamed"_s,
-                            [](Catalogue &catalogue) {
-                                return Edits::renameBattery(catalogue, 0, u"Pack Z"_s);
-                            }),
-             QString());
+    QCOMPARE(
+        logbook.change(u"Renamed"_s,
+                       [](Catalogue &catalogue) { return Edits::renameBattery(catalogue, 0, u"Pack Z"_s); }),
+        QString());
     QCOMPARE(logbook.undo(), QString());
     QCOMPARE(window.bytes(), HostWindow::sample());
     QVERIFY(!logbook.canUndo());
