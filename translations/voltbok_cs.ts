@@ -913,6 +913,65 @@
         <source>The logbook has changed meanwhile. Look at the table again, and repeat what you did.</source>
         <translation>Deník se mezitím změnil. Podívejte se na tabulku znovu a úkon zopakujte.</translation>
     </message>
+    <message>
+        <source>Flight edited</source>
+        <translation>Upraven let</translation>
+    </message>
+</context>
+<context>
+    <name>FlightForm</name>
+    <message>
+        <source>&amp;Time</source>
+        <translation>&amp;Datum a čas</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Model</translation>
+    </message>
+    <message>
+        <source>&amp;Battery</source>
+        <translation>&amp;Akumulátor</translation>
+    </message>
+    <message>
+        <source>&amp;Duration</source>
+        <translation>&amp;Trvání</translation>
+    </message>
+    <message>
+        <source>D&amp;ischarged</source>
+        <translation>&amp;Vybito</translation>
+    </message>
+    <message>
+        <source>Maximum &amp;current</source>
+        <translation>Maximální p&amp;roud</translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation>Mí&amp;sto</translation>
+    </message>
+    <message>
+        <source>Tem&amp;perature</source>
+        <translation>Te&amp;plota</translation>
+    </message>
+    <message>
+        <source>&amp;Notes</source>
+        <translation>Poz&amp;námky</translation>
+    </message>
+    <message>
+        <source> mAh</source>
+        <translation> mAh</translation>
+    </message>
+    <message>
+        <source> A</source>
+        <translation> A</translation>
+    </message>
+    <message>
+        <source> °C</source>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>FolderLock</name>
@@ -1781,60 +1840,23 @@
         <translation>Přidat let</translation>
     </message>
     <message>
-        <source> mAh</source>
-        <translation> mAh</translation>
-    </message>
-    <message>
-        <source> A</source>
-        <translation> A</translation>
-    </message>
-    <message>
-        <source> °C</source>
-        <translation> °C</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Model</translation>
-    </message>
-    <message>
-        <source>&amp;Time</source>
-        <translation>&amp;Datum a čas</translation>
-    </message>
-    <message>
-        <source>&amp;Duration</source>
-        <translation>&amp;Trvání</translation>
-    </message>
-    <message>
-        <source>&amp;Battery</source>
-        <translation>&amp;Akumulátor</translation>
-    </message>
-    <message>
-        <source>D&amp;ischarged</source>
-        <translation>&amp;Vybito</translation>
-    </message>
-    <message>
-        <source>Maximum &amp;current</source>
-        <translation>Maximální p&amp;roud</translation>
-    </message>
-    <message>
-        <source>&amp;Location</source>
-        <translation>Mí&amp;sto</translation>
-    </message>
-    <message>
-        <source>Tem&amp;perature</source>
-        <translation>Te&amp;plota</translation>
-    </message>
-    <message>
-        <source>&amp;Notes</source>
-        <translation>Poz&amp;námky</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>Přidat</translation>
     </message>
     <message>
         <source>Flight added</source>
         <translation>Přidán let</translation>
+    </message>
+</context>
+<context>
+    <name>Host::FlightEditDialog</name>
+    <message>
+        <source>Edit a Flight</source>
+        <translation>Upravit let</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Uložit</translation>
     </message>
 </context>
 <context>
@@ -1939,10 +1961,6 @@
         <translation>Lety: %1 z %2</translation>
     </message>
     <message>
-        <source>Flight edited</source>
-        <translation>Upraven let</translation>
-    </message>
-    <message>
         <source>Delete this flight?</source>
         <translation>Smazat tento let?</translation>
     </message>
@@ -2001,6 +2019,10 @@
     <message>
         <source>Flights that stood twice removed</source>
         <translation>Odstraněny duplicitní lety</translation>
+    </message>
+    <message>
+        <source>Ed&amp;it…</source>
+        <translation>Upra&amp;vit…</translation>
     </message>
 </context>
 <context>
@@ -2607,7 +2629,7 @@ Tento deník je uložen v „%1“.</translation>
         <translation>Nebyla nalezena dřívější verze, ze které obě vycházejí. Proto se nic neodstraní a všude, kde se liší, volíte vy.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Obě verze změnily tyto &amp;hodnoty. Zaškrtněte ty, které se mají převzít z druhé verze; ostatní zůstanou, jak jsou v tomto deníku.</translation>
     </message>
     <message>

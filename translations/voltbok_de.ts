@@ -892,6 +892,65 @@
         <source>The logbook has changed meanwhile. Look at the table again, and repeat what you did.</source>
         <translation>Das Logbuch hat sich inzwischen geändert. Sehen Sie die Tabelle noch einmal an und wiederholen Sie, was Sie getan haben.</translation>
     </message>
+    <message>
+        <source>Flight edited</source>
+        <translation>Flug bearbeitet</translation>
+    </message>
+</context>
+<context>
+    <name>FlightForm</name>
+    <message>
+        <source>&amp;Time</source>
+        <translation>&amp;Zeit</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Modell</translation>
+    </message>
+    <message>
+        <source>&amp;Battery</source>
+        <translation>&amp;Akku</translation>
+    </message>
+    <message>
+        <source>&amp;Duration</source>
+        <translation>&amp;Dauer</translation>
+    </message>
+    <message>
+        <source>D&amp;ischarged</source>
+        <translation>&amp;Entnommen</translation>
+    </message>
+    <message>
+        <source>Maximum &amp;current</source>
+        <translation>Maximal&amp;strom</translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation>&amp;Ort</translation>
+    </message>
+    <message>
+        <source>Tem&amp;perature</source>
+        <translation>Tem&amp;peratur</translation>
+    </message>
+    <message>
+        <source>&amp;Notes</source>
+        <translation>&amp;Notizen</translation>
+    </message>
+    <message>
+        <source> mAh</source>
+        <translation> mAh</translation>
+    </message>
+    <message>
+        <source> A</source>
+        <translation> A</translation>
+    </message>
+    <message>
+        <source> °C</source>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>FolderLock</name>
@@ -1755,60 +1814,23 @@
         <translation>Flug hinzufügen</translation>
     </message>
     <message>
-        <source> mAh</source>
-        <translation> mAh</translation>
-    </message>
-    <message>
-        <source> A</source>
-        <translation> A</translation>
-    </message>
-    <message>
-        <source> °C</source>
-        <translation> °C</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Modell</translation>
-    </message>
-    <message>
-        <source>&amp;Time</source>
-        <translation>&amp;Zeit</translation>
-    </message>
-    <message>
-        <source>&amp;Duration</source>
-        <translation>&amp;Dauer</translation>
-    </message>
-    <message>
-        <source>&amp;Battery</source>
-        <translation>&amp;Akku</translation>
-    </message>
-    <message>
-        <source>D&amp;ischarged</source>
-        <translation>&amp;Entnommen</translation>
-    </message>
-    <message>
-        <source>Maximum &amp;current</source>
-        <translation>Maximal&amp;strom</translation>
-    </message>
-    <message>
-        <source>&amp;Location</source>
-        <translation>&amp;Ort</translation>
-    </message>
-    <message>
-        <source>Tem&amp;perature</source>
-        <translation>Tem&amp;peratur</translation>
-    </message>
-    <message>
-        <source>&amp;Notes</source>
-        <translation>&amp;Notizen</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>Hinzufügen</translation>
     </message>
     <message>
         <source>Flight added</source>
         <translation>Flug hinzugefügt</translation>
+    </message>
+</context>
+<context>
+    <name>Host::FlightEditDialog</name>
+    <message>
+        <source>Edit a Flight</source>
+        <translation>Flug bearbeiten</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
     </message>
 </context>
 <context>
@@ -1913,10 +1935,6 @@
         <translation>Flüge: %1 von %2</translation>
     </message>
     <message>
-        <source>Flight edited</source>
-        <translation>Flug bearbeitet</translation>
-    </message>
-    <message>
         <source>Delete this flight?</source>
         <translation>Diesen Flug löschen?</translation>
     </message>
@@ -1972,6 +1990,10 @@
     <message>
         <source>Flights that stood twice removed</source>
         <translation>Doppelte Flüge entfernt</translation>
+    </message>
+    <message>
+        <source>Ed&amp;it…</source>
+        <translation>Bearb&amp;eiten…</translation>
     </message>
 </context>
 <context>
@@ -2577,7 +2599,7 @@ Dieses Logbuch liegt in „%1“.</translation>
         <translation>Es wurde keine frühere Version gefunden, von der beide abstammen. Deshalb wird nichts entfernt, und Sie wählen überall dort, wo sich die beiden unterscheiden.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Diese &amp;Werte haben sich in beiden Versionen geändert. Kreuzen Sie an, welche aus der anderen Version übernommen werden; die übrigen bleiben, wie sie in diesem Logbuch sind.</translation>
     </message>
     <message>

@@ -892,6 +892,65 @@
         <source>The logbook has changed meanwhile. Look at the table again, and repeat what you did.</source>
         <translation>El libro ha cambiado entretanto. Mire de nuevo la tabla y repita lo que hizo.</translation>
     </message>
+    <message>
+        <source>Flight edited</source>
+        <translation>Vuelo modificado</translation>
+    </message>
+</context>
+<context>
+    <name>FlightForm</name>
+    <message>
+        <source>&amp;Time</source>
+        <translation>&amp;Hora</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Modelo</translation>
+    </message>
+    <message>
+        <source>&amp;Battery</source>
+        <translation>&amp;Batería</translation>
+    </message>
+    <message>
+        <source>&amp;Duration</source>
+        <translation>&amp;Duración</translation>
+    </message>
+    <message>
+        <source>D&amp;ischarged</source>
+        <translation>De&amp;scargado</translation>
+    </message>
+    <message>
+        <source>Maximum &amp;current</source>
+        <translation>&amp;Corriente máxima</translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation>&amp;Lugar</translation>
+    </message>
+    <message>
+        <source>Tem&amp;perature</source>
+        <translation>&amp;Temperatura</translation>
+    </message>
+    <message>
+        <source>&amp;Notes</source>
+        <translation>&amp;Notas</translation>
+    </message>
+    <message>
+        <source> mAh</source>
+        <translation> mAh</translation>
+    </message>
+    <message>
+        <source> A</source>
+        <translation> A</translation>
+    </message>
+    <message>
+        <source> °C</source>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>FolderLock</name>
@@ -1755,60 +1814,23 @@
         <translation>Añadir un vuelo</translation>
     </message>
     <message>
-        <source> mAh</source>
-        <translation> mAh</translation>
-    </message>
-    <message>
-        <source> A</source>
-        <translation> A</translation>
-    </message>
-    <message>
-        <source> °C</source>
-        <translation> °C</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Modelo</translation>
-    </message>
-    <message>
-        <source>&amp;Time</source>
-        <translation>&amp;Hora</translation>
-    </message>
-    <message>
-        <source>&amp;Duration</source>
-        <translation>&amp;Duración</translation>
-    </message>
-    <message>
-        <source>&amp;Battery</source>
-        <translation>&amp;Batería</translation>
-    </message>
-    <message>
-        <source>D&amp;ischarged</source>
-        <translation>De&amp;scargado</translation>
-    </message>
-    <message>
-        <source>Maximum &amp;current</source>
-        <translation>&amp;Corriente máxima</translation>
-    </message>
-    <message>
-        <source>&amp;Location</source>
-        <translation>&amp;Lugar</translation>
-    </message>
-    <message>
-        <source>Tem&amp;perature</source>
-        <translation>&amp;Temperatura</translation>
-    </message>
-    <message>
-        <source>&amp;Notes</source>
-        <translation>&amp;Notas</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>Añadir</translation>
     </message>
     <message>
         <source>Flight added</source>
         <translation>Vuelo añadido</translation>
+    </message>
+</context>
+<context>
+    <name>Host::FlightEditDialog</name>
+    <message>
+        <source>Edit a Flight</source>
+        <translation>Modificar un vuelo</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
     </message>
 </context>
 <context>
@@ -1913,10 +1935,6 @@
         <translation>Vuelos: %1 de %2</translation>
     </message>
     <message>
-        <source>Flight edited</source>
-        <translation>Vuelo modificado</translation>
-    </message>
-    <message>
         <source>Delete this flight?</source>
         <translation>¿Eliminar este vuelo?</translation>
     </message>
@@ -1972,6 +1990,10 @@
     <message>
         <source>Flights that stood twice removed</source>
         <translation>Vuelos repetidos quitados</translation>
+    </message>
+    <message>
+        <source>Ed&amp;it…</source>
+        <translation>Modi&amp;ficar…</translation>
     </message>
 </context>
 <context>
@@ -2577,7 +2599,7 @@ Este libro se guarda en “%1”.</translation>
         <translation>No se ha encontrado ninguna versión anterior de la que procedan ambas. Por eso no se elimina nada, y usted elige allí donde las dos difieren.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Ambas versiones han cambiado estos &amp;valores. Marque los que deban tomarse de la otra versión; los demás quedan como están en este libro.</translation>
     </message>
     <message>

@@ -892,6 +892,65 @@
         <source>The logbook has changed meanwhile. Look at the table again, and repeat what you did.</source>
         <translation>Le carnet a changé entre-temps. Regardez de nouveau le tableau et recommencez.</translation>
     </message>
+    <message>
+        <source>Flight edited</source>
+        <translation>Vol modifié</translation>
+    </message>
+</context>
+<context>
+    <name>FlightForm</name>
+    <message>
+        <source>&amp;Time</source>
+        <translation>&amp;Heure</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Modèle</translation>
+    </message>
+    <message>
+        <source>&amp;Battery</source>
+        <translation>&amp;Batterie</translation>
+    </message>
+    <message>
+        <source>&amp;Duration</source>
+        <translation>&amp;Durée</translation>
+    </message>
+    <message>
+        <source>D&amp;ischarged</source>
+        <translation>Déchar&amp;gé</translation>
+    </message>
+    <message>
+        <source>Maximum &amp;current</source>
+        <translation>&amp;Courant maximal</translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation>&amp;Lieu</translation>
+    </message>
+    <message>
+        <source>Tem&amp;perature</source>
+        <translation>&amp;Température</translation>
+    </message>
+    <message>
+        <source>&amp;Notes</source>
+        <translation>&amp;Notes</translation>
+    </message>
+    <message>
+        <source> mAh</source>
+        <translation> mAh</translation>
+    </message>
+    <message>
+        <source> A</source>
+        <translation> A</translation>
+    </message>
+    <message>
+        <source> °C</source>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>FolderLock</name>
@@ -1755,60 +1814,23 @@
         <translation>Ajouter un vol</translation>
     </message>
     <message>
-        <source> mAh</source>
-        <translation> mAh</translation>
-    </message>
-    <message>
-        <source> A</source>
-        <translation> A</translation>
-    </message>
-    <message>
-        <source> °C</source>
-        <translation> °C</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Modèle</translation>
-    </message>
-    <message>
-        <source>&amp;Time</source>
-        <translation>&amp;Heure</translation>
-    </message>
-    <message>
-        <source>&amp;Duration</source>
-        <translation>&amp;Durée</translation>
-    </message>
-    <message>
-        <source>&amp;Battery</source>
-        <translation>&amp;Batterie</translation>
-    </message>
-    <message>
-        <source>D&amp;ischarged</source>
-        <translation>Déchar&amp;gé</translation>
-    </message>
-    <message>
-        <source>Maximum &amp;current</source>
-        <translation>&amp;Courant maximal</translation>
-    </message>
-    <message>
-        <source>&amp;Location</source>
-        <translation>&amp;Lieu</translation>
-    </message>
-    <message>
-        <source>Tem&amp;perature</source>
-        <translation>&amp;Température</translation>
-    </message>
-    <message>
-        <source>&amp;Notes</source>
-        <translation>&amp;Notes</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>Ajouter</translation>
     </message>
     <message>
         <source>Flight added</source>
         <translation>Vol ajouté</translation>
+    </message>
+</context>
+<context>
+    <name>Host::FlightEditDialog</name>
+    <message>
+        <source>Edit a Flight</source>
+        <translation>Modifier un vol</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
     </message>
 </context>
 <context>
@@ -1913,10 +1935,6 @@
         <translation>Vols&#xa0;: %1 sur %2</translation>
     </message>
     <message>
-        <source>Flight edited</source>
-        <translation>Vol modifié</translation>
-    </message>
-    <message>
         <source>Delete this flight?</source>
         <translation>Supprimer ce vol&#x202f;?</translation>
     </message>
@@ -1972,6 +1990,10 @@
     <message>
         <source>Flights that stood twice removed</source>
         <translation>Vols en double retirés</translation>
+    </message>
+    <message>
+        <source>Ed&amp;it…</source>
+        <translation>&amp;Modifier…</translation>
     </message>
 </context>
 <context>
@@ -2577,7 +2599,7 @@ Ce carnet est conservé dans «&#xa0;%1&#xa0;».</translation>
         <translation>Aucune version antérieure dont les deux proviennent n’a été trouvée. Rien n’est donc supprimé, et vous choisissez partout où les deux diffèrent.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Les deux versions ont modifié ces &amp;valeurs. Cochez celles à reprendre de l’autre version&#xa0;; les autres restent telles quelles dans ce carnet.</translation>
     </message>
     <message>

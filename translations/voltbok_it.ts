@@ -892,6 +892,65 @@
         <source>The logbook has changed meanwhile. Look at the table again, and repeat what you did.</source>
         <translation>Nel frattempo il registro è cambiato. Guardare di nuovo la tabella e ripetere l’operazione.</translation>
     </message>
+    <message>
+        <source>Flight edited</source>
+        <translation>Volo modificato</translation>
+    </message>
+</context>
+<context>
+    <name>FlightForm</name>
+    <message>
+        <source>&amp;Time</source>
+        <translation>&amp;Ora</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Modello</translation>
+    </message>
+    <message>
+        <source>&amp;Battery</source>
+        <translation>&amp;Batteria</translation>
+    </message>
+    <message>
+        <source>&amp;Duration</source>
+        <translation>&amp;Durata</translation>
+    </message>
+    <message>
+        <source>D&amp;ischarged</source>
+        <translation>S&amp;caricato</translation>
+    </message>
+    <message>
+        <source>Maximum &amp;current</source>
+        <translation>Co&amp;rrente massima</translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation>&amp;Luogo</translation>
+    </message>
+    <message>
+        <source>Tem&amp;perature</source>
+        <translation>&amp;Temperatura</translation>
+    </message>
+    <message>
+        <source>&amp;Notes</source>
+        <translation>&amp;Note</translation>
+    </message>
+    <message>
+        <source> mAh</source>
+        <translation> mAh</translation>
+    </message>
+    <message>
+        <source> A</source>
+        <translation> A</translation>
+    </message>
+    <message>
+        <source> °C</source>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>FolderLock</name>
@@ -1755,60 +1814,23 @@
         <translation>Aggiungi un volo</translation>
     </message>
     <message>
-        <source> mAh</source>
-        <translation> mAh</translation>
-    </message>
-    <message>
-        <source> A</source>
-        <translation> A</translation>
-    </message>
-    <message>
-        <source> °C</source>
-        <translation> °C</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Modello</translation>
-    </message>
-    <message>
-        <source>&amp;Time</source>
-        <translation>&amp;Ora</translation>
-    </message>
-    <message>
-        <source>&amp;Duration</source>
-        <translation>&amp;Durata</translation>
-    </message>
-    <message>
-        <source>&amp;Battery</source>
-        <translation>&amp;Batteria</translation>
-    </message>
-    <message>
-        <source>D&amp;ischarged</source>
-        <translation>S&amp;caricato</translation>
-    </message>
-    <message>
-        <source>Maximum &amp;current</source>
-        <translation>Co&amp;rrente massima</translation>
-    </message>
-    <message>
-        <source>&amp;Location</source>
-        <translation>&amp;Luogo</translation>
-    </message>
-    <message>
-        <source>Tem&amp;perature</source>
-        <translation>&amp;Temperatura</translation>
-    </message>
-    <message>
-        <source>&amp;Notes</source>
-        <translation>&amp;Note</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>Aggiungi</translation>
     </message>
     <message>
         <source>Flight added</source>
         <translation>Volo aggiunto</translation>
+    </message>
+</context>
+<context>
+    <name>Host::FlightEditDialog</name>
+    <message>
+        <source>Edit a Flight</source>
+        <translation>Modifica un volo</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
     </message>
 </context>
 <context>
@@ -1913,10 +1935,6 @@
         <translation>Voli: %1 di %2</translation>
     </message>
     <message>
-        <source>Flight edited</source>
-        <translation>Volo modificato</translation>
-    </message>
-    <message>
         <source>Delete this flight?</source>
         <translation>Eliminare questo volo?</translation>
     </message>
@@ -1972,6 +1990,10 @@
     <message>
         <source>Flights that stood twice removed</source>
         <translation>Voli doppi rimossi</translation>
+    </message>
+    <message>
+        <source>Ed&amp;it…</source>
+        <translation>Modi&amp;fica…</translation>
     </message>
 </context>
 <context>
@@ -2577,7 +2599,7 @@ Questo registro è conservato in “%1”.</translation>
         <translation>Non è stata trovata alcuna versione precedente da cui derivino entrambe. Perciò non viene rimosso nulla, e si può scegliere ovunque le due differiscano.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Entrambe le versioni hanno modificato questi &amp;valori. Spuntare quelli da prendere dall’altra versione; i restanti rimangono come sono in questo registro.</translation>
     </message>
     <message>

@@ -892,6 +892,65 @@
         <source>The logbook has changed meanwhile. Look at the table again, and repeat what you did.</source>
         <translation>Het logboek is intussen gewijzigd. Bekijk de tabel opnieuw en herhaal wat u deed.</translation>
     </message>
+    <message>
+        <source>Flight edited</source>
+        <translation>Vlucht bewerkt</translation>
+    </message>
+</context>
+<context>
+    <name>FlightForm</name>
+    <message>
+        <source>&amp;Time</source>
+        <translation>&amp;Tijd</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Model</translation>
+    </message>
+    <message>
+        <source>&amp;Battery</source>
+        <translation>&amp;Accu</translation>
+    </message>
+    <message>
+        <source>&amp;Duration</source>
+        <translation>&amp;Duur</translation>
+    </message>
+    <message>
+        <source>D&amp;ischarged</source>
+        <translation>&amp;Ontladen</translation>
+    </message>
+    <message>
+        <source>Maximum &amp;current</source>
+        <translation>Maximale &amp;stroom</translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation>&amp;Locatie</translation>
+    </message>
+    <message>
+        <source>Tem&amp;perature</source>
+        <translation>Tem&amp;peratuur</translation>
+    </message>
+    <message>
+        <source>&amp;Notes</source>
+        <translation>&amp;Notities</translation>
+    </message>
+    <message>
+        <source> mAh</source>
+        <translation> mAh</translation>
+    </message>
+    <message>
+        <source> A</source>
+        <translation> A</translation>
+    </message>
+    <message>
+        <source> °C</source>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>FolderLock</name>
@@ -1755,60 +1814,23 @@
         <translation>Een vlucht toevoegen</translation>
     </message>
     <message>
-        <source> mAh</source>
-        <translation> mAh</translation>
-    </message>
-    <message>
-        <source> A</source>
-        <translation> A</translation>
-    </message>
-    <message>
-        <source> °C</source>
-        <translation> °C</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Model</translation>
-    </message>
-    <message>
-        <source>&amp;Time</source>
-        <translation>&amp;Tijd</translation>
-    </message>
-    <message>
-        <source>&amp;Duration</source>
-        <translation>&amp;Duur</translation>
-    </message>
-    <message>
-        <source>&amp;Battery</source>
-        <translation>&amp;Accu</translation>
-    </message>
-    <message>
-        <source>D&amp;ischarged</source>
-        <translation>&amp;Ontladen</translation>
-    </message>
-    <message>
-        <source>Maximum &amp;current</source>
-        <translation>Maximale &amp;stroom</translation>
-    </message>
-    <message>
-        <source>&amp;Location</source>
-        <translation>&amp;Locatie</translation>
-    </message>
-    <message>
-        <source>Tem&amp;perature</source>
-        <translation>Tem&amp;peratuur</translation>
-    </message>
-    <message>
-        <source>&amp;Notes</source>
-        <translation>&amp;Notities</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>Toevoegen</translation>
     </message>
     <message>
         <source>Flight added</source>
         <translation>Vlucht toegevoegd</translation>
+    </message>
+</context>
+<context>
+    <name>Host::FlightEditDialog</name>
+    <message>
+        <source>Edit a Flight</source>
+        <translation>Een vlucht bewerken</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Opslaan</translation>
     </message>
 </context>
 <context>
@@ -1913,10 +1935,6 @@
         <translation>Vluchten: %1 van %2</translation>
     </message>
     <message>
-        <source>Flight edited</source>
-        <translation>Vlucht bewerkt</translation>
-    </message>
-    <message>
         <source>Delete this flight?</source>
         <translation>Deze vlucht verwijderen?</translation>
     </message>
@@ -1972,6 +1990,10 @@
     <message>
         <source>Flights that stood twice removed</source>
         <translation>Dubbele vluchten verwijderd</translation>
+    </message>
+    <message>
+        <source>Ed&amp;it…</source>
+        <translation>B&amp;ewerken…</translation>
     </message>
 </context>
 <context>
@@ -2577,7 +2599,7 @@ Dit logboek wordt bewaard in “%1”.</translation>
         <translation>Er is geen eerdere versie gevonden waaruit beide zijn ontstaan. Daarom wordt niets verwijderd, en kiest u overal waar de twee verschillen.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Deze &amp;waarden zijn in beide versies gewijzigd. Vink aan welke uit de andere versie moeten komen; de overige blijven zoals ze in dit logboek zijn.</translation>
     </message>
     <message>

@@ -913,6 +913,65 @@
         <source>The logbook has changed meanwhile. Look at the table again, and repeat what you did.</source>
         <translation>Dziennik w międzyczasie się zmienił. Należy jeszcze raz obejrzeć tabelę i powtórzyć czynność.</translation>
     </message>
+    <message>
+        <source>Flight edited</source>
+        <translation>Zmieniono lot</translation>
+    </message>
+</context>
+<context>
+    <name>FlightForm</name>
+    <message>
+        <source>&amp;Time</source>
+        <translation>Data i &amp;czas</translation>
+    </message>
+    <message>
+        <source>&amp;Model</source>
+        <translation>&amp;Model</translation>
+    </message>
+    <message>
+        <source>&amp;Battery</source>
+        <translation>&amp;Pakiet</translation>
+    </message>
+    <message>
+        <source>&amp;Duration</source>
+        <translation>Czas tr&amp;wania</translation>
+    </message>
+    <message>
+        <source>D&amp;ischarged</source>
+        <translation>&amp;Rozładowano</translation>
+    </message>
+    <message>
+        <source>Maximum &amp;current</source>
+        <translation>Prąd ma&amp;ksymalny</translation>
+    </message>
+    <message>
+        <source>&amp;Location</source>
+        <translation>M&amp;iejsce</translation>
+    </message>
+    <message>
+        <source>Tem&amp;perature</source>
+        <translation>&amp;Temperatura</translation>
+    </message>
+    <message>
+        <source>&amp;Notes</source>
+        <translation>&amp;Notatki</translation>
+    </message>
+    <message>
+        <source> mAh</source>
+        <translation> mAh</translation>
+    </message>
+    <message>
+        <source> A</source>
+        <translation> A</translation>
+    </message>
+    <message>
+        <source> °C</source>
+        <translation> °C</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
 </context>
 <context>
     <name>FolderLock</name>
@@ -1781,60 +1840,23 @@
         <translation>Dodawanie lotu</translation>
     </message>
     <message>
-        <source> mAh</source>
-        <translation> mAh</translation>
-    </message>
-    <message>
-        <source> A</source>
-        <translation> A</translation>
-    </message>
-    <message>
-        <source> °C</source>
-        <translation> °C</translation>
-    </message>
-    <message>
-        <source>&amp;Model</source>
-        <translation>&amp;Model</translation>
-    </message>
-    <message>
-        <source>&amp;Time</source>
-        <translation>Data i &amp;czas</translation>
-    </message>
-    <message>
-        <source>&amp;Duration</source>
-        <translation>Czas tr&amp;wania</translation>
-    </message>
-    <message>
-        <source>&amp;Battery</source>
-        <translation>&amp;Pakiet</translation>
-    </message>
-    <message>
-        <source>D&amp;ischarged</source>
-        <translation>&amp;Rozładowano</translation>
-    </message>
-    <message>
-        <source>Maximum &amp;current</source>
-        <translation>Prąd ma&amp;ksymalny</translation>
-    </message>
-    <message>
-        <source>&amp;Location</source>
-        <translation>M&amp;iejsce</translation>
-    </message>
-    <message>
-        <source>Tem&amp;perature</source>
-        <translation>&amp;Temperatura</translation>
-    </message>
-    <message>
-        <source>&amp;Notes</source>
-        <translation>&amp;Notatki</translation>
-    </message>
-    <message>
         <source>Add</source>
         <translation>Dodaj</translation>
     </message>
     <message>
         <source>Flight added</source>
         <translation>Dodano lot</translation>
+    </message>
+</context>
+<context>
+    <name>Host::FlightEditDialog</name>
+    <message>
+        <source>Edit a Flight</source>
+        <translation>Edycja lotu</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisz</translation>
     </message>
 </context>
 <context>
@@ -1939,10 +1961,6 @@
         <translation>Loty: %1 z %2</translation>
     </message>
     <message>
-        <source>Flight edited</source>
-        <translation>Zmieniono lot</translation>
-    </message>
-    <message>
         <source>Delete this flight?</source>
         <translation>Usunąć ten lot?</translation>
     </message>
@@ -2001,6 +2019,10 @@
     <message>
         <source>Flights that stood twice removed</source>
         <translation>Usunięto podwójne loty</translation>
+    </message>
+    <message>
+        <source>Ed&amp;it…</source>
+        <translation>Edy&amp;tuj…</translation>
     </message>
 </context>
 <context>
@@ -2607,7 +2629,7 @@ Ten dziennik jest przechowywany w „%1”.</translation>
         <translation>Nie znaleziono wcześniejszej wersji, z której obie pochodzą. Dlatego nic nie jest usuwane, a wyboru dokonuje się wszędzie tam, gdzie się różnią.</translation>
     </message>
     <message>
-        <source>Both have changed these &amp;values. Tick those that are to be the other version&apos;s; the others stay as they are in this logbook.</source>
+        <source>Both have changed these &amp;values. Tick those that are to be the other version’s; the others stay as they are in this logbook.</source>
         <translation>Obie wersje zmieniły te &amp;wartości. Należy zaznaczyć te, które mają pochodzić z drugiej wersji; pozostałe będą takie jak w tym dzienniku.</translation>
     </message>
     <message>

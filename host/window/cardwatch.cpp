@@ -70,8 +70,10 @@ CardWatch::~CardWatch()
     if (!m_thread)
         return;
     m_look->isStopped = true;
-    if (!m_thread->wait(MostPatience))
-        static_cast<void>(m_thread.release());
+    if (m_thread->wait(MostPatience))
+        return;
+    QThread *left = m_thread.release();
+    connect(left, &QThread::finished, left, &QObject::deleteLater); // should it answer after all
 }
 
 bool CardWatch::eventFilter(QObject *watched, QEvent *event)

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "host/window/flightdelegate.h"
 
-#include "host/data/edits.h"
-#include "host/window/flightfields.h"
-#include "host/window/flightsmodel.h"
+#include "host/window/flighteditors.h"
 
 #include <QKeyEvent>
-#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QSortFilterProxyModel>
 
 #include <algorithm>
@@ -14,29 +12,11 @@
 namespace Host {
 namespace {
 
-constexpr char Initial[] = "initial"; ///< property of an editor: the value that it came with
-
 /** The row of the flights that a row of a view shows. */
 int rowOf(const QModelIndex &index)
 {
     const auto *proxy = qobject_cast<const QSortFilterProxyModel *>(index.model());
     return proxy ? proxy->mapToSource(index).row() : index.row();
-}
-
-QVariant valueOf(const QWidget *editor)
-{
-    if (const auto *edit = qobject_cast<const QDateTimeEdit *>(editor))
-        return FlightFields::isDuration(*edit) ? QVariant(edit->time())
-                                               : QVariant(timeOf(edit->date(), edit->time()));
-    if (const auto *chooser = qobject_cast<const QComboBox *>(editor))
-        return chooser->isEditable() ? QVariant(chooser->currentText()) : QVariant(chooser->currentIndex());
-    if (const auto *spin = qobject_cast<const QSpinBox *>(editor))
-        return spin->value();
-    if (const auto *spin = qobject_cast<const QDoubleSpinBox *>(editor))
-        return spin->value();
-    if (const auto *text = qobject_cast<const QPlainTextEdit *>(editor))
-        return text->toPlainText();
-    return static_cast<const QLineEdit *>(editor)->text();
 }
 
 } // namespace
@@ -47,80 +27,26 @@ FlightDelegate::FlightDelegate(const FlightsModel &flights, QObject *parent)
 {
 }
 
-QWidget *FlightDelegate::makeEditor(QWidget *parent, const QModelIndex &index) const
-{
-    const Catalogue &catalogue = *m_flights.catalogue();
-    const bool isOneFigure = m_flights.dischargesOf(rowOf(index)).size() == 1;
-    switch (index.column()) {
-    case FlightsModel::Time:
-        return FlightFields::time(parent);
-    case FlightsModel::ModelName:
-        return FlightFields::chooser(FlightFields::names(catalogue.models), parent);
-    case FlightsModel::Batteries:
-        return FlightFields::chooser(FlightFields::names(catalogue.batteries), parent);
-    case FlightsModel::Duration:
-        return FlightFields::duration(parent);
-    case FlightsModel::Discharged:
-        return isOneFigure ? FlightFields::discharged(parent) : static_cast<QWidget *>(new QLineEdit(parent));
-    case FlightsModel::Current:
-        return isOneFigure ? FlightFields::current(parent) : static_cast<QWidget *>(new QLineEdit(parent));
-    case FlightsModel::Location:
-        return FlightFields::location(catalogue, parent);
-    case FlightsModel::Temperature:
-        return FlightFields::temperature(parent);
-    default:
-        return FlightFields::notes(parent);
-    }
-}
-
 QWidget *FlightDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &,
                                       const QModelIndex &index) const
 {
-    QWidget *editor = makeEditor(parent, index);
+    QWidget *editor = FlightEditors::make(m_flights, rowOf(index), index.column(), parent);
     editor->setAccessibleName(
         m_flights.headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString());
     editor->setAutoFillBackground(true);
+    if (auto *notes = qobject_cast<QPlainTextEdit *>(editor))
+        notes->selectAll();
     return editor;
 }
 
-void FlightDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
-{
-    if (editor->property(Initial).isValid())
-        return; // what was typed stays when the table is painted anew
-    const Flight &flight = m_flights.flightAt(rowOf(index));
-    const QVariant value = index.data(Qt::EditRole);
-    if (auto *edit = qobject_cast<QDateTimeEdit *>(editor)) {
-        if (FlightFields::isDuration(*edit))
-            edit->setTime(flight.duration.isValid() ? flight.duration : QTime(0, 0));
-        else
-            FlightFields::setMoment(*edit,
-                                    flight.time.isValid() ? flight.time : QDateTime::currentDateTime());
-    } else if (auto *chooser = qobject_cast<QComboBox *>(editor)) {
-        if (index.column() == FlightsModel::Location)
-            chooser->setCurrentText(value.toString());
-        else if (index.column() == FlightsModel::ModelName)
-            chooser->setCurrentIndex(static_cast<int>(m_flights.placeOf(rowOf(index)).model));
-        else
-            chooser->setCurrentIndex(
-                static_cast<int>(m_flights.dischargesOf(rowOf(index)).constFirst().battery));
-    } else if (auto *whole = qobject_cast<QSpinBox *>(editor)) {
-        whole->setValue(value.toInt());
-    } else if (auto *decimal = qobject_cast<QDoubleSpinBox *>(editor)) {
-        decimal->setValue(value.toDouble());
-    } else if (auto *text = qobject_cast<QPlainTextEdit *>(editor)) {
-        text->setPlainText(flight.notes);
-        text->selectAll();
-    } else {
-        static_cast<QLineEdit *>(editor)->setText(value.toString());
-    }
-    editor->setProperty(Initial, valueOf(editor));
-}
+/** It came with its value, and what was typed stays when the table is painted anew. */
+void FlightDelegate::setEditorData(QWidget *, const QModelIndex &) const {}
 
 void FlightDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
-    const QVariant value = valueOf(editor);
-    if (value != editor->property(Initial))
-        model->setData(index, value, Qt::EditRole);
+    const QVariant entered = FlightEditors::entered(*editor);
+    if (entered.isValid())
+        model->setData(index, entered, Qt::EditRole);
 }
 
 /** As large as the cell at least; what needs more room covers its neighbours. */

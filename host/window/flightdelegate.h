@@ -7,11 +7,7 @@ namespace Host {
 
 class FlightsModel;
 
-/**
- * The editors of the flights' table. They give the model a date and time, a duration, a temperature or a text
- * as it is, models and batteries by their index in the catalogue, one figure as a number, and the figures of
- * several batteries as a text with semicolons. A cell whose editor was left as it came is not edited.
- */
+/** The editors of the flights' table. A cell whose editor was left as it came is not edited. */
 class FlightDelegate final : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -33,8 +29,6 @@ protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
-    QWidget *makeEditor(QWidget *parent, const QModelIndex &index) const;
-
     const FlightsModel &m_flights;
 };
 

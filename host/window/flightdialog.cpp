@@ -5,16 +5,10 @@
 #include "host/data/sources.h"
 #include "host/window/flightedits.h"
 #include "host/window/flightfields.h"
+#include "host/window/flightform.h"
+#include "host/window/flightsmodel.h"
 #include "host/window/openlogbook.h"
 #include "host/window/questions.h"
-
-#include <QDialogButtonBox>
-#include <QFormLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -44,50 +38,18 @@ FlightDialog::FlightDialog(std::shared_ptr<const Catalogue> catalogue, OpenLogbo
     setWindowTitle(tr("Add a Flight"));
     FlightFields::setMoment(*m_time, QDateTime::currentDateTime());
     m_location->setCurrentIndex(m_catalogue->locations.isEmpty() ? -1 : 0);
-    m_discharged->setSuffix(tr(" mAh"));
-    m_current->setSuffix(tr(" A"));
-    m_temperature->setSuffix(tr(" °C"));
-    m_discharged->setAccessibleDescription(m_discharged->suffix().trimmed());
-    m_current->setAccessibleDescription(m_current->suffix().trimmed());
-    m_temperature->setAccessibleDescription(m_temperature->suffix().trimmed());
-    buildLayout();
+    FlightForm form(*this, tr("Add"));
+    form.add(FlightsModel::ModelName, *m_model);
+    form.add(FlightsModel::Time, *m_time);
+    form.add(FlightsModel::Duration, *m_duration);
+    form.add(FlightsModel::Batteries, *m_battery);
+    form.add(FlightsModel::Discharged, *m_discharged);
+    form.add(FlightsModel::Current, *m_current);
+    form.add(FlightsModel::Location, *m_location);
+    form.add(FlightsModel::Temperature, *m_temperature);
+    form.add(FlightsModel::Notes, *m_notes);
     connect(m_battery, &QComboBox::currentIndexChanged, this, &FlightDialog::offerBattery);
     offerBattery();
-}
-
-void FlightDialog::buildLayout()
-{
-    auto *fields = new QWidget;
-    auto *form = new QFormLayout(fields);
-    const auto add = [form](const QString &caption, QWidget *field) {
-        form->addRow(caption, field);
-        field->setAccessibleName(static_cast<QLabel *>(form->labelForField(field))->text().remove(u'&'));
-    };
-    add(tr("&Model"), m_model);
-    add(tr("&Time"), m_time);
-    add(tr("&Duration"), m_duration);
-    add(tr("&Battery"), m_battery);
-    add(tr("D&ischarged"), m_discharged);
-    add(tr("Maximum &current"), m_current);
-    add(tr("&Location"), m_location);
-    m_location->lineEdit()->setAccessibleName(m_location->accessibleName());
-    add(tr("Tem&perature"), m_temperature);
-    add(tr("&Notes"), m_notes);
-    m_notes->setMinimumHeight(fontMetrics().lineSpacing() * 3);
-    auto *area = new QScrollArea; // at 200 % it is higher than some screens
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus); // it follows its fields
-    area->setWidget(fields);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
-    buttons->addButton(tr("Add"), QDialogButtonBox::AcceptRole);
-    connect(buttons, &QDialogButtonBox::accepted, this, &FlightDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    buttons->setFocusProxy(
-        nullptr); // with its own, Tab would leave out what comes before the first that accepts
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(area);
-    layout->addWidget(buttons);
 }
 
 /** Presets what a capture would, which is then known as guessed. */
@@ -105,10 +67,7 @@ QString FlightDialog::add(Catalogue &catalogue)
 {
     const int model = m_model->currentIndex();
     const int battery = m_battery->currentIndex() - 1;
-    const bool isThere =
-        FlightFields::names(catalogue.models) == FlightFields::names(m_catalogue->models) &&
-        FlightFields::names(catalogue.batteries) == FlightFields::names(m_catalogue->batteries);
-    if (!isThere || model < 0)
+    if (!FlightEdits::canBeChosen(*m_catalogue, catalogue) || model < 0)
         return FlightEdits::changedMeanwhile();
     const Flight flight{timeOf(m_time->date(), m_time->time()), m_duration->time(), m_location->currentText(),
                         m_temperature->value(), m_notes->toPlainText()};

@@ -35,7 +35,6 @@ public:
     void accept() override;
 
 private:
-    void buildLayout();
     void offerBattery();
     QString add(Catalogue &catalogue);
 

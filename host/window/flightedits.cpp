@@ -2,7 +2,9 @@
 #include "host/window/flightedits.h"
 
 #include "host/data/sources.h"
+#include "host/window/flightfields.h"
 #include "host/window/flightsmodel.h"
+#include "host/window/openlogbook.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -24,6 +26,17 @@ QList<DischargePlace> dischargesOf(const Catalogue &catalogue, const FlightPlace
 {
     const qint64 moment = momentOf(catalogue.models.at(place.model).log.at(place.flight).time);
     return moment == NoMoment ? QList<DischargePlace>() : Moments(catalogue).firstDischargesAt(moment);
+}
+
+/** Whether a flight has the discharges still that a table showed beside it. */
+bool areDischargesThere(const FlightPlace &place, const Catalogue &shown, const Catalogue &now)
+{
+    const QList<DischargePlace> discharges = dischargesOf(shown, place);
+    return discharges == dischargesOf(now, place) &&
+           std::all_of(discharges.cbegin(), discharges.cend(), [&](const DischargePlace &there) {
+               return shown.batteries.at(there.battery).discharges.at(there.discharge) ==
+                      now.batteries.at(there.battery).discharges.at(there.discharge);
+           });
 }
 
 /** The figures in a cell: one, or a text with one for each battery. Negative ones are not read. */
@@ -82,26 +95,8 @@ QString applyModel(Catalogue &catalogue, FlightPlace &place, qsizetype model)
     return problem;
 }
 
-} // namespace
-
-bool FlightEdits::areThere(const QList<FlightPlace> &places, const Catalogue &shown, const Catalogue &now)
-{
-    return std::all_of(places.cbegin(), places.cend(), [&](const FlightPlace &place) {
-        if (place.model >= now.models.size())
-            return false;
-        const Model &before = shown.models.at(place.model);
-        const Model &model = now.models.at(place.model);
-        return model.name == before.name && place.flight < model.log.size() &&
-               model.log.at(place.flight) == before.log.at(place.flight);
-    });
-}
-
-QString FlightEdits::changedMeanwhile()
-{
-    return Texts::tr("The logbook has changed meanwhile. Look at the table again, and repeat what you did.");
-}
-
-QString FlightEdits::apply(Catalogue &catalogue, FlightPlace &place, int column, const QVariant &value)
+/** Gives a flight what its field for a column gave. @p place becomes where it stands then. */
+QString apply(Catalogue &catalogue, FlightPlace &place, int column, const QVariant &value)
 {
     Flight flight = catalogue.models.at(place.model).log.at(place.flight);
     switch (column) {
@@ -131,6 +126,53 @@ QString FlightEdits::apply(Catalogue &catalogue, FlightPlace &place, int column,
         break;
     }
     return Edits::editFlight(catalogue, place, flight);
+}
+
+} // namespace
+
+bool FlightEdits::areThere(const QList<FlightPlace> &places, const Catalogue &shown, const Catalogue &now)
+{
+    return std::all_of(places.cbegin(), places.cend(), [&](const FlightPlace &place) {
+        if (place.model >= now.models.size())
+            return false;
+        const Model &before = shown.models.at(place.model);
+        const Model &model = now.models.at(place.model);
+        return model.name == before.name && place.flight < model.log.size() &&
+               model.log.at(place.flight) == before.log.at(place.flight);
+    });
+}
+
+QString FlightEdits::changedMeanwhile()
+{
+    return Texts::tr("The logbook has changed meanwhile. Look at the table again, and repeat what you did.");
+}
+
+bool FlightEdits::canBeChosen(const Catalogue &shown, const Catalogue &now)
+{
+    return FlightFields::names(now.models) == FlightFields::names(shown.models) &&
+           FlightFields::names(now.batteries) == FlightFields::names(shown.batteries);
+}
+
+QString FlightEdits::edit(OpenLogbook &logbook, const Catalogue &shown, FlightPlace &place,
+                          const Entered &entered)
+{
+    QList<int> columns = entered.keys();
+    // With a time its discharges go, or stay with another flight: they are edited where they were shown.
+    if (columns.removeOne(FlightsModel::Time))
+        columns.append(FlightsModel::Time);
+    FlightPlace edited = place;
+    const QString problem = logbook.change(Texts::tr("Flight edited"), [&](Catalogue &catalogue) {
+        if (!areThere({place}, shown, catalogue) || !canBeChosen(shown, catalogue) ||
+            !areDischargesThere(place, shown, catalogue))
+            return changedMeanwhile();
+        QString obstacle;
+        for (qsizetype i = 0; i < columns.size() && obstacle.isEmpty(); ++i)
+            obstacle = apply(catalogue, edited, columns.at(i), entered.value(columns.at(i)));
+        return obstacle;
+    });
+    if (problem.isEmpty())
+        place = edited;
+    return problem;
 }
 
 QString FlightEdits::moveDischarges(Catalogue &catalogue, const QList<FlightPlace> &places, qsizetype from,

@@ -72,7 +72,7 @@ public:
     bool setData(const QModelIndex &index, const QVariant &value, int role) override;
 
 Q_SIGNALS:
-    /** The user has entered something; see FlightDelegate for the values. */
+    /** The user has entered something; see FlightEditors for the values. */
     void editRequested(const Host::FlightPlace &place, int column, const QVariant &value);
 
 private:

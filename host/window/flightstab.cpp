@@ -4,6 +4,7 @@
 #include "host/data/edits.h"
 #include "host/window/filterbar.h"
 #include "host/window/flightdialog.h"
+#include "host/window/flighteditdialog.h"
 #include "host/window/flightedits.h"
 #include "host/window/flightstable.h"
 #include "host/window/flowlayout.h"
@@ -35,6 +36,7 @@ FlightsTab::FlightsTab(OpenLogbook &logbook, Questions &questions, QWidget *pare
     , m_count(new QLabel)
     , m_buttons(new FlowLayout)
     , m_add(addCommand(&FlightsTab::addFlight))
+    , m_edit(addCommand(&FlightsTab::editFlight))
     , m_delete(addCommand(&FlightsTab::deleteFlights))
     , m_move(addCommand(&FlightsTab::moveFlights))
     , m_tidy(addCommand(&FlightsTab::tidyUp))
@@ -42,6 +44,8 @@ FlightsTab::FlightsTab(OpenLogbook &logbook, Questions &questions, QWidget *pare
 {
     buildLayout();
     retranslate();
+    m_edit->setShortcut(Qt::SHIFT | Qt::Key_F2); // F2 alone edits a cell
+    m_edit->setShortcutContext(Qt::WidgetShortcut);
     m_delete->setShortcut(QKeySequence::Delete);
     m_delete->setShortcutContext(Qt::WidgetShortcut); // in a field it deletes a character
     connect(&m_logbook, &OpenLogbook::possibilitiesChanged, this, &FlightsTab::updateCommands);
@@ -80,6 +84,7 @@ QAction *FlightsTab::addCommand(void (FlightsTab::*run)())
 void FlightsTab::retranslate()
 {
     m_add->setText(tr("&Add…"));
+    m_edit->setText(tr("Ed&it…"));
     m_delete->setText(tr("&Delete"));
     m_move->setText(tr("&Move…"));
     m_tidy->setText(tr("&Tidy Up…"));
@@ -142,6 +147,7 @@ void FlightsTab::updateCommands()
     const bool mayChangeChosen = mayChange && m_table->isAnyChosen();
     m_flights.setEditable(mayChange);
     m_add->setEnabled(mayChange && !catalogue->models.isEmpty());
+    m_edit->setEnabled(mayChange && m_table->isOneChosen());
     m_delete->setEnabled(mayChangeChosen);
     m_move->setEnabled(mayChangeChosen);
     m_tidy->setEnabled(mayChange && m_flights.rowCount() > 0);
@@ -167,11 +173,7 @@ void FlightsTab::edit(const std::shared_ptr<const Catalogue> &shown, const Fligh
                       const QVariant &value)
 {
     FlightPlace edited = place;
-    const QString problem = m_logbook.change(tr("Flight edited"), [&](Catalogue &catalogue) {
-        if (!FlightEdits::areThere({place}, *shown, catalogue))
-            return FlightEdits::changedMeanwhile();
-        return FlightEdits::apply(catalogue, edited, column, value);
-    });
+    const QString problem = FlightEdits::edit(m_logbook, *shown, edited, {{column, value}});
     finish(problem, {edited});
 }
 
@@ -183,6 +185,13 @@ void FlightsTab::addFlight()
     FlightDialog dialog(catalogue, m_logbook, m_questions, this);
     if (dialog.exec() == QDialog::Accepted)
         finish(QString(), {dialog.added()});
+}
+
+void FlightsTab::editFlight()
+{
+    FlightEditDialog dialog(m_flights, m_table->chosen().constFirst(), m_logbook, m_questions, this);
+    if (dialog.exec() == QDialog::Accepted)
+        finish(QString(), {dialog.place()});
 }
 
 void FlightsTab::deleteFlights()

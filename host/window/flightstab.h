@@ -46,6 +46,7 @@ private:
     void edit(const std::shared_ptr<const Catalogue> &shown, const FlightPlace &place, int column,
               const QVariant &value);
     void addFlight();
+    void editFlight();
     void deleteFlights();
     void moveFlights();
     void tidyUp();
@@ -61,6 +62,7 @@ private:
     QLabel *m_count;
     QLayout *m_buttons; ///< one for each command
     QAction *m_add;
+    QAction *m_edit;
     QAction *m_delete;
     QAction *m_move;
     QAction *m_tidy;

@@ -69,6 +69,15 @@ bool FlightsTable::isAnyChosen() const
     return selectionModel()->hasSelection();
 }
 
+bool FlightsTable::isOneChosen() const
+{
+    const QItemSelection selection = selectionModel()->selection();
+    const auto isFirstRow = [&selection](const QItemSelectionRange &range) {
+        return range.top() == selection.constFirst().top() && range.bottom() == range.top();
+    };
+    return !selection.isEmpty() && std::all_of(selection.cbegin(), selection.cend(), isFirstRow);
+}
+
 QList<FlightPlace> FlightsTable::chosen() const
 {
     QList<FlightPlace> places;

@@ -25,6 +25,7 @@ public:
     /** The flights chosen, in the order of the file. */
     QList<FlightPlace> chosen() const;
     bool isAnyChosen() const;
+    bool isOneChosen() const;
 
     /** Chooses flights, as far as they are on show, and scrolls to them. */
     void choose(const QList<FlightPlace> &places);

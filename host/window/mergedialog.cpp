@@ -7,13 +7,19 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTableWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
 namespace {
+
+constexpr int WidestColumn = 40; // in characters
+constexpr int RowsAtLeast = 5;   // that are seen at once, where there are as many
 
 QString describe(const MergeConflict &conflict)
 {
@@ -124,7 +130,7 @@ MergeDialog::MergeDialog(const Merge &plan, bool hasAncestor, const QString &nam
         layout->addWidget(paragraph(tr("No earlier version was found that both come from. So nothing is "
                                        "removed, and you choose wherever the two differ.")));
     auto *choice = new QLabel(tr("Both have changed these &values. Tick those that are to be the other "
-                                 "version's; the others stay as they are in this logbook."));
+                                 "version’s; the others stay as they are in this logbook."));
     choice->setWordWrap(true);
     choice->setBuddy(m_conflicts);
     layout->addWidget(choice);
@@ -162,17 +168,23 @@ void MergeDialog::fill(const QList<MergeConflict> &conflicts)
         for (int column = 0; column < texts.size(); ++column) {
             auto *item = new QTableWidgetItem(texts.at(column));
             item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+            item->setToolTip(texts.at(column)); // a note may be longer than its column
             m_conflicts->setItem(row, column, item);
         }
         m_conflicts->item(row, 0)->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable |
                                             Qt::ItemIsUserCheckable);
         m_conflicts->item(row, 0)->setCheckState(Qt::Unchecked);
     }
+    m_conflicts->horizontalHeader()->setMaximumSectionSize(fontMetrics().averageCharWidth() * WidestColumn);
     m_conflicts->resizeColumnsToContents();
     m_conflicts->horizontalHeader()->setStretchLastSection(true);
     m_conflicts->setCurrentCell(0, 0);
     // As wide as its columns are, so that the dialog shows all of them where the screen has the room.
     m_conflicts->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    const int rows = std::min(m_conflicts->rowCount(), RowsAtLeast);
+    m_conflicts->setMinimumHeight(m_conflicts->horizontalHeader()->sizeHint().height() +
+                                  rows * m_conflicts->verticalHeader()->defaultSectionSize() +
+                                  m_conflicts->horizontalScrollBar()->sizeHint().height());
 }
 
 QSet<qsizetype> MergeDialog::chosen() const

@@ -92,16 +92,26 @@ def check_recorded(logbook):
     check(discharge["Date"] == flight["Date"], f"recorded: {flight}, {discharge}")
 
 
+def check_edited(logbook):
+    """The flight as it was corrected in the dialog; what was not touched there is as it was."""
+    wait_for("the new duration in the file", lambda: logbook.flights()[0]["Duration"] == "00:07:20")
+    flight = logbook.flights()[0]
+    check(flight["Location"] == "Meadow" and flight["Notes"] == "Smooth, then gusts" and flight["Temperature"] == "16",
+          f"edited: {flight}")
+    discharge = logbook.battery("3S A").find("Data/Cycle").attrib
+    check(discharge == {"Date": flight["Date"], "Discharged": "925", "Current": "2150"}, f"edited: {discharge}")
+
+
 def check_corrected(logbook):
     wait_for("the correction in the file", lambda: logbook.battery("3S B").find("Data/Cycle") is not None)
     check(logbook.battery("3S A").find("Data/Cycle") is None, "the discharge is still with the other battery")
 
 
-def check_exported(target):
+def check_exported(target, duration, temperature):
     wait_for("the export", target.exists)
     flight = wait_for("the whole export", lambda: json.loads(target.read_text(encoding="utf-8")))["models"][0]["log"][0]
-    check(flight["location"] == "Meadow" and flight["duration_s"] == 400 and flight["temperature_C"] == 17 and
-          flight["batteries"] == ["3S B"], f"exported: {flight}")
+    check(flight["location"] == "Meadow" and flight["duration_s"] == duration and
+          flight["temperature_C"] == temperature and flight["batteries"] == ["3S B"], f"exported: {flight}")
 
 
 def by_assistive_technology(program, logbook, target):
@@ -142,6 +152,18 @@ def by_assistive_technology(program, logbook, target):
         program.find("page tab list", tab)
         look(program, tab)
     program.press("table cell", "3S A")
+    program.press("push button", "Edit…")
+    program.find("dialog", "Edit a Flight")
+    look(program, "editing")
+    program.write("spin button", "Duration", "00:07:20")
+    program.set_value("Discharged", 925)
+    program.set_value("Temperature", 16)
+    program.write("text", "Notes", "Smooth, then gusts")
+    program.press("push button", "Save")
+    check_edited(logbook)
+    program.find("table cell", "00:07:20")
+    look(program, "the edited flight")
+
     program.press("push button", "Move…")
     program.find("dialog", "Move Flights")
     look(program, "moving")
@@ -160,7 +182,7 @@ def by_assistive_technology(program, logbook, target):
     look(program, program.find("dialog", FILE_DIALOG).name)
     program.write("text", "File name:", str(target))
     program.press("push button", "Save")
-    check_exported(target)
+    check_exported(target, 440, 16)
     program.find("label", "The logbook was exported to .*")
     look(program, "the message")
     program.command("Logbook", "Quit")
@@ -215,7 +237,7 @@ def by_keyboard(program, logbook, target):
     program.find("dialog", FILE_DIALOG)
     keyboard.fill("text", "File name:", str(target))
     keyboard.press("Return")
-    check_exported(target)
+    check_exported(target, 400, 17)
     wait_for("the window to be active", lambda: any(program.is_active(window) for window in program.root))
     keyboard.press("ctrl+q")
 

@@ -7,6 +7,8 @@
 #include <QCryptographicHash>
 #include <QDirIterator>
 #include <QElapsedTimer>
+#include <QPointer>
+#include <QThread>
 #include <QTimer>
 
 #include <sys/stat.h>
@@ -360,10 +362,12 @@ void CardsTest::aSlowCardHoldsUpNobody()
     watched.watch().look();
     QCoreApplication::processEvents();
     QVERIFY(time.elapsed() < 300);
-    QVERIFY(watched.watch().m_thread);
+    const QPointer<QThread> thread = watched.watch().m_thread.get();
+    QVERIFY(thread);
     watched.window.close(); // while it does not answer
     QVERIFY(time.elapsed() < 6000);
     *answers = true;
+    QTRY_VERIFY(!thread); // gone, too
 }
 
 void CardsTest::nothingIsWrittenToTheCard()

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "host/data/measured.h"
 #include "host/safety/backups.h"
 #include "host/safety/storagefolder.h"
 #include "tests/host/support/faultrun.h"
@@ -75,15 +74,6 @@ Scenario restoreOfAMissingFile()
             Logbook::read(laterLogbook())};
 }
 
-QByteArray measured(const QString &battery)
-{
-    Measured measured;
-    MeasuredDischarge entry;
-    entry.battery = battery;
-    measured.discharges.append(entry);
-    return MeasuredFile::save(measured);
-}
-
 /** A copy with other measured values is restored. */
 Scenario restoreFromTheMenu()
 {
@@ -91,9 +81,9 @@ Scenario restoreFromTheMenu()
             [](const Home &home) {
                 home.makeLogbook(smallLogbook());
                 const QString beside = home.logbook() + u"/voltbok-measured.json"_s;
-                QVERIFY(Test::write(beside, measured(u"3S A"_s)));
+                QVERIFY(Test::write(beside, measuredOf(u"3S A"_s)));
                 addCopies(home);
-                QVERIFY(Test::write(beside, measured(u"3S B"_s)));
+                QVERIFY(Test::write(beside, measuredOf(u"3S B"_s)));
             },
             {{u"menu"_s, u"Backups…"_s},
              {u"select"_s, u"1"_s},
@@ -104,32 +94,26 @@ Scenario restoreFromTheMenu()
             u"voltbok-measured.json"_s};
 }
 
+/** Another version of the logbook, which a file synchroniser has left, is merged. */
+Scenario merge()
+{
+    static const QString conflict = u"voltbok.sync-conflict-20261121-101112-ABCDEFG.xml"_s;
+    return {u"merge"_s,
+            [](const Home &home) {
+                home.makeLogbook(smallLogbook());
+                QVERIFY(Test::write(home.logbook() + u'/' + conflict, laterLogbook()));
+            },
+            {{u"press-for-box"_s, u"Merge…"_s}, {u"answer"_s, u"Merge"_s}, AsAPilot, {u"click"_s, u"3S A"_s}},
+            Logbook::read(smallLogbook()),
+            conflict};
+}
+
 Scenario emptyStart()
 {
     return {u"empty start"_s,
             [](const Home &home) { home.makeLogbook(damaged(smallLogbook())); },
             {{u"press"_s, u"Start with an Empty"_s}, AsAPilot, {u"add-location"_s, u"Slope"_s}},
             Logbook()};
-}
-
-/** Every fault that fits one of the operations. */
-QList<Fault> faultsFor(const QList<Operation> &operations)
-{
-    QList<Fault> faults;
-    for (const Operation &operation : operations) {
-        const auto add = [&](QChar flag, const QString &kind, bool forever = false) {
-            if (flag.isNull() || operation.flags.contains(flag))
-                faults.append({kind, operation.number, forever});
-        };
-        add(u'c', u"kill-before"_s);
-        add(u'c', u"kill-after"_s);
-        add(u'w', u"kill-middle"_s);
-        add(u's', u"ENOSPC"_s);
-        add(u's', u"ENOSPC"_s, true);
-        add(u'p', u"EACCES"_s);
-        add(QChar(), u"EIO"_s);
-    }
-    return faults;
 }
 
 } // namespace
@@ -172,7 +156,7 @@ void FileFaultsTest::whateverOperationFailsNothingIsLostAndNothingIsSilent_data(
 {
     QTest::addColumn<Scenario>("scenario");
     for (const Scenario &scenario :
-         {session(), recovery(), restoreOfAMissingFile(), restoreFromTheMenu(), emptyStart()})
+         {session(), recovery(), restoreOfAMissingFile(), restoreFromTheMenu(), merge(), emptyStart()})
         QTest::newRow(qPrintable(scenario.name)) << scenario;
 }
 

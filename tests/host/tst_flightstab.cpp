@@ -129,10 +129,10 @@ void FlightsTabTest::nothingCanBeDoneWhileAFlightIsEntered()
 {
     FlightsWindow window;
     window.select({u"11:00:00"_s});
-    for (const QString &name : {u"Add…"_s, u"Delete"_s, u"Move…"_s, u"Tidy Up…"_s, u"Rename…"_s})
+    for (const QString &name : {u"Add…"_s, u"Edit…"_s, u"Delete"_s, u"Move…"_s, u"Tidy Up…"_s, u"Rename…"_s})
         QVERIFY2(window.command(name)->isEnabled(), qPrintable(name));
     window.logbook().setCapturing(true);
-    for (const QString &name : {u"Add…"_s, u"Delete"_s, u"Move…"_s, u"Tidy Up…"_s, u"Rename…"_s})
+    for (const QString &name : {u"Add…"_s, u"Edit…"_s, u"Delete"_s, u"Move…"_s, u"Tidy Up…"_s, u"Rename…"_s})
         QVERIFY2(!window.command(name)->isEnabled(), qPrintable(name));
     QVERIFY(!window.openEditor(u"11:00:00"_s, FlightsModel::Notes));
     window.table().setFocus();
@@ -186,7 +186,7 @@ void FlightsTabTest::everythingIsReachedByTheTabKey()
     for (QWidget *widget : std::initializer_list<QWidget *>{
              window.bar().m_text, window.bar().m_model, window.bar().m_battery, window.bar().m_location,
              window.bar().m_isFrom, window.bar().m_isTo, &window.table(), window.command(u"Add…"_s),
-             window.command(u"Delete"_s), window.command(u"Rename…"_s)})
+             window.command(u"Edit…"_s), window.command(u"Delete"_s), window.command(u"Rename…"_s)})
         QVERIFY2(reached.contains(widget), widget->metaObject()->className());
 }
 

@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QTableView>
 
 #include <algorithm>
 #include <iostream>
@@ -62,13 +63,22 @@ void useEverything(SpokenWindow &window)
     }
     window.show(u"flights"_s);
     auto *flights = window.panel->currentWidget();
-    flights->findChild<QAbstractItemView *>()->selectAll();
-    window.settle();
-    const QList<QAction *> commands = flights->findChildren<QAction *>();
-    for (QAction *command : commands) {
-        if (command->parent() == flights)
+    auto *table = flights->findChild<QTableView *>();
+    QList<QAction *> given;
+    const auto giveCommands = [&] {
+        window.settle();
+        const QList<QAction *> commands = flights->findChildren<QAction *>();
+        for (QAction *command : commands) {
+            if (command->parent() != flights || !command->isEnabled() || given.contains(command))
+                continue;
+            given.append(command);
             command->trigger();
-    }
+        }
+    };
+    table->selectAll();
+    giveCommands();
+    table->selectRow(0); // there are commands for exactly one
+    giveCommands();
     for (const QString &tab : {u"batteries"_s, u"statistics"_s}) {
         window.show(tab);
         const QList<QPushButton *> buttons = window.panel->currentWidget()->findChildren<QPushButton *>();

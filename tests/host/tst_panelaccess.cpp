@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a screen reader is told of the program around the logbook, and what the keyboard reaches.
 #include "host/window/flightdialog.h"
+#include "host/window/flighteditdialog.h"
 #include "host/window/importdialog.h"
 #include "host/window/manualwindow.h"
 #include "host/window/movedialog.h"
@@ -126,6 +127,11 @@ void PanelAccessTest::addWindows()
         [](HostWindow &window) { return new TidyDialog(*window.logbook().catalogue(), doubles()); });
     QTest::newRow("add a flight") << MakeWindow([](HostWindow &window) {
         return new FlightDialog(window.logbook().catalogue(), window.logbook(), window.questions);
+    });
+    QTest::newRow("edit a flight") << MakeWindow([](HostWindow &window) {
+        FlightsModel flights;
+        flights.setCatalogue(window.logbook().catalogue());
+        return new FlightEditDialog(flights, {0, 0}, window.logbook(), window.questions);
     });
     QTest::newRow("import") << MakeWindow([](HostWindow &window) {
         const QString logs = window.place() + u"/logs"_s;

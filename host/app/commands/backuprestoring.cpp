@@ -7,6 +7,7 @@
 #include "host/app/opening.h"
 #include "host/data/cataloguefile.h"
 #include "host/safety/copyrestoring.h"
+#include "host/safety/logbookfiles.h"
 #include "host/safety/wholefile.h"
 #include "host/window/questions.h"
 
@@ -17,8 +18,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
-#include <system_error>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -79,18 +78,6 @@ struct Present
     bool isWhole() const { return state.kind == FileState::Whole; }
 };
 
-/** Puts the file back that was moved aside. */
-QString putBack(const StorageFolder &folder, const QString &aside)
-{
-    std::error_code error;
-    const auto path = QFileInfo(folder.dataFileTarget()).filesystemFilePath();
-    if (aside.isEmpty())
-        std::filesystem::remove(path, error);
-    else
-        std::filesystem::rename(QFileInfo(aside).filesystemFilePath(), path, error);
-    return error ? WholeFile::clause(qt_error_string(error.value())) : QString();
-}
-
 /** Keeps the present logbook, and whatever else must not be lost. @return why it is not kept, a clause. */
 QString keep(const StorageFolder &folder, const Present &present, const QByteArray &beside)
 {
@@ -104,19 +91,14 @@ QString keep(const StorageFolder &folder, const Present &present, const QByteArr
                : problem;
 }
 
-/** Puts both files in their places, or neither. @param aside where a file that is not whole is kept. */
-QString put(const StorageFolder &folder, const Present &present, const QByteArray &document,
-            const QByteArray &beside, QString *aside)
+/** Puts the copy in its place. @param aside where a file that is not whole is kept. */
+QString put(const StorageFolder &folder, const Present &present, const LogbookFiles::Contents &contents,
+            QString *aside)
 {
     QString moved;
-    QString problem = Recovery::replace(folder, document, QDateTime::currentDateTimeUtc(), &moved);
+    QString problem = LogbookFiles::put(folder, contents, present.stored.bytes, &moved);
     if (!problem.isEmpty())
         return problem;
-    problem = beside == present.stored.bytes ? QString() : MeasuredStore::put(folder, beside);
-    if (!problem.isEmpty()) {
-        const QString lasting = putBack(folder, moved);
-        return lasting.isEmpty() ? problem : u"%1; %2"_s.arg(problem, lasting);
-    }
     if (present.isWhole())
         QFile::remove(moved); // its bytes are in the copy
     else
@@ -140,15 +122,6 @@ std::optional<Copy> copyOf(const StorageFolder &folder, const Present &present)
     QByteArray bytes;
     const std::optional<Copy> whole = Backups::newestWhole(folder, &bytes);
     return present.isWhole() && bytes == present.state.bytes ? whole : std::nullopt;
-}
-
-/** The newest copy is that of the newest state. One that is that already keeps its measured values. */
-QString copyRestored(const StorageFolder &folder, const QByteArray &document)
-{
-    QByteArray bytes;
-    return Backups::newestWhole(folder, &bytes) && bytes == document
-               ? QString()
-               : Backups::add(folder, document, QDateTime::currentDateTimeUtc());
 }
 
 int restore(const StorageFolder &folder, const Chosen &chosen, const Present &present)
@@ -178,10 +151,10 @@ int restore(const StorageFolder &folder, const Chosen &chosen, const Present &pr
     }
     const std::optional<Copy> before = copyOf(folder, present);
     QString aside;
-    problem = isThere ? MeasuredStore::put(folder, beside) : put(folder, present, document, beside, &aside);
+    problem = isThere ? MeasuredStore::put(folder, beside) : put(folder, present, {document, beside}, &aside);
     if (!problem.isEmpty())
         return refuse(notRestored(problem));
-    problem = copyRestored(folder, document);
+    problem = Backups::add(folder, document, QDateTime::currentDateTimeUtc());
     if (!problem.isEmpty())
         Console::complain(Text::tr("No copy of the logbook can be kept in “%1”: %2.")
                               .arg(folder.backups().path(), problem));

@@ -35,8 +35,8 @@ bool mayBecomeWhole(const FileState &state)
 std::optional<Catalogue> complain(const Invocation &invocation, const QString &problem,
                                   const std::function<QString()> &advice)
 {
-    const QString text = Text::tr("The logbook file “%1” cannot be read: %2.")
-                             .arg(invocation.folder.dataFile(), problem);
+    const QString text =
+        Text::tr("The logbook file “%1” cannot be read: %2.").arg(invocation.folder.dataFile(), problem);
     const QString more = advice ? advice() : QString();
     Console::complain(more.isEmpty() ? text : text + u' ' + more);
     return std::nullopt;

@@ -141,7 +141,7 @@ int run(const Invocation &invocation, Opening *opening)
             const Opened opened = opening->opened(); // and its lock
             if (!opened.lossesMessage.isEmpty())
                 Console::complain(opened.lossesMessage);
-            notDone = LogbookWriting::write(invocation.folder, *catalogue, meant, known,
+            notDone = LogbookWriting::write(invocation.folder, {*catalogue, measured}, {meant, known},
                                             Text::tr("Nothing was imported"));
         }
         if (!notDone.isEmpty()) {

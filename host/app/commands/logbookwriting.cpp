@@ -4,6 +4,8 @@
 #include "host/app/console.h"
 #include "host/data/cataloguefile.h"
 #include "host/safety/backups.h"
+#include "host/safety/copyrestoring.h"
+#include "host/safety/logbookfiles.h"
 #include "host/safety/measuredstore.h"
 #include "host/safety/wholefile.h"
 
@@ -42,49 +44,56 @@ QString documentOf(const Catalogue &meant, const QString &notDone, QByteArray &d
     return QString();
 }
 
-/** @return why the logbook is not as it was before, a clause; empty when it is. */
-QString putBack(const StorageFolder &folder, const WholeFile::Reading &before)
+/** Keeps the logbook as it is now, and puts both files in their places, or neither. @return why that is not
+ * done, in whole sentences. */
+QString put(const StorageFolder &folder, const LogbookFiles::Contents &contents, const QByteArray &before,
+            const MeasuredStore::Stored &stored, const QString &notDone)
 {
-    if (!before.isMissing)
-        return WholeFile::write(folder.dataFileTarget(), before.bytes);
-    QFile file(folder.dataFileTarget());
-    return file.remove() ? QString() : WholeFile::clause(file.errorString());
+    QString problem =
+        CopyRestoring::keepPresent(folder, before, stored, contents.beside, QDateTime::currentDateTimeUtc());
+    if (!problem.isEmpty())
+        return sentence(notDone, folder.backups().path(), problem);
+    if (contents.document == before) {
+        problem = MeasuredStore::put(folder, contents.beside);
+        return problem.isEmpty() ? QString() : sentence(notDone, folder.measuredFile(), problem);
+    }
+    QString moved;
+    problem = LogbookFiles::put(folder, contents, stored.bytes, &moved);
+    if (!problem.isEmpty())
+        return sentence(notDone, folder.path(), problem);
+    if (!moved.isEmpty())
+        QFile::remove(moved); // its bytes are in the copy
+    return QString();
 }
 
 } // namespace
 
-QString LogbookWriting::write(const StorageFolder &folder, const Catalogue &present, const Catalogue &meant,
-                              const Measured &measured, const QString &notDone)
+QString LogbookWriting::write(const StorageFolder &folder, const State &present, const State &meant,
+                              const QString &notDone)
 {
     const WholeFile::Reading before = WholeFile::read(folder.dataFile());
-    const bool isNew = before.isMissing && present == Catalogue();
+    const bool isNew = before.isMissing && present.catalogue == Catalogue();
     if (!before.problem.isEmpty() && !isNew)
         return sentence(notDone, folder.dataFile(), before.problem);
-    if (!isNew && CatalogueFile::load(before.bytes).catalogue != present)
+    const MeasuredStore::Stored stored = MeasuredStore::load(folder);
+    if ((!isNew && CatalogueFile::load(before.bytes).catalogue != present.catalogue) ||
+        MeasuredFile::save(stored.measured) != MeasuredFile::save(present.measured))
         return Text::tr("%1: another program has changed the logbook file meanwhile. Try again.")
             .arg(notDone);
-    QByteArray document = before.bytes;
-    if (meant != present) {
-        QString problem = documentOf(meant, notDone, document);
-        if (!problem.isEmpty())
-            return problem;
-        if (!isNew)
-            problem = Backups::add(folder, before.bytes, QDateTime::currentDateTimeUtc());
-        if (!problem.isEmpty())
-            return sentence(notDone, folder.backups().path(), problem);
-        problem = WholeFile::write(folder.dataFileTarget(), document);
-        if (!problem.isEmpty())
-            return sentence(notDone, folder.dataFile(), problem);
+    LogbookFiles::Contents contents{before.bytes, stored.bytes};
+    if (MeasuredFile::save(meant.measured) != MeasuredFile::save(present.measured)) {
+        if (!stored.mayWrite)
+            return sentence(notDone, folder.measuredFile(), stored.reason);
+        contents.beside = MeasuredFile::save(meant.measured);
     }
-    if (const QString problem = MeasuredStore::save(folder, measured); !problem.isEmpty()) {
-        const QString lasting = document == before.bytes ? QString() : putBack(folder, before);
-        if (!lasting.isEmpty())
-            Console::complain(sentence(notDone, folder.dataFile(), lasting));
-        return sentence(notDone, folder.measuredFile(), problem);
-    }
-    const QString problem = document.isEmpty()
-                                ? QString() // there is still no logbook
-                                : Backups::add(folder, document, QDateTime::currentDateTimeUtc());
+    QString problem;
+    if (meant.catalogue != present.catalogue)
+        problem = documentOf(meant.catalogue, notDone, contents.document);
+    if (problem.isEmpty())
+        problem = put(folder, contents, before.bytes, stored, notDone);
+    if (!problem.isEmpty() || contents.document.isEmpty()) // there is still no logbook
+        return problem;
+    problem = Backups::add(folder, contents.document, QDateTime::currentDateTimeUtc());
     if (!problem.isEmpty())
         Console::complain(Text::tr("No copy of the logbook can be kept in “%1”: %2.")
                               .arg(folder.backups().path(), problem));

@@ -12,16 +12,22 @@ class StorageFolder;
 
 namespace LogbookWriting {
 
+/** What a logbook holds, and what is known of its measured discharges. */
+struct State
+{
+    Catalogue catalogue;
+    Measured measured;
+};
+
 /**
- * Writes what a command makes of a logbook, with a copy of it before and after, then what is known of its
- * measured discharges. Both or none.
+ * Writes what a command makes of a logbook, with a copy of it before and after: the data file and the
+ * measured values, both or none.
  *
- * @param present what the logbook holds now.
+ * @param present what both held when the command read them.
  * @param notDone what did not happen where it fails, such as "Nothing was imported".
  * @return why it was not done, in whole sentences; empty when it was.
  */
-QString write(const StorageFolder &folder, const Catalogue &present, const Catalogue &meant,
-              const Measured &measured, const QString &notDone);
+QString write(const StorageFolder &folder, const State &present, const State &meant, const QString &notDone);
 
 } // namespace LogbookWriting
 } // namespace Host

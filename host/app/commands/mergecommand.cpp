@@ -137,8 +137,8 @@ void complainOf(const QList<MergeConflict> &conflicts)
 }
 
 /** Writes what came of the merge. @return the exit status where that ends the command. */
-std::optional<int> write(const Invocation &invocation, Opening &opening, const Catalogue &present,
-                         const Version &theirs, const Merge &merge, const Measured &known)
+std::optional<int> write(const Invocation &invocation, Opening &opening, const LogbookWriting::State &present,
+                         const LogbookWriting::State &merged, const Version &theirs)
 {
     const QDateTime when = QDateTime::currentDateTimeUtc();
     if (const Opening::Status ended = opening.prepareFile())
@@ -146,8 +146,8 @@ std::optional<int> write(const Invocation &invocation, Opening &opening, const C
     const Opened opened = opening.opened(); // and its lock
     if (!opened.lossesMessage.isEmpty())
         Console::complain(opened.lossesMessage);
-    const QString problem = LogbookWriting::write(invocation.folder, present, merge.catalogue, known,
-                                                  Text::tr("Nothing was merged"));
+    const QString problem =
+        LogbookWriting::write(invocation.folder, present, merged, Text::tr("Nothing was merged"));
     if (!problem.isEmpty())
         return refuse(problem);
     const QString notKept = MergeSources::keepMerged(invocation.folder, theirs.document, when);
@@ -182,7 +182,9 @@ int run(const Invocation &invocation, Opening *opening)
     const bool isMerged =
         merged.catalogue != *ours || MeasuredFile::save(known) != MeasuredFile::save(before);
     if (opening && isMerged) {
-        if (const std::optional<int> ended = write(invocation, *opening, *ours, *theirs, merged, known))
+        const std::optional<int> ended =
+            write(invocation, *opening, {*ours, before}, {merged.catalogue, known}, *theirs);
+        if (ended)
             return *ended;
     }
     complainOf(merged.conflicts);

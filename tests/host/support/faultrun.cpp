@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/host/support/faultrun.h"
 
+#include "host/data/measured.h"
+#include "host/data/moments.h"
 #include "host/safety/backups.h"
 #include "host/safety/recovery.h"
 #include "host/safety/storagefolder.h"
@@ -49,6 +51,35 @@ QList<Operation> operationsIn(const QString &faultLog)
             operations.append({words.at(0).toInt(), words.at(1), words.at(2), words.at(3), words.size() > 4});
     }
     return operations;
+}
+
+QList<Fault> faultsFor(const QList<Operation> &operations)
+{
+    QList<Fault> faults;
+    for (const Operation &operation : operations) {
+        const auto add = [&](QChar flag, const QString &kind, bool forever = false) {
+            if (flag.isNull() || operation.flags.contains(flag))
+                faults.append({kind, operation.number, forever});
+        };
+        add(u'c', u"kill-before"_s);
+        add(u'c', u"kill-after"_s);
+        add(u'w', u"kill-middle"_s);
+        add(u's', u"ENOSPC"_s);
+        add(u's', u"ENOSPC"_s, true);
+        add(u'p', u"EACCES"_s);
+        add(QChar(), u"EIO"_s);
+    }
+    return faults;
+}
+
+QByteArray measuredOf(const QString &battery, const QDateTime &time)
+{
+    Measured measured;
+    MeasuredDischarge entry;
+    entry.battery = battery;
+    entry.moment = momentOf(time);
+    measured.discharges.append(entry);
+    return MeasuredFile::save(measured);
 }
 
 QString Fault::name() const

@@ -32,6 +32,12 @@ struct Fault
     bool kills() const { return kind.startsWith(QLatin1String("kill")); }
 };
 
+/** Every fault that fits one of the operations. */
+QList<Fault> faultsFor(const QList<Operation> &operations);
+
+/** The measured values of one discharge, as they stand beside a logbook. */
+QByteArray measuredOf(const QString &battery, const QDateTime &time = {});
+
 /** What a pilot does, in a folder that was prepared for it. */
 struct Scenario
 {
@@ -50,6 +56,10 @@ class FaultRun final : public QObject
 public:
     /** @param display of an X server: questions are asked only where somebody may see them. */
     FaultRun(const Scenario &scenario, const Fault &fault, const QString &display);
+
+    /** Before its end, nobody is told. */
+    ~FaultRun() override { m_process.disconnect(this); }
+    Q_DISABLE_COPY_MOVE(FaultRun)
 
     void start();
 

@@ -87,6 +87,7 @@ const QHash<QString, Action> &actions()
              *result = Hands::messages();
              return Hands::press(words.value(0));
          }},
+        {u"press-for-box"_s, of(Hands::pressForBox)},
         {u"answer"_s, of([](const QString &button) { return Hands::seesBox() && Hands::press(button); })},
         {u"type"_s, ofTwo(Hands::type)},
         {u"choose"_s, ofTwo(Hands::choose)},

@@ -116,6 +116,20 @@ QStringList tableTexts(const QWidget *box)
     return texts;
 }
 
+/** The first button of this name, or with this text, that can be pressed now. */
+QAbstractButton *pressable(const QString &button)
+{
+    for (const QWidget *window : windows()) {
+        for (QAbstractButton *candidate : window->findChildren<QAbstractButton *>()) {
+            const bool named = candidate->objectName() == button ||
+                               candidate->text().remove(u'&').contains(button, Qt::CaseInsensitive);
+            if (named && canBePressed(candidate))
+                return candidate;
+        }
+    }
+    return nullptr;
+}
+
 /** Leads to the page on which the catalogue is edited. */
 bool goToEditPage()
 {
@@ -153,17 +167,16 @@ bool changeAssignment(const QString &model, const QString &battery, const QStrin
 
 bool Hands::press(const QString &button)
 {
-    for (const QWidget *window : windows()) {
-        for (QAbstractButton *candidate : window->findChildren<QAbstractButton *>()) {
-            const bool named = candidate->objectName() == button ||
-                               candidate->text().remove(u'&').contains(button, Qt::CaseInsensitive);
-            if (!named || !canBePressed(candidate))
-                continue;
-            candidate->click();
-            return true;
-        }
-    }
-    return false;
+    QAbstractButton *found = pressable(button);
+    if (found)
+        found->click();
+    return found != nullptr;
+}
+
+bool Hands::pressForBox(const QString &button)
+{
+    QAbstractButton *found = pressable(button);
+    return found && QMetaObject::invokeMethod(found, &QAbstractButton::click, Qt::QueuedConnection);
 }
 
 bool Hands::type(const QString &field, const QString &text)

@@ -10,6 +10,8 @@ namespace Hands {
 /** @param result receives cycles, charged (0, 1) and, of a discharge, its time, mAh, model and location. */
 bool clickCard(const QString &battery, QStringList *result);
 bool press(const QString &button);
+/** Presses what opens a box; this does not wait. */
+bool pressForBox(const QString &button);
 bool type(const QString &field, const QString &text);
 bool choose(const QString &chooser, const QString &text);
 
