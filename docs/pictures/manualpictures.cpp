@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr qsizetype PaletteSize = 256;
-constexpr qsizetype MostColours = 1024; // the background of a chart has more, and would get stripes
+constexpr qsizetype MostColours = 2048; // the background of a chart has more, and would get stripes
 
 /** The colours of a picture, those first that cover the most. */
 QList<QRgb> colours(const QImage &image)
