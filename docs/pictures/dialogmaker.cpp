@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Draws the dialogs of the program for the manual, over the sample logbook.
+// Draws the dialogs of the program and the tabs of its side panel for the manual, over the sample logbook.
+#include "docs/pictures/manualpictures.h"
 #include "host/data/cataloguefile.h"
 #include "host/safety/backups.h"
 #include "host/safety/folderlock.h"
 #include "host/safety/wholefile.h"
+#include "host/window/backupsdialog.h"
 #include "host/window/mainwindow.h"
 #include "host/window/questions.h"
 
@@ -11,12 +13,12 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
-#include <QMenuBar>
 #include <QPixmap>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstdlib>
 
 using namespace Host;
@@ -31,8 +33,9 @@ void write(const QString &path, const QByteArray &bytes)
 }
 
 /** The sample, and three copies of what it was like. */
-void fill(const StorageFolder &folder, const QByteArray &sample)
+void fill(const StorageFolder &folder, const ManualPictures &pictures)
 {
+    const QByteArray sample = WholeFile::read(pictures.sample()).bytes;
     write(folder.dataFile(), sample);
     if (!folder.backups().mkpath(u"."_s))
         qFatal("Cannot make %s.", qPrintable(folder.backups().path()));
@@ -51,30 +54,57 @@ void fill(const StorageFolder &folder, const QByteArray &sample)
     put(CatalogueFile::save(earlier).document);
     Flight missed = catalogue.models.first().log.constLast();
     missed.time = missed.time.addSecs(1500);
-    missed.notes = u"The best flight of the day."_s;
+    missed.notes = pictures.written(u"The best flight of the day."_s, u"Der beste Flug des Tages."_s);
     catalogue.models.first().log.append(missed);
     put(CatalogueFile::save(catalogue).document);
 }
 
-/** Triggers an action of the menus, and hands the box that it opens over when it is ready. */
-template <typename IsReady, typename Draw>
-void openBox(MainWindow &window, const QString &text, IsReady isReady, Draw draw)
+bool isRead(const QAbstractItemModel &copies)
+{
+    for (int row = 0; row < copies.rowCount(); ++row) {
+        if (copies.index(row, 2).data() == u"…"_s)
+            return false;
+    }
+    return true;
+}
+
+/** Chooses the copy with the flight that is missing. @return whether all copies are read, and what differs.
+ */
+bool isReady(const QDialog &box)
+{
+    constexpr int Missed = 1; // its row
+    bool differs = false;
+    const auto tables = box.findChildren<QTableView *>();
+    for (QTableView *table : tables) {
+        if (table->accessibleName() != BackupsDialog::tr("Copies, the newest first")) {
+            differs = table->model()->rowCount() > 0;
+        } else if (!isRead(*table->model())) {
+            return false;
+        } else if (table->currentIndex().row() != Missed) {
+            table->selectRow(Missed);
+            return false;
+        }
+    }
+    return differs;
+}
+
+/** From the menu, as a pilot does. */
+void drawBackups(const MainWindow &window, const ManualPictures &pictures)
 {
     QTimer looking;
-    QObject::connect(&looking, &QTimer::timeout, &looking, [&] {
+    QObject::connect(&looking, &QTimer::timeout, &looking, [&pictures] {
         auto *box = qobject_cast<QDialog *>(QApplication::activeModalWidget());
         if (!box || !isReady(*box))
             return;
-        draw(*box);
+        pictures.save(box->grab(), u"backups"_s);
         box->reject();
     });
     looking.start(100);
-    const auto actions = window.menuBar()->findChildren<QAction *>() + window.findChildren<QAction *>();
-    for (QAction *action : actions) {
-        if (action->text().remove(u'&') == text)
-            return action->trigger();
-    }
-    qFatal("There is no %s.", qPrintable(text));
+    const auto actions = window.findChildren<QAction *>();
+    const auto action = std::find_if(actions.cbegin(), actions.cend(), [](const QAction *each) {
+        return each->text() == MainWindow::tr("&Backups…");
+    });
+    (*action)->trigger();
 }
 
 } // namespace
@@ -82,12 +112,12 @@ void openBox(MainWindow &window, const QString &text, IsReady isReady, Draw draw
 int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 3)
-        qFatal("usage: dialogmaker SAMPLE DIRECTORY");
+    const ManualPictures pictures;
     const QTemporaryDir place;
     const StorageFolder folder(place.path());
-    fill(folder, WholeFile::read(arguments.at(1)).bytes);
+    fill(folder, pictures);
+    for (const QString &tab : {u"today"_s, u"batteries"_s, u"flights"_s, u"statistics"_s})
+        pictures.save(MainWindow::picture(folder, tab), u"panel-"_s + tab);
     UnattendedQuestions nobody;
     MainWindow window(nobody);
     auto lock = std::make_shared<FolderLock>();
@@ -95,26 +125,8 @@ int main(int argc, char *argv[])
         qFatal("%s", qPrintable(problem));
     window.open(folder, std::move(lock));
     window.show();
-    constexpr int Missed = 1; // the row of the copy with the flight that is missing
-    openBox(
-        window, u"Backups…"_s,
-        [](QDialog &box) {
-            bool isReady = true;
-            const auto tables = box.findChildren<QTableView *>();
-            for (QTableView *table : tables) {
-                const QAbstractItemModel *model = table->model();
-                const bool isOfCopies = table->accessibleName() == "Copies, the newest first"_L1;
-                for (int row = 0; isOfCopies && row < model->rowCount(); ++row)
-                    isReady = isReady && model->index(row, 2).data() != u"…"_s;
-                isReady = isReady && model->rowCount() > 0;
-                if (isOfCopies && table->currentIndex().row() != Missed)
-                    table->selectRow(Missed);
-            }
-            return isReady;
-        },
-        [&](QDialog &box) {
-            if (!box.grab().save(QDir(arguments.at(2)).filePath(u"backups.png"_s), "PNG"))
-                qFatal("Cannot write the picture.");
-        });
+    while (folder.backups().entryList(QDir::Files).size() <= 3) // the program makes one of its own
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 50);
+    drawBackups(window, pictures);
     return EXIT_SUCCESS;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Plays a day at the field through with the sample logbook, and saves the import of the radio's card as
 // pictures of the manual.
+#include "docs/pictures/manualpictures.h"
 #include "gui/voltbokgui.h"
 #include "host/safety/folderlock.h"
 #include "host/window/columnsdialog.h"
@@ -55,7 +56,7 @@ private:
 class Evening
 {
 public:
-    Evening(const QString &folder, const QString &card, const QString &pictures)
+    Evening(const QString &folder, const QString &card, const ManualPictures &pictures)
         : m_questions(card)
         , m_pictures(pictures)
     {
@@ -77,7 +78,7 @@ private:
     void save(QWidget &widget, const QString &name);
 
     Chooser m_questions;
-    QDir m_pictures;
+    const ManualPictures &m_pictures;
     MainWindow m_window{m_questions};
 };
 
@@ -140,9 +141,7 @@ void Evening::shootColumns(const QString &log)
 void Evening::save(QWidget &widget, const QString &name)
 {
     QCoreApplication::processEvents(); // lays out what was shown
-    const QString file = m_pictures.filePath(name + u".png"_s);
-    if (!widget.grab().save(file, "PNG"))
-        qFatal("Cannot write %s.", qPrintable(file));
+    m_pictures.save(widget.grab(), name);
 }
 
 /** A log with sensors that have other names than usual. */
@@ -166,17 +165,14 @@ int main(int argc, char *argv[])
 {
     QCoreApplication::setApplicationName(u"Voltbok"_s);
     const QApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 3)
-        qFatal("usage: importpictures SAMPLE DIRECTORY");
-
+    const ManualPictures pictures;
     const QTemporaryDir place;
     const QString folder = place.filePath(u"Voltbok"_s);
-    if (!QDir().mkpath(folder) || !QFile::copy(arguments.at(1), folder + u"/voltbok.xml"_s))
-        qFatal("Cannot copy %s.", qPrintable(arguments.at(1)));
+    if (!QDir().mkpath(folder) || !QFile::copy(pictures.sample(), folder + u"/voltbok.xml"_s))
+        qFatal("Cannot copy %s.", qPrintable(pictures.sample()));
     const QString card = PlayedDay::writeCard(place.filePath(u"card"_s));
     ShownClock::set(PlayedDay::at(9, 0));
-    Evening evening(folder, card, arguments.at(2));
+    Evening evening(folder, card, pictures);
     for (int i = 0; i < 2; ++i) {
         ShownClock::set(PlayedDay::clicks().at(i));
         evening.click(PlayedDay::batteries().at(i));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Goes through the window as a pilot does and saves the pages of the manual as pictures.
+#include "docs/pictures/manualpictures.h"
 #include "gui/voltbokgui.h"
 #include "records/batterywidget.h"
 
@@ -7,7 +8,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTimeEdit>
-#include <QDir>
 #include <QFile>
 #include <QList>
 #include <QPainter>
@@ -25,7 +25,7 @@ namespace {
 class Tour
 {
 public:
-    Tour(const QString &storage, const QString &pictures)
+    Tour(const QString &storage, const ManualPictures &pictures)
         : m_pictures(pictures)
     {
         m_window.changeStoragePath(storage);
@@ -51,11 +51,10 @@ private:
     void dischargeFirstCharged();
     QAbstractButton *firstButton(bool charged);
     QPixmap picture();
-    void save(const QPixmap &picture, const QString &name);
-    void shoot(const QString &name) { save(picture(), name); }
+    void shoot(const QString &name) { m_pictures.save(picture(), name); }
 
     VoltbokGui m_window;
-    QDir m_pictures;
+    const ManualPictures &m_pictures;
 };
 
 void Tour::go()
@@ -112,7 +111,7 @@ void Tour::clickTwice()
         painter.drawPixmap(Margin + static_cast<int>(i) * (size.width() + 2 * Margin), Margin,
                            pictures.at(i));
     painter.end();
-    save(all, u"clicks"_s);
+    m_pictures.save(all, u"clicks"_s);
 }
 
 /** The button of the first card on show whose battery is in this state. */
@@ -132,20 +131,15 @@ void Tour::dischargeFirstCharged()
     firstButton(true)->click();
     find<QTimeEdit>(u"sb_log_duration"_s)->setTime(QTime(0, 6, 30));
     find<QSpinBox>(u"sb_log_temp"_s)->setValue(18);
-    find<QPlainTextEdit>(u"ptext_log_notes"_s)->setPlainText(u"First flight with the new tail blades."_s);
+    find<QPlainTextEdit>(u"ptext_log_notes"_s)
+        ->setPlainText(m_pictures.written(u"First flight with the new tail blades."_s,
+                                          u"Erster Flug mit den neuen Heckblättern."_s));
 }
 
 QPixmap Tour::picture()
 {
     QCoreApplication::processEvents(); // lays out what was shown
     return m_window.grab();
-}
-
-void Tour::save(const QPixmap &picture, const QString &name)
-{
-    const QString file = m_pictures.filePath(name + u".png"_s);
-    if (!picture.save(file, "PNG"))
-        qFatal("Cannot write %s.", qPrintable(file));
 }
 
 /** The sample in a folder of its own; the sample itself is never written. */
@@ -161,15 +155,10 @@ QString copyTo(const QTemporaryDir &folder, const QString &sample)
 int main(int argc, char *argv[])
 {
     const QApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments();
-    if (arguments.size() != 3)
-        qFatal("usage: picturemaker SAMPLE DIRECTORY");
-
-    const QString &sample = arguments.at(1);
-    const QString &pictures = arguments.at(2);
-    const QTemporaryDir folderOfClicks;
-    Tour(copyTo(folderOfClicks, sample), pictures).clickTwice(); // in Quick mode, which the other one leaves
+    const ManualPictures pictures;
+    const QTemporaryDir folderOfClicks; // in Quick mode, which the other one leaves
+    Tour(copyTo(folderOfClicks, pictures.sample()), pictures).clickTwice();
     const QTemporaryDir folder;
-    Tour(copyTo(folder, sample), pictures).go();
+    Tour(copyTo(folder, pictures.sample()), pictures).go();
     return EXIT_SUCCESS;
 }

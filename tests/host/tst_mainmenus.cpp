@@ -8,6 +8,7 @@
 #include <QAction>
 #include <QImage>
 #include <QMenuBar>
+#include <QRegularExpression>
 #include <QTextBlock>
 #include <QTimer>
 
@@ -47,7 +48,8 @@ private Q_SLOTS:
     void anotherFolderIsNotAskedForWhereInputWouldBeLost();
     void foldersThatWereOpenAreOffered();
     void theManualOpensOnce();
-    void theManualHasItsPictures();
+    void everyManualHasItsPictures_data();
+    void everyManualHasItsPictures();
     void aboutNamesTheVersionAndTheFolder();
     void windowAndAboutHaveTheIcon();
     void aRenamedModelStaysTheChosenOne_data();
@@ -254,18 +256,30 @@ void MainMenusTest::theManualOpensOnce()
     QVERIFY(window.window().isVisible());
 }
 
-void MainMenusTest::theManualHasItsPictures()
+void MainMenusTest::everyManualHasItsPictures_data()
 {
-    HostWindow window;
-    press(window, QKeySequence(Qt::Key_F1));
-    const auto *manual = window.window().findChild<ManualWindow *>();
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("ending");
+    QTest::newRow("English") << u"en"_s << QString();
+    QTest::newRow("German") << u"de"_s << u"_de"_s;
+}
+
+void MainMenusTest::everyManualHasItsPictures()
+{
+    QFETCH(const QString, language);
+    QFETCH(const QString, ending);
+    QWidget beside;
+    ManualWindow::showBeside(&beside, language);
+    const QRegularExpression name(u"^[a-z-]+%1\\.png$"_s.arg(ending));
     int pictures = 0;
-    for (QTextBlock block = manual->document()->begin(); block.isValid(); block = block.next()) {
+    const QTextDocument *manual = beside.findChild<ManualWindow *>()->document();
+    for (QTextBlock block = manual->begin(); block.isValid(); block = block.next()) {
         for (auto it = block.begin(); !it.atEnd(); ++it) {
             const QTextImageFormat format = it.fragment().charFormat().toImageFormat();
             if (!format.isValid())
                 continue;
             ++pictures;
+            QVERIFY2(name.match(format.name()).hasMatch(), qPrintable(format.name()));
             QVERIFY2(!QImage(u":/manual/"_s + format.name()).isNull(), qPrintable(format.name()));
         }
     }
