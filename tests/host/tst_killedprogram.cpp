@@ -198,7 +198,8 @@ void Victim::died()
     // One that died by itself in the middle of a save did so right after its last report.
     const qint64 death =
         m_killed || m_record.events().isEmpty() ? m_killed : m_record.events().constLast().time;
-    const QString fault = m_process.exitStatus() == QProcess::CrashExit && m_record.changes() > 0
+    const bool hasBegun = m_record.changes() > 0 || !m_record.unfinishedDeed().isEmpty(); // be it its first
+    const QString fault = m_process.exitStatus() == QProcess::CrashExit && hasBegun
                               ? judge(death)
                               : u"ended by itself: "_s + standardError;
     if (!fault.isEmpty()) {
