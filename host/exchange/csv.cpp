@@ -13,7 +13,7 @@ namespace {
 
 constexpr qsizetype ChunkSize = qsizetype(16) * 1024; // what a file buffers itself
 constexpr qsizetype MostBytesOfACharacter = 3;        // in UTF-8, of one unit of UTF-16
-constexpr qsizetype MostBytesOfAValue = 64;
+constexpr qsizetype MostBytesOfAValue = 64;           // a number, a date or a time
 
 bool looksLikeFormula(const QString &text)
 {
@@ -37,6 +37,7 @@ CsvWriter::CsvWriter(CsvStyle style, std::function<ByteSink(const Table &)> sink
     , m_sinkFor(std::move(sinkFor))
     , m_bytes(2 * ChunkSize, Qt::Uninitialized)
     , m_end(m_bytes.data())
+    , m_limit(m_end + m_bytes.size())
 {
     for (const char special : {m_style.separator.front(), '"', '\r', '\n'})
         m_isSpecial.at(static_cast<size_t>(special)) = true;
@@ -54,14 +55,12 @@ void CsvWriter::beginTable(const Table &table)
     endRow();
 }
 
-/** Makes room. Nothing that writes behind m_end may write more than was made. */
-void CsvWriter::reserve(qsizetype bytes)
+void CsvWriter::grow(qsizetype bytes)
 {
     const qsizetype used = m_end - m_bytes.constData();
-    if (used + bytes <= m_bytes.size())
-        return;
     m_bytes.resize(2 * (used + bytes));
     m_end = m_bytes.data() + used;
+    m_limit = m_bytes.data() + m_bytes.size();
 }
 
 void CsvWriter::put(const QByteArray &bytes)
@@ -90,10 +89,12 @@ void CsvWriter::addText(const QString &text)
     const auto *next = QStringView(text).utf16(); // most texts are nothing but ASCII
     const auto *const end = next + text.size();
     bool isSpecial = m_columns == 1 && text.isEmpty(); // many readers skip an empty line
+    char *to = m_end;                                  // a member would be read again behind each character
     for (; next != end && *next < FirstBeyondAscii; ++next) {
         isSpecial |= m_isSpecial[*next];
-        *m_end++ = static_cast<char>(*next);
+        *to++ = static_cast<char>(*next);
     }
+    m_end = to;
     if (next != end) {
         QStringEncoder encoder(QStringEncoder::Utf8, QStringEncoder::Flag::Stateless);
         m_end = encoder.appendToBuffer(m_end, QStringView(next, end));
@@ -123,15 +124,18 @@ void CsvWriter::quoteFrom(qsizetype start)
     *first = '"';
 }
 
-/** With zeros in front, up to a width. */
-void CsvWriter::putNumber(qint64 number, int width)
+void CsvWriter::putNumber(qint64 number)
 {
     reserve(MostBytesOfAValue);
-    for (qint64 least = 10; width > 1; --width, least *= 10) {
-        if (number < least)
-            m_end = std::fill_n(m_end, 1, '0');
-    }
     m_end = std::to_chars(m_end, m_end + MostBytesOfAValue, number).ptr;
+}
+
+/** So many digits, with zeros in front, where there is room for them. */
+void CsvWriter::putDigits(int number, int digits)
+{
+    m_end += digits;
+    for (char *to = m_end; digits > 0; --digits, number /= 10)
+        *--to = static_cast<char>('0' + number % 10);
 }
 
 void CsvWriter::addNumber(qint64 number, int decimals)
@@ -147,7 +151,8 @@ void CsvWriter::addNumber(qint64 number, int decimals)
     for (; fraction % 10 == 0; fraction /= 10)
         --decimals;
     put(m_style.decimalSign);
-    putNumber(fraction, decimals);
+    reserve(decimals);
+    putDigits(static_cast<int>(fraction), decimals);
 }
 
 /** As ISO 8601 has it; QDate's own way makes a text first. */
@@ -157,11 +162,15 @@ void CsvWriter::putDate(QDate date)
     int month = 0;
     int day = 0;
     date.getDate(&year, &month, &day);
-    putNumber(year, 4);
+    reserve(MostBytesOfAValue);
+    if (year >= 0 && year < 10'000)
+        putDigits(year, 4);
+    else
+        putNumber(year);
     *m_end++ = '-';
-    putNumber(month, 2);
+    putDigits(month, 2);
     *m_end++ = '-';
-    putNumber(day, 2);
+    putDigits(day, 2);
 }
 
 void CsvWriter::addDate(QDate date)
@@ -178,12 +187,13 @@ void CsvWriter::addTime(const QDateTime &time)
         return;
     putDate(time.date());
     const int seconds = time.time().msecsSinceStartOfDay() / 1000;
+    reserve(MostBytesOfAValue);
     *m_end++ = ' ';
-    putNumber(seconds / 3600, 2);
+    putDigits(seconds / 3600, 2);
     *m_end++ = ':';
-    putNumber(seconds / 60 % 60, 2);
+    putDigits(seconds / 60 % 60, 2);
     *m_end++ = ':';
-    putNumber(seconds % 60, 2);
+    putDigits(seconds % 60, 2);
 }
 
 void CsvWriter::addNothing()

@@ -45,10 +45,17 @@ public:
 
 private:
     void separate();
-    void reserve(qsizetype bytes);
+    /** Makes room. Nothing that writes behind m_end may write more than was made. */
+    void reserve(qsizetype bytes)
+    {
+        if (m_limit - m_end < bytes)
+            grow(bytes);
+    }
+    void grow(qsizetype bytes);
     void put(const QByteArray &bytes);
     void quoteFrom(qsizetype start);
-    void putNumber(qint64 number, int width = 0);
+    void putNumber(qint64 number);
+    void putDigits(int number, int digits);
     void putDate(QDate date);
     void flush();
 
@@ -58,6 +65,7 @@ private:
     std::array<bool, 128> m_isSpecial = {}; ///< characters that make a cell be quoted
     QByteArray m_bytes;                     ///< room for those that the sink has not got yet
     char *m_end;                            ///< of them
+    char *m_limit;                          ///< of the room
     qsizetype m_columns = 0;
     qsizetype m_column = 0;
     bool m_isWritten = true;
