@@ -151,7 +151,7 @@ void CardsTest::theSystemsOwnVolumeIsNone()
         QVERIFY(!volume.name.isEmpty());
         ids.insert(volume.id);
     }
-    QVERIFY(ids.size() > volumes.size() / 2); // the system mounts some of its own
+    QVERIFY(2 * ids.size() >= volumes.size()); // the system mounts some of its own, if any
 }
 
 void CardsTest::aLogIsKnownByItsNameAndLengthOrItsBytes()

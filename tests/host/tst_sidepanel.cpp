@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
+#include <QTableView>
 
 using namespace Host;
 using namespace Qt::Literals::StringLiterals;
@@ -140,7 +141,9 @@ void SidePanelTest::everyTabFollowsTheCalendar()
     tabs.setCurrentIndex(tab);
     tabs.refreshNow();
     QTest::qWait(10);
-    const QAbstractItemModel &model = *tabs.currentWidget()->findChild<QAbstractItemView *>()->model();
+    const QList<QAbstractItemView *> views{&list(window), tabs.m_batteries->m_table, nullptr,
+                                           tabs.m_statistics->m_table};
+    const QAbstractItemModel &model = *views.at(tab)->model();
     QVERIFY(model.rowCount() > 0);
     // What the tabs show is lost, so that only a refresh brings it back.
     list(window).clear();

@@ -40,6 +40,12 @@ def wait_for(what, found, patience=PATIENCE):
         time.sleep(0.05)
 
 
+def role_of(item):
+    """The name of its role; newer versions of AT-SPI call a push button a button."""
+    name = item.getRoleName()
+    return "push button" if name == "button" else name
+
+
 class Screen:
     """Xvfb with a window manager; whatever is written goes to a home of its own."""
 
@@ -114,7 +120,7 @@ class Program:
         for child in item or self.root:
             if child and self.shows(child):
                 yield child
-                if child.getRoleName() != "menu item":
+                if role_of(child) != "menu item":
                     yield from self.items(child)
 
     def menu_items(self, item):
@@ -127,7 +133,7 @@ class Program:
         """The object on show with this role, whose name matches a regular expression."""
         def look():
             for item in self.items(where):
-                if item.getRoleName() == role and re.fullmatch(name, item.name):
+                if role_of(item) == role and re.fullmatch(name, item.name):
                     return item
             return None
         return wait_for(f"the {role} “{name}”", look)
@@ -141,7 +147,7 @@ class Program:
         """A combo box is named after its value; its label or description says what it is."""
         def look():
             for item in self.items():
-                if item.getRoleName() == "combo box" and name in [*self.labels(item), item.description]:
+                if role_of(item) == "combo box" and name in [*self.labels(item), item.description]:
                     return item
             return None
         return wait_for(f"the combo box for “{name}”", look)
@@ -150,7 +156,7 @@ class Program:
         """An input that has this name, or a label that says so."""
         def look():
             for item in self.items():
-                if item.getRoleName() == role and name in [item.name, *self.labels(item)]:
+                if role_of(item) == role and name in [item.name, *self.labels(item)]:
                     return item
             return None
         return wait_for(f"the {role} for “{name}”", look)
@@ -159,22 +165,22 @@ class Program:
         """What can have the focus and could not be told from anything else."""
         found = []
         for item in self.items():
-            if self.atspi.STATE_FOCUSABLE not in self.states(item) or item.getRoleName() in NAMELESS:
+            if self.atspi.STATE_FOCUSABLE not in self.states(item) or role_of(item) in NAMELESS:
                 continue
             said = [*self.labels(item), item.description]
             # A combo box is named after its value, which does not say what it is for. Those of the box in which a
             # file is chosen are Qt's, or the desktop's.
-            if item.getRoleName() != "combo box" or f"dialog “{FILE_DIALOG}”" in self.path(item):
+            if role_of(item) != "combo box" or f"dialog “{FILE_DIALOG}”" in self.path(item):
                 said.append(item.name)
             if not "".join(said).strip():
-                found.append(f"{item.getRoleName()} “{item.name}” in {self.path(item)}")
+                found.append(f"{role_of(item)} “{item.name}” in {self.path(item)}")
         return found
 
     def path(self, item):
         names = []
         while item.parent and item.parent != self.root:
             item = item.parent
-            names.append(f"{item.getRoleName()} “{item.name}”")
+            names.append(f"{role_of(item)} “{item.name}”")
         return " in ".join(names)
 
     def act(self, item, *actions):
@@ -184,7 +190,7 @@ class Program:
         for action in actions:
             if action in names:
                 return self.do_action(interface, names.index(action))
-        raise Failure(f"the {item.getRoleName()} “{item.name}” has none of {actions}, but {names}")
+        raise Failure(f"the {role_of(item)} “{item.name}” has none of {actions}, but {names}")
 
     @staticmethod
     def do_action(interface, number):
@@ -219,7 +225,7 @@ class Program:
         wait_for(f"{value} in “{name}”", lambda: field.currentValue == value)
 
     def has_focus(self, role, name):
-        return any(self.atspi.STATE_FOCUSED in self.states(item) and item.getRoleName() == role and
+        return any(self.atspi.STATE_FOCUSED in self.states(item) and role_of(item) == role and
                    any(re.fullmatch(name, said) for said in (item.name, *self.labels(item)))
                    for item in self.items())
 
