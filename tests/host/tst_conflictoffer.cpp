@@ -115,6 +115,7 @@ private Q_SLOTS:
     void nothingNewIsPutAside();
     void aFlightThatIsBeingEnteredIsNotLost();
     void measuredValuesComeAlong();
+    void itsFirstSizeShowsWholeRows();
 };
 
 void ConflictOfferTest::theNamesOfThreeSynchronisersAreKnown_data()
@@ -332,6 +333,29 @@ void ConflictOfferTest::measuredValuesComeAlong()
     QVERIFY(changed.window.logbook().catalogue()->batteries.at(0).discharges.constLast().isMeasured);
     QVERIFY(!QFileInfo::exists(path));
     QCOMPARE(QDir(changed.window.path() + u"/backups"_s).entryList({u"voltbok-merged-*.json"_s}).size(), 1);
+}
+
+void ConflictOfferTest::itsFirstSizeShowsWholeRows()
+{
+    Merge plan;
+    for (int i = 0; i < 5; ++i) {
+        MergeConflict conflict;
+        conflict.name = u"Skylark"_s;
+        conflict.field = u"notes"_s;
+        conflict.ours = u"Calm"_s;
+        conflict.theirs = u"Gusts from the west, and the long grass took the landing gear "_s.repeated(4);
+        plan.conflicts.append(conflict);
+    }
+    MergeDialog dialog(plan, true, Conflict);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    auto *table = dialog.findChild<QTableWidget *>();
+    for (int row = 0; row < table->rowCount(); ++row) {
+        const QRect cell = table->visualItemRect(table->item(row, 0));
+        QVERIFY2(table->viewport()->rect().contains(cell.center()), qPrintable(QString::number(row)));
+    }
+    QVERIFY(table->columnWidth(3) < dialog.fontMetrics().averageCharWidth() * 60);
+    QCOMPARE(table->item(0, 3)->toolTip(), plan.conflicts.constFirst().theirs.toString());
 }
 
 QTEST_MAIN(ConflictOfferTest)
