@@ -7,19 +7,15 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
-#include <QScrollBar>
 #include <QTableWidget>
 #include <QVBoxLayout>
-
-#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace Host {
 namespace {
 
-constexpr int WidestColumn = 40; // in characters
-constexpr int RowsAtLeast = 5;   // that are seen at once, where there are as many
+constexpr int WidestColumn = 40; // in characters; a long note would leave the rows no height
 
 QString describe(const MergeConflict &conflict)
 {
@@ -181,10 +177,6 @@ void MergeDialog::fill(const QList<MergeConflict> &conflicts)
     m_conflicts->setCurrentCell(0, 0);
     // As wide as its columns are, so that the dialog shows all of them where the screen has the room.
     m_conflicts->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-    const int rows = std::min(m_conflicts->rowCount(), RowsAtLeast);
-    m_conflicts->setMinimumHeight(m_conflicts->horizontalHeader()->sizeHint().height() +
-                                  rows * m_conflicts->verticalHeader()->defaultSectionSize() +
-                                  m_conflicts->horizontalScrollBar()->sizeHint().height());
 }
 
 QSet<qsizetype> MergeDialog::chosen() const
